@@ -1,0 +1,286 @@
+#include "buttonrecord.h"
+
+#include "texthelpers.h"
+
+#include <limits>
+#include <variant>
+
+namespace orvelin {
+
+const char* const kFactoryDefaultButton =
+    "0|0|107|40||||||_self|1|0|0||||65535|16776960|255|0|16711680|16777215|Arial|Arial|Arial|0|0|"
+    "0|10|10|10||||0|0|0|0|0|0|53|25|53|31|53|37|0||||";
+
+const char* StateName(ButtonState state) {
+    switch (state) {
+    case ButtonState::UP:
+        return "UP";
+    case ButtonState::OVER:
+        return "OVER";
+    case ButtonState::DOWN:
+        return "DOWN";
+    }
+    return "UP";
+}
+
+bool StateFromName(std::string_view name, ButtonState& state) {
+    if (name == "UP")
+        state = ButtonState::UP;
+    else if (name == "OVER")
+        state = ButtonState::OVER;
+    else if (name == "DOWN")
+        state = ButtonState::DOWN;
+    else
+        return false;
+    return true;
+}
+
+std::string FontStyleCode(bool bold, bool italic) {
+    if (bold && italic)
+        return "3";
+    if (bold)
+        return "1";
+    if (italic)
+        return "2";
+    return "0";
+}
+
+void FontStyleFlags(std::string_view code, bool& bold, bool& italic) {
+    // Anything but the four digits draws regular, as the applet does.
+    const int value = code.size() == 1 ? code[0] - '0' : 0;
+    bold = value == 1 || value == 3;
+    italic = value == 2 || value == 3;
+}
+
+namespace {
+
+template <typename T> T& pick(ButtonState s, T& up, T& over, T& down) {
+    switch (s) {
+    case ButtonState::OVER:
+        return over;
+    case ButtonState::DOWN:
+        return down;
+    case ButtonState::UP:
+        break;
+    }
+    return up;
+}
+
+using FieldRef = std::variant<std::int16_t*, std::int32_t*, std::string*>;
+
+FieldRef fieldRef(ButtonRecord& r, int pos) {
+    switch (pos) {
+    case 0: return &r.x;
+    case 1: return &r.y;
+    case 2: return &r.Width;
+    case 3: return &r.Height;
+    case 4: return &r.LabelUP;
+    case 5: return &r.LabelOVER;
+    case 6: return &r.LabelDOWN;
+    case 7: return &r.URL;
+    case 8: return &r.Status;
+    case 9: return &r.Target;
+    case 10: return &r.Border;
+    case 11: return &r.noBackGround;
+    case 12: return &r.ShowHand;
+    case 13: return &r.ImageUP;
+    case 14: return &r.ImageOVER;
+    case 15: return &r.ImageDOWN;
+    case 16: return &r.BackColorUP;
+    case 17: return &r.BackColorOVER;
+    case 18: return &r.BackColorDOWN;
+    case 19: return &r.FontColorUP;
+    case 20: return &r.FontColorOVER;
+    case 21: return &r.FontColorDOWN;
+    case 22: return &r.FontUP;
+    case 23: return &r.FontOVER;
+    case 24: return &r.FontDOWN;
+    case 25: return &r.FontStyleUP;
+    case 26: return &r.FontStyleOVER;
+    case 27: return &r.FontStyleDOWN;
+    case 28: return &r.FontSizeUP;
+    case 29: return &r.FontSizeOVER;
+    case 30: return &r.FontSizeDOWN;
+    case 31: return &r.SndUP;
+    case 32: return &r.SndOVER;
+    case 33: return &r.SndDOWN;
+    case 34: return &r.ImgStyleUP;
+    case 35: return &r.ImgStyleOVER;
+    case 36: return &r.ImgStyleDOWN;
+    case 37: return &r.PositionTextUP;
+    case 38: return &r.PositionTextOVER;
+    case 39: return &r.PositionTextDOWN;
+    case 40: return &r.LabelPosXUP;
+    case 41: return &r.LabelPosYUP;
+    case 42: return &r.LabelPosXOVER;
+    case 43: return &r.LabelPosYOVER;
+    case 44: return &r.LabelPosXDOWN;
+    case 45: return &r.LabelPosYDOWN;
+    case 46: return &r.Hidden;
+    case 47: return &r.ProgramUP;
+    case 48: return &r.ProgramOVER;
+    default: return &r.ProgramDOWN;
+    }
+}
+
+} // namespace
+
+// clang-format off
+#define ORVELIN_STATE_ACCESSORS(Type, Name)                                                        \
+    Type& ButtonRecord::Name(ButtonState s) { return pick(s, Name##UP, Name##OVER, Name##DOWN); }  \
+    const Type& ButtonRecord::Name(ButtonState s) const {                                          \
+        return pick(s, Name##UP, Name##OVER, Name##DOWN);                                          \
+    }
+#define ORVELIN_STATE_VALUE_ACCESSORS(Type, Name)                                                  \
+    Type& ButtonRecord::Name(ButtonState s) { return pick(s, Name##UP, Name##OVER, Name##DOWN); }  \
+    Type ButtonRecord::Name(ButtonState s) const {                                                 \
+        return pick(s, Name##UP, Name##OVER, Name##DOWN);                                          \
+    }
+// clang-format on
+
+ORVELIN_STATE_ACCESSORS(std::string, Label)
+ORVELIN_STATE_ACCESSORS(std::string, Image)
+ORVELIN_STATE_ACCESSORS(std::string, Font)
+ORVELIN_STATE_ACCESSORS(std::string, FontStyle)
+ORVELIN_STATE_ACCESSORS(std::string, Program)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int32_t, BackColor)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int32_t, FontColor)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, FontSize)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, ImgStyle)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, PositionText)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, LabelPosX)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, LabelPosY)
+
+std::string& ButtonRecord::Sound(ButtonState s) { return pick(s, SndUP, SndOVER, SndDOWN); }
+const std::string& ButtonRecord::Sound(ButtonState s) const {
+    return pick(s, SndUP, SndOVER, SndDOWN);
+}
+
+#undef ORVELIN_STATE_ACCESSORS
+#undef ORVELIN_STATE_VALUE_ACCESSORS
+
+const std::array<ButtonField, kButtonFieldCount>& ButtonFields() {
+    using K = FieldKind;
+    static const std::array<ButtonField, kButtonFieldCount> fields = {{
+        {"x", K::Int16},
+        {"y", K::Int16},
+        {"Width", K::Int16},
+        {"Height", K::Int16},
+        {"LabelUP", K::Label},
+        {"LabelOVER", K::Label},
+        {"LabelDOWN", K::Label},
+        {"URL", K::Text},
+        {"Status", K::Text},
+        {"Target", K::Text},
+        {"Border", K::Int16},
+        {"noBackGround", K::Int16},
+        {"ShowHand", K::Int16},
+        {"ImageUP", K::File},
+        {"ImageOVER", K::File},
+        {"ImageDOWN", K::File},
+        {"BackColorUP", K::Color},
+        {"BackColorOVER", K::Color},
+        {"BackColorDOWN", K::Color},
+        {"FontColorUP", K::Color},
+        {"FontColorOVER", K::Color},
+        {"FontColorDOWN", K::Color},
+        {"FontUP", K::Raw},
+        {"FontOVER", K::Raw},
+        {"FontDOWN", K::Raw},
+        {"FontStyleUP", K::Raw},
+        {"FontStyleOVER", K::Raw},
+        {"FontStyleDOWN", K::Raw},
+        {"FontSizeUP", K::Int16},
+        {"FontSizeOVER", K::Int16},
+        {"FontSizeDOWN", K::Int16},
+        {"SndUP", K::File},
+        {"SndOVER", K::File},
+        {"SndDOWN", K::File},
+        {"ImgStyleUP", K::Int16},
+        {"ImgStyleOVER", K::Int16},
+        {"ImgStyleDOWN", K::Int16},
+        {"PositionTextUP", K::Int16},
+        {"PositionTextOVER", K::Int16},
+        {"PositionTextDOWN", K::Int16},
+        {"LabelPosXUP", K::Int16},
+        {"LabelPosYUP", K::Int16},
+        {"LabelPosXOVER", K::Int16},
+        {"LabelPosYOVER", K::Int16},
+        {"LabelPosXDOWN", K::Int16},
+        {"LabelPosYDOWN", K::Int16},
+        {"Hidden", K::Int16},
+        {"ProgramUP", K::Raw},
+        {"ProgramOVER", K::Raw},
+        {"ProgramDOWN", K::Raw},
+    }};
+    return fields;
+}
+
+std::string FieldText(const ButtonRecord& record, int pos) {
+    // fieldRef only hands out pointers; reading through them does not modify.
+    const FieldRef ref = fieldRef(const_cast<ButtonRecord&>(record), pos);
+    if (auto p = std::get_if<std::string*>(&ref))
+        return **p;
+    if (auto p = std::get_if<std::int16_t*>(&ref))
+        return std::to_string(**p);
+    return std::to_string(*std::get<std::int32_t*>(ref));
+}
+
+FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
+    const FieldRef ref = fieldRef(record, pos);
+    if (auto p = std::get_if<std::string*>(&ref)) {
+        (*p)->assign(text);
+        return {};
+    }
+    const bool wide = std::holds_alternative<std::int32_t*>(ref);
+    const WholeNumber n =
+        wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
+                                std::numeric_limits<std::int32_t>::max())
+             : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
+                                std::numeric_limits<std::int16_t>::max());
+    if (n.error != NumberError::None)
+        return {pos, NumberErrorText(n.error)};
+    if (wide)
+        *std::get<std::int32_t*>(ref) = static_cast<std::int32_t>(n.value);
+    else
+        *std::get<std::int16_t*>(ref) = static_cast<std::int16_t>(n.value);
+    return {};
+}
+
+std::string SerializeButton(const ButtonRecord& record) {
+    std::string out;
+    out.reserve(256);
+    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
+        if (ButtonFields()[pos].kind == FieldKind::Label)
+            out += EncodeLabel(FieldText(record, pos));
+        else
+            out += FieldText(record, pos);
+        out += '|';
+    }
+    return out;
+}
+
+FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPosition) {
+    int pos = 0;
+    std::size_t start = 0;
+    while (pos < kButtonFieldCount) {
+        const std::size_t bar = line.find('|', start);
+        if (bar == std::string_view::npos)
+            break; // text after the last "|" is ignored; later fields stay as they were
+        const std::string_view field = line.substr(start, bar - start);
+        start = bar + 1;
+        if (!applyPosition && pos < 2) {
+            ButtonRecord scratch;
+            if (FieldError e = SetFieldText(scratch, pos, field))
+                return e;
+        } else if (ButtonFields()[pos].kind == FieldKind::Label) {
+            SetFieldText(record, pos, DecodeLabel(field));
+        } else if (FieldError e = SetFieldText(record, pos, field)) {
+            return e;
+        }
+        ++pos;
+    }
+    return {};
+}
+
+} // namespace orvelin

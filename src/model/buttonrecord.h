@@ -1,0 +1,136 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace orvelin {
+
+/// The three visual states of a button; every per-state triple is kept in this order.
+enum class ButtonState { UP = 0, OVER = 1, DOWN = 2 };
+
+const char* StateName(ButtonState state);              ///< "UP", "OVER", "DOWN"
+bool StateFromName(std::string_view name, ButtonState& state);
+
+/// Font style code "0".."3" from the two style toggles and back.
+std::string FontStyleCode(bool bold, bool italic);
+void FontStyleFlags(std::string_view code, bool& bold, bool& italic);
+
+/**
+ * One button's 50 properties, in the order of its pipe-separated form (the
+ * default-button setting, a project-file button line, an applet parameter).
+ * Colours are 0x00BBGGRR; flags are 0 or 1 (a -1 from a comparison is kept).
+ */
+struct ButtonRecord {
+    std::int16_t x = 0;
+    std::int16_t y = 0;
+    std::int16_t Width = 107;
+    std::int16_t Height = 40;
+    std::string LabelUP, LabelOVER, LabelDOWN;
+    std::string URL;
+    std::string Status;
+    std::string Target = "_self";
+    std::int16_t Border = 1;
+    std::int16_t noBackGround = 0;
+    std::int16_t ShowHand = 0;
+    std::string ImageUP, ImageOVER, ImageDOWN;
+    std::int32_t BackColorUP = 65535;
+    std::int32_t BackColorOVER = 16776960;
+    std::int32_t BackColorDOWN = 255;
+    std::int32_t FontColorUP = 0;
+    std::int32_t FontColorOVER = 16711680;
+    std::int32_t FontColorDOWN = 16777215;
+    std::string FontUP = "Arial", FontOVER = "Arial", FontDOWN = "Arial";
+    std::string FontStyleUP = "0", FontStyleOVER = "0", FontStyleDOWN = "0";
+    std::int16_t FontSizeUP = 10, FontSizeOVER = 10, FontSizeDOWN = 10;
+    std::string SndUP, SndOVER, SndDOWN;
+    std::int16_t ImgStyleUP = 0, ImgStyleOVER = 0, ImgStyleDOWN = 0;
+    std::int16_t PositionTextUP = 0, PositionTextOVER = 0, PositionTextDOWN = 0;
+    std::int16_t LabelPosXUP = 53, LabelPosYUP = 25;
+    std::int16_t LabelPosXOVER = 53, LabelPosYOVER = 31;
+    std::int16_t LabelPosXDOWN = 53, LabelPosYDOWN = 37;
+    std::int16_t Hidden = 0;
+    std::string ProgramUP, ProgramOVER, ProgramDOWN;
+
+    // Per-state access, so that editor code never spells out the triple.
+    std::string& Label(ButtonState s);
+    const std::string& Label(ButtonState s) const;
+    std::string& Image(ButtonState s);
+    const std::string& Image(ButtonState s) const;
+    std::string& Sound(ButtonState s);
+    const std::string& Sound(ButtonState s) const;
+    std::string& Font(ButtonState s);
+    const std::string& Font(ButtonState s) const;
+    std::string& FontStyle(ButtonState s);
+    const std::string& FontStyle(ButtonState s) const;
+    std::string& Program(ButtonState s);
+    const std::string& Program(ButtonState s) const;
+    std::int32_t& BackColor(ButtonState s);
+    std::int32_t BackColor(ButtonState s) const;
+    std::int32_t& FontColor(ButtonState s);
+    std::int32_t FontColor(ButtonState s) const;
+    std::int16_t& FontSize(ButtonState s);
+    std::int16_t FontSize(ButtonState s) const;
+    std::int16_t& ImgStyle(ButtonState s);
+    std::int16_t ImgStyle(ButtonState s) const;
+    std::int16_t& PositionText(ButtonState s);
+    std::int16_t PositionText(ButtonState s) const;
+    std::int16_t& LabelPosX(ButtonState s);
+    std::int16_t LabelPosX(ButtonState s) const;
+    std::int16_t& LabelPosY(ButtonState s);
+    std::int16_t LabelPosY(ButtonState s) const;
+
+    bool operator==(const ButtonRecord&) const = default;
+};
+
+inline constexpr int kButtonFieldCount = 50;
+
+/// How a field is held: which decides its conversion and its encodings.
+enum class FieldKind {
+    Int16,  ///< signed 16-bit decimal
+    Color,  ///< signed 32-bit decimal, a colour
+    Label,  ///< text through EncodeLabel/DecodeLabel in files
+    Text,   ///< URL, status and target: raw in files, EncodeLabel for the applet
+    File,   ///< image and sound paths: raw in files, bare encoded name for the applet
+    Raw,    ///< fonts, style codes, programs: raw everywhere
+};
+
+struct ButtonField {
+    const char* name;
+    FieldKind kind;
+};
+
+/// The 50 fields in their canonical order.
+const std::array<ButtonField, kButtonFieldCount>& ButtonFields();
+
+/// Field `pos` as stored text (integers in decimal, texts as they are, no encoding).
+std::string FieldText(const ButtonRecord& record, int pos);
+
+/// Result of assigning one field from text: an integer field holding no number is a
+/// conversion error, named as the designer names it ("Type mismatch", "Overflow").
+struct FieldError {
+    int position = -1; ///< -1: no error
+    std::string description;
+    explicit operator bool() const { return position >= 0; }
+};
+
+/// Assigns field `pos` from stored text (no decoding). Leaves the field as it was on error.
+FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text);
+
+/// The 50 fields each followed by "|"; labels through EncodeLabel.
+std::string SerializeButton(const ButtonRecord& record);
+
+/**
+ * Fills `record` from a pipe-separated line: every "|" closes a field, text after the
+ * last "|" is ignored, missing fields stay as they were. Labels go through DecodeLabel.
+ * Stops at the first conversion error, leaving the fields before it assigned.
+ * Without `applyPosition`, x and y are checked but not assigned (a new button keeps
+ * the position of its table slot).
+ */
+FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPosition = true);
+
+/// The factory default-button string.
+extern const char* const kFactoryDefaultButton;
+
+} // namespace orvelin

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace orvelin {
+
+/**
+ * Every text the core shows the user, by name. The table starts with the English
+ * defaults; a language file replaces entries in place. The order of the entries is
+ * the order in which a language file's message lines fill them: append, never reorder.
+ */
+enum class Msg : std::size_t {
+    // Progress window.
+    PleaseWait,
+    SavingButtonsToFile,
+    SavingButton,   ///< followed by "<i> of <n>"
+    OfWord,         ///< " of "
+    LoadingProject,
+    LoadingButton,  ///< followed by "<i> of <n>"
+    GeneratingHtml,
+    // Project file.
+    ErrorSaving,
+    ErrorLoading,
+    EarlierVersionTitle,
+    EarlierVersion,
+    EarlierVersionNote,
+    UnsupportedFile,
+    // Editor.
+    ButtonLimit,
+    ButtonLimitHint,
+    AskToSaveProject,
+    AskToSaveChanged,
+    AskToSaveQuestion,
+    NothingSelected,
+    DefaultButtonStored,
+    SoundConvNotFound,
+    SettingsCorrupted,
+    SettingsRestored,
+    LanguageNextStart,
+    PropertiesForButton,
+    ButtonPrefix,
+    // Painting.
+    SomethingWrong,
+    OnDrawLabel,
+    // Action editor.
+    NoButtonsOnApplet,
+    WrongParameters,
+    WrongReturnParameters,
+    // Publishing.
+    CantCopyBackground,
+    CantCopyButtonFiles,
+    PressCancelToStop,
+    CantCopyAppletClassFiles,
+    CantCopyClassFiles,
+    // Language files.
+    LanguageFile,
+    LanguageFileNotFound,
+    Count
+};
+
+class MessageTable {
+public:
+    MessageTable(); ///< filled with the English defaults
+
+    const std::string& operator[](Msg id) const { return m_texts[static_cast<std::size_t>(id)]; }
+    void set(Msg id, std::string text) { m_texts[static_cast<std::size_t>(id)] = std::move(text); }
+
+    static const char* englishDefault(Msg id);
+
+private:
+    std::array<std::string, static_cast<std::size_t>(Msg::Count)> m_texts;
+};
+
+/// The program's one message table.
+MessageTable& Messages();
+
+/// Carriage return and line feed, the line break of every text the program writes.
+inline constexpr std::string_view kCrLf = "\r\n";
+
+} // namespace orvelin

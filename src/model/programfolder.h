@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace orvelin {
+
+/**
+ * The folder that holds the program's own data files (Orvel.ini, help, language
+ * files, the applet files). Found in this order: an explicit override (the
+ * command line's --program-dir), ORVELIN_PROGRAM_DIR, the executable's folder when
+ * it holds Orvel.ini, <executable folder>/../share/orvelin.
+ */
+std::string ProgramFolder();
+
+/// Sets the override; an empty text removes it.
+void SetProgramFolderOverride(const std::string& folder);
+
+/// `folder` joined with `name`; either may use "/" or "\".
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// Everything up to and including the last "/" or "\" of `path` ("" without one).
+std::string FolderOf(std::string_view path);
+
+/**
+ * Where the program writes its own files (AppletTemp, the Global section): the
+ * program folder when it is writable, else the same place under the per-user data
+ * folder (~/.local/share/Orvelin, or $XDG_DATA_HOME/Orvelin).
+ */
+std::string WritableProgramFolder();
+
+} // namespace orvelin

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "buttonrecord.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace orvelin {
+
+/// The version text that names project files and settings sections.
+inline constexpr const char* kVersionText = "1.0  Beta 6";
+inline constexpr int kMaxButtons = 101;
+inline constexpr int kButtonSlots = 103; ///< slots 0 to 102; slot 0 is never a button
+
+/**
+ * The one open project: applet-level settings and buttons 1 to ButtonCount in
+ * z-order (a later button is drawn over an earlier one), plus the editing state
+ * that lives beside it and is never saved.
+ */
+struct ProjectModel {
+    std::int16_t AppletWidth = 510;
+    std::int16_t AppletHeight = 170;
+    std::int16_t ButtonCount = 0;
+    std::int16_t Behaviour = 0;
+    std::int16_t DOWNBtn = 0;
+    std::int32_t BackGround = 0;
+    std::string BackImg;
+    std::int16_t BackImgStyle = 0;
+    std::string AppletProgramOVER;
+    std::string AppletProgramDOWN;
+    std::string AppletProgramOUT;
+    std::int16_t BgOffsetX = 0;
+    std::int16_t BgOffsetY = 0;
+    std::string AppletProgramStart;
+    std::string AppletName;
+    std::array<ButtonRecord, kButtonSlots> Buttons{};
+
+    // Editing state.
+    std::int16_t CurrentButton = 0;
+    std::string CurrentState = "UP";
+    std::string ProjectFileName;
+    bool Saved = true;
+    bool Updating = false;
+
+    /// Button `index`; an index outside 0 to 102 throws std::out_of_range.
+    ButtonRecord& Button(int index) { return Buttons.at(static_cast<std::size_t>(index)); }
+    const ButtonRecord& Button(int index) const {
+        return Buttons.at(static_cast<std::size_t>(index));
+    }
+
+    /// The state being edited; "UP" when CurrentState holds anything else.
+    ButtonState EditedState() const;
+
+    /// The new-project reset: no buttons, no background image, no applet programs,
+    /// no file name, saved. Size, colour, placement, offset, behaviour and name stay.
+    void Reset();
+
+    enum class AddResult { Added, LimitReached, CorruptDefault };
+    /**
+     * Appends a button made from a serialised default record (x and y are not applied:
+     * the button keeps the position held by its table slot). Refused at 101 buttons.
+     * On CorruptDefault the model is unchanged and `error` says which field failed.
+     */
+    AddResult AddButton(std::string_view defaultButton, FieldError* error = nullptr);
+
+    /// Appends a copy of button `source`; refused at 101 buttons.
+    AddResult DuplicateButton(int source);
+
+    /// Removes button `index`, moving the later ones down by one place.
+    void RemoveButton(int index);
+
+    /**
+     * The program slot named by a ProgramKind ("ProgramUP", ..., "AppletProgramOUT");
+     * the button kinds take the slot of button `button`. Nullptr for an unknown kind.
+     */
+    std::string* ProgramSlot(std::string_view kind, int button);
+};
+
+/// True for "ProgramUP", "ProgramOVER" and "ProgramDOWN".
+bool IsButtonProgramKind(std::string_view kind);
+/// True for the four applet kinds.
+bool IsAppletProgramKind(std::string_view kind);
+
+} // namespace orvelin

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace orvelin {
+
+/**
+ * All the core ever asks of the person in front of it. The Qt layer implements it
+ * with message boxes, file dialogs and the progress window; tests with a scripted
+ * fake that records every question.
+ */
+class UserInterface {
+public:
+    enum class Answer { Yes, No, Cancel, Ok };
+
+    virtual ~UserInterface() = default;
+
+    /// A message with an OK button. An empty title means the program's default title.
+    virtual void showMessage(const std::string& text, const std::string& title = {}) = 0;
+    /// Yes / No / Cancel.
+    virtual Answer askYesNoCancel(const std::string& text, const std::string& title = {}) = 0;
+    /// OK / Cancel.
+    virtual Answer askOkCancel(const std::string& text, const std::string& title = {}) = 0;
+
+    /// File choosers; `filter` is in Qt's form ("Orvelin Files (*.orv);;All Files (*.*)").
+    virtual std::optional<std::string> chooseOpenFile(const std::string& filter) = 0;
+    virtual std::optional<std::string> chooseSaveFile(const std::string& filter,
+                                                      const std::string& proposed) = 0;
+
+    /// The modeless progress window with the busy pointer; `percent` is -1 for none.
+    virtual void showProgress(const std::string& title, const std::string& text, int percent) = 0;
+    virtual void hideProgress() = 0;
+};
+
+/// A user interface that answers nothing and shows nothing but messages on a sink;
+/// the command-line tool builds on it.
+class SilentUserInterface : public UserInterface {
+public:
+    void showMessage(const std::string&, const std::string&) override {}
+    Answer askYesNoCancel(const std::string&, const std::string&) override { return Answer::Cancel; }
+    Answer askOkCancel(const std::string&, const std::string&) override { return Answer::Ok; }
+    std::optional<std::string> chooseOpenFile(const std::string&) override { return {}; }
+    std::optional<std::string> chooseSaveFile(const std::string&, const std::string&) override {
+        return {};
+    }
+    void showProgress(const std::string&, const std::string&, int) override {}
+    void hideProgress() override {}
+};
+
+} // namespace orvelin
