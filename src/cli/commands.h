@@ -1,0 +1,31 @@
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+/**
+ * The commands of orvelin-cli. Each takes the words that follow its name (with
+ * --program-dir already taken out by the dispatcher) and returns the exit status:
+ * 0 done, 1 a load, save or render error (nothing written to `out`), 2 a wrong command
+ * line (a usage text on `err`). Texts the designer would show in a message box go to
+ * `err`.
+ */
+namespace orvelin::cli {
+
+inline constexpr int kExitOk = 0;
+inline constexpr int kExitFailed = 1;
+inline constexpr int kExitUsage = 2;
+
+int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int RunResave(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+#ifdef ORVELIN_CLI_RENDER
+int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+#endif
+
+/// One paragraph per command for --help and usage errors.
+extern const char* const kHtmlUsage;
+extern const char* const kResaveUsage;
+extern const char* const kRenderUsage;
+
+} // namespace orvelin::cli
