@@ -70,56 +70,106 @@ using FieldRef = std::variant<std::int16_t*, std::int32_t*, std::string*>;
 
 FieldRef fieldRef(ButtonRecord& r, int pos) {
     switch (pos) {
-    case 0: return &r.x;
-    case 1: return &r.y;
-    case 2: return &r.Width;
-    case 3: return &r.Height;
-    case 4: return &r.LabelUP;
-    case 5: return &r.LabelOVER;
-    case 6: return &r.LabelDOWN;
-    case 7: return &r.URL;
-    case 8: return &r.Status;
-    case 9: return &r.Target;
-    case 10: return &r.Border;
-    case 11: return &r.noBackGround;
-    case 12: return &r.ShowHand;
-    case 13: return &r.ImageUP;
-    case 14: return &r.ImageOVER;
-    case 15: return &r.ImageDOWN;
-    case 16: return &r.BackColorUP;
-    case 17: return &r.BackColorOVER;
-    case 18: return &r.BackColorDOWN;
-    case 19: return &r.FontColorUP;
-    case 20: return &r.FontColorOVER;
-    case 21: return &r.FontColorDOWN;
-    case 22: return &r.FontUP;
-    case 23: return &r.FontOVER;
-    case 24: return &r.FontDOWN;
-    case 25: return &r.FontStyleUP;
-    case 26: return &r.FontStyleOVER;
-    case 27: return &r.FontStyleDOWN;
-    case 28: return &r.FontSizeUP;
-    case 29: return &r.FontSizeOVER;
-    case 30: return &r.FontSizeDOWN;
-    case 31: return &r.SndUP;
-    case 32: return &r.SndOVER;
-    case 33: return &r.SndDOWN;
-    case 34: return &r.ImgStyleUP;
-    case 35: return &r.ImgStyleOVER;
-    case 36: return &r.ImgStyleDOWN;
-    case 37: return &r.PositionTextUP;
-    case 38: return &r.PositionTextOVER;
-    case 39: return &r.PositionTextDOWN;
-    case 40: return &r.LabelPosXUP;
-    case 41: return &r.LabelPosYUP;
-    case 42: return &r.LabelPosXOVER;
-    case 43: return &r.LabelPosYOVER;
-    case 44: return &r.LabelPosXDOWN;
-    case 45: return &r.LabelPosYDOWN;
-    case 46: return &r.Hidden;
-    case 47: return &r.ProgramUP;
-    case 48: return &r.ProgramOVER;
-    default: return &r.ProgramDOWN;
+    case 0:
+        return &r.x;
+    case 1:
+        return &r.y;
+    case 2:
+        return &r.Width;
+    case 3:
+        return &r.Height;
+    case 4:
+        return &r.LabelUP;
+    case 5:
+        return &r.LabelOVER;
+    case 6:
+        return &r.LabelDOWN;
+    case 7:
+        return &r.URL;
+    case 8:
+        return &r.Status;
+    case 9:
+        return &r.Target;
+    case 10:
+        return &r.Border;
+    case 11:
+        return &r.noBackGround;
+    case 12:
+        return &r.ShowHand;
+    case 13:
+        return &r.ImageUP;
+    case 14:
+        return &r.ImageOVER;
+    case 15:
+        return &r.ImageDOWN;
+    case 16:
+        return &r.BackColorUP;
+    case 17:
+        return &r.BackColorOVER;
+    case 18:
+        return &r.BackColorDOWN;
+    case 19:
+        return &r.FontColorUP;
+    case 20:
+        return &r.FontColorOVER;
+    case 21:
+        return &r.FontColorDOWN;
+    case 22:
+        return &r.FontUP;
+    case 23:
+        return &r.FontOVER;
+    case 24:
+        return &r.FontDOWN;
+    case 25:
+        return &r.FontStyleUP;
+    case 26:
+        return &r.FontStyleOVER;
+    case 27:
+        return &r.FontStyleDOWN;
+    case 28:
+        return &r.FontSizeUP;
+    case 29:
+        return &r.FontSizeOVER;
+    case 30:
+        return &r.FontSizeDOWN;
+    case 31:
+        return &r.SndUP;
+    case 32:
+        return &r.SndOVER;
+    case 33:
+        return &r.SndDOWN;
+    case 34:
+        return &r.ImgStyleUP;
+    case 35:
+        return &r.ImgStyleOVER;
+    case 36:
+        return &r.ImgStyleDOWN;
+    case 37:
+        return &r.PositionTextUP;
+    case 38:
+        return &r.PositionTextOVER;
+    case 39:
+        return &r.PositionTextDOWN;
+    case 40:
+        return &r.LabelPosXUP;
+    case 41:
+        return &r.LabelPosYUP;
+    case 42:
+        return &r.LabelPosXOVER;
+    case 43:
+        return &r.LabelPosYOVER;
+    case 44:
+        return &r.LabelPosXDOWN;
+    case 45:
+        return &r.LabelPosYDOWN;
+    case 46:
+        return &r.Hidden;
+    case 47:
+        return &r.ProgramUP;
+    case 48:
+        return &r.ProgramOVER;
+    default:
+        return &r.ProgramDOWN;
     }
 }
 
@@ -151,7 +201,9 @@ ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, PositionText)
 ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, LabelPosX)
 ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, LabelPosY)
 
-std::string& ButtonRecord::Sound(ButtonState s) { return pick(s, SndUP, SndOVER, SndDOWN); }
+std::string& ButtonRecord::Sound(ButtonState s) {
+    return pick(s, SndUP, SndOVER, SndDOWN);
+}
 const std::string& ButtonRecord::Sound(ButtonState s) const {
     return pick(s, SndUP, SndOVER, SndDOWN);
 }
@@ -233,11 +285,10 @@ FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
         return {};
     }
     const bool wide = std::holds_alternative<std::int32_t*>(ref);
-    const WholeNumber n =
-        wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
-                                std::numeric_limits<std::int32_t>::max())
-             : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
-                                std::numeric_limits<std::int16_t>::max());
+    const WholeNumber n = wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
+                                                  std::numeric_limits<std::int32_t>::max())
+                               : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
+                                                  std::numeric_limits<std::int16_t>::max());
     if (n.error != NumberError::None)
         return {pos, NumberErrorText(n.error)};
     if (wide)

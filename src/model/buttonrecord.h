@@ -10,7 +10,7 @@ namespace orvelin {
 /// The three visual states of a button; every per-state triple is kept in this order.
 enum class ButtonState { UP = 0, OVER = 1, DOWN = 2 };
 
-const char* StateName(ButtonState state);              ///< "UP", "OVER", "DOWN"
+const char* StateName(ButtonState state); ///< "UP", "OVER", "DOWN"
 bool StateFromName(std::string_view name, ButtonState& state);
 
 /// Font style code "0".."3" from the two style toggles and back.
@@ -88,12 +88,12 @@ inline constexpr int kButtonFieldCount = 50;
 
 /// How a field is held: which decides its conversion and its encodings.
 enum class FieldKind {
-    Int16,  ///< signed 16-bit decimal
-    Color,  ///< signed 32-bit decimal, a colour
-    Label,  ///< text through EncodeLabel/DecodeLabel in files
-    Text,   ///< URL, status and target: raw in files, EncodeLabel for the applet
-    File,   ///< image and sound paths: raw in files, bare encoded name for the applet
-    Raw,    ///< fonts, style codes, programs: raw everywhere
+    Int16, ///< signed 16-bit decimal
+    Color, ///< signed 32-bit decimal, a colour
+    Label, ///< text through EncodeLabel/DecodeLabel in files
+    Text,  ///< URL, status and target: raw in files, EncodeLabel for the applet
+    File,  ///< image and sound paths: raw in files, bare encoded name for the applet
+    Raw,   ///< fonts, style codes, programs: raw everywhere
 };
 
 struct ButtonField {

@@ -4,49 +4,85 @@ namespace orvelin {
 
 const char* MessageTable::englishDefault(Msg id) {
     switch (id) {
-    case Msg::PleaseWait: return "Please Wait...";
-    case Msg::SavingButtonsToFile: return "Saving Buttons to File...";
-    case Msg::SavingButton: return "Saving Button # ";
-    case Msg::OfWord: return " of ";
-    case Msg::LoadingProject: return "Loading Project...";
-    case Msg::LoadingButton: return "Loading Button # ";
-    case Msg::GeneratingHtml: return "Please wait. Generating HTML code...";
+    case Msg::PleaseWait:
+        return "Please Wait...";
+    case Msg::SavingButtonsToFile:
+        return "Saving Buttons to File...";
+    case Msg::SavingButton:
+        return "Saving Button # ";
+    case Msg::OfWord:
+        return " of ";
+    case Msg::LoadingProject:
+        return "Loading Project...";
+    case Msg::LoadingButton:
+        return "Loading Button # ";
+    case Msg::GeneratingHtml:
+        return "Please wait. Generating HTML code...";
     case Msg::ErrorSaving:
         return "Error Saving Buttons. File may be Read Only, Hidden or used by another "
                "application.";
-    case Msg::ErrorLoading: return "Error loading project.";
-    case Msg::EarlierVersionTitle: return "Warning";
-    case Msg::EarlierVersion: return "Project was created by earlier version of Orvelin";
-    case Msg::EarlierVersionNote: return "Note: Saving will convert it to version ";
+    case Msg::ErrorLoading:
+        return "Error loading project.";
+    case Msg::EarlierVersionTitle:
+        return "Warning";
+    case Msg::EarlierVersion:
+        return "Project was created by earlier version of Orvelin";
+    case Msg::EarlierVersionNote:
+        return "Note: Saving will convert it to version ";
     case Msg::UnsupportedFile:
         return "File type not supported or it was created by later version of the program.";
-    case Msg::ButtonLimit: return "Can't create more buttons on one applet.";
-    case Msg::ButtonLimitHint: return "You may use two applets and put them on one page instead.";
-    case Msg::AskToSaveProject: return "The Project ";
-    case Msg::AskToSaveChanged: return " has changed.";
-    case Msg::AskToSaveQuestion: return "Do you want to Save the changes?";
-    case Msg::NothingSelected: return "Nothing selected";
-    case Msg::DefaultButtonStored: return "Properties of this button will be used to create new ones.";
-    case Msg::SoundConvNotFound: return "/SoundConv not found.";
+    case Msg::ButtonLimit:
+        return "Can't create more buttons on one applet.";
+    case Msg::ButtonLimitHint:
+        return "You may use two applets and put them on one page instead.";
+    case Msg::AskToSaveProject:
+        return "The Project ";
+    case Msg::AskToSaveChanged:
+        return " has changed.";
+    case Msg::AskToSaveQuestion:
+        return "Do you want to Save the changes?";
+    case Msg::NothingSelected:
+        return "Nothing selected";
+    case Msg::DefaultButtonStored:
+        return "Properties of this button will be used to create new ones.";
+    case Msg::SoundConvNotFound:
+        return "/SoundConv not found.";
     case Msg::SettingsCorrupted:
         return "Registry settings were currupted. Program will try to restore previous settings.";
-    case Msg::SettingsRestored: return "Settings restored. Please restart the program.";
-    case Msg::LanguageNextStart: return "Change will take effect the next time the Program is started.";
-    case Msg::PropertiesForButton: return "Properties for Button # ";
-    case Msg::ButtonPrefix: return "Button ";
-    case Msg::SomethingWrong: return "Something wrong";
-    case Msg::OnDrawLabel: return "On DrawLabel(";
-    case Msg::NoButtonsOnApplet: return "No Buttons on the Applet";
-    case Msg::WrongParameters: return "Wrong Parameters";
-    case Msg::WrongReturnParameters: return "Wrong Return Parameters";
-    case Msg::CantCopyBackground: return "Can't copy BackGround Image.";
-    case Msg::CantCopyButtonFiles: return "Can't copy Pictures Or Sounds for Button # ";
-    case Msg::PressCancelToStop: return "Press Cancel to stop showing error messages.";
-    case Msg::CantCopyAppletClassFiles: return "Can't copy Applet Class files";
-    case Msg::CantCopyClassFiles: return "Can't copy Class Files";
-    case Msg::LanguageFile: return "Language File: ";
-    case Msg::LanguageFileNotFound: return " not found";
-    case Msg::Count: break;
+    case Msg::SettingsRestored:
+        return "Settings restored. Please restart the program.";
+    case Msg::LanguageNextStart:
+        return "Change will take effect the next time the Program is started.";
+    case Msg::PropertiesForButton:
+        return "Properties for Button # ";
+    case Msg::ButtonPrefix:
+        return "Button ";
+    case Msg::SomethingWrong:
+        return "Something wrong";
+    case Msg::OnDrawLabel:
+        return "On DrawLabel(";
+    case Msg::NoButtonsOnApplet:
+        return "No Buttons on the Applet";
+    case Msg::WrongParameters:
+        return "Wrong Parameters";
+    case Msg::WrongReturnParameters:
+        return "Wrong Return Parameters";
+    case Msg::CantCopyBackground:
+        return "Can't copy BackGround Image.";
+    case Msg::CantCopyButtonFiles:
+        return "Can't copy Pictures Or Sounds for Button # ";
+    case Msg::PressCancelToStop:
+        return "Press Cancel to stop showing error messages.";
+    case Msg::CantCopyAppletClassFiles:
+        return "Can't copy Applet Class files";
+    case Msg::CantCopyClassFiles:
+        return "Can't copy Class Files";
+    case Msg::LanguageFile:
+        return "Language File: ";
+    case Msg::LanguageFileNotFound:
+        return " not found";
+    case Msg::Count:
+        break;
     }
     return "";
 }

@@ -16,10 +16,10 @@ enum class Msg : std::size_t {
     // Progress window.
     PleaseWait,
     SavingButtonsToFile,
-    SavingButton,   ///< followed by "<i> of <n>"
-    OfWord,         ///< " of "
+    SavingButton, ///< followed by "<i> of <n>"
+    OfWord,       ///< " of "
     LoadingProject,
-    LoadingButton,  ///< followed by "<i> of <n>"
+    LoadingButton, ///< followed by "<i> of <n>"
     GeneratingHtml,
     // Project file.
     ErrorSaving,

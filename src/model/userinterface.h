@@ -38,7 +38,9 @@ public:
 class SilentUserInterface : public UserInterface {
 public:
     void showMessage(const std::string&, const std::string&) override {}
-    Answer askYesNoCancel(const std::string&, const std::string&) override { return Answer::Cancel; }
+    Answer askYesNoCancel(const std::string&, const std::string&) override {
+        return Answer::Cancel;
+    }
     Answer askOkCancel(const std::string&, const std::string&) override { return Answer::Ok; }
     std::optional<std::string> chooseOpenFile(const std::string&) override { return {}; }
     std::optional<std::string> chooseSaveFile(const std::string&, const std::string&) override {
