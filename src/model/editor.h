@@ -1,0 +1,129 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "designview.h"
+#include "editorview.h"
+#include "projectmodel.h"
+#include "propertyeditor.h"
+#include "recentfiles.h"
+#include "settings.h"
+#include "shell.h"
+#include "userinterface.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvelin {
+
+/// The answer of AskToSave; AskToSaveText gives "SAVED", "YES", "NO", "CANCEL".
+enum class SaveAnswer { Saved, Yes, No, Cancel };
+const char* AskToSaveText(SaveAnswer answer);
+
+/// What the caller does after Startup or a command that may end the program.
+enum class StartupResult { Ready, Quit };
+
+/// File dialog filters, in Qt's form.
+inline constexpr const char* kProjectFilter = "Orvelin Files (*.orv);;All Files (*.*)";
+inline constexpr const char* kLegacyProjectFilter = "Legacy Projects (*.ini);;All Files (*.*)";
+inline constexpr const char* kProposedProjectName = "untitled.orv";
+
+/**
+ * The main editor's commands as operations on the project: they change the model,
+ * the button list's selection and the settings, ask the user through UserInterface,
+ * and tell the design surface and the main window what to show. The windows only bind
+ * their controls to it. The property controls are bound to Properties().
+ */
+class Editor {
+public:
+    Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
+           DesignView& design, Shell& shell, EditorView& view);
+
+    /**
+     * The main editor's loading and the command line: caption, recent menu, language,
+     * state "UP", the first button, keep-on-top, tiling, action title, Saved; then the
+     * project named on `commandLine` (trimmed, surrounding quotes dropped). Quit when
+     * the default-button setting was damaged and has been repaired.
+     */
+    StartupResult Startup(std::string_view commandLine);
+    /// Whether the file-association prompt may be shown (DontAskToAssociate is not "1").
+    bool MayAskToAssociate() const;
+
+    // File menu.
+    void New();
+    void Open();
+    void OpenRecent(int slot);
+    /// Save to ProjectFileName, or save-as when there is none. True when written.
+    bool Save();
+    bool SaveAs();
+    /// Reads a project of the legacy INI format; the result has no file name yet.
+    void ImportLegacy();
+    /// Yes/No/Cancel on an unsaved project; "Yes" saves.
+    SaveAnswer AskToSave();
+    /// The close path: true when the program may end.
+    bool Close();
+
+    // Buttons.
+    void AddButton();
+    void DuplicateButton();
+    void RemoveButton();
+    /// A click on list entry of button `index` (1-based): it becomes current.
+    void ClickList(int index);
+    /// The list widget's selection changed: `selected` holds button numbers.
+    void SetListSelection(const std::vector<int>& selected);
+    /// "UP", "OVER" or "DOWN"; anything else is ignored.
+    void SwitchState(std::string_view state);
+    /// "ProgramUP", "ProgramOVER" or "ProgramDOWN" for CurrentState: what the action
+    /// command edits.
+    std::string ActionProgramKind() const;
+
+    // Options and tools.
+    void MakeDefault();
+    void SoundConverter();
+    void Help();
+    void ToggleKeepOnTop();
+    bool KeepOnTop() const;
+    /// "English", "rus" or "heb".
+    void SetLanguage(const std::string& language);
+    void SetAutoTile(bool on);
+
+    /// Fills the property panel from button `index` with Updating set (no-op for 0).
+    void ShowProp(int index);
+    /// Fills the applet controls with Updating set.
+    void SetMainParams();
+
+    PropertyEditor& Properties() { return m_properties; }
+    RecentFiles& Recent() { return m_recent; }
+
+private:
+    // Empties model, list and surface for a project about to be read.
+    void ClearProject();
+    // After a reader ran: list entries, surface, applet controls, first button.
+    void ShowLoadedProject();
+    bool LoadFile(const std::string& path);
+    void ApplyKeepOnTop();
+    // AddButton without the view refresh; Quit when the default string is damaged.
+    StartupResult AppendDefaultButton();
+    void RepairDefaultButton();
+    void ShowCurrentState();
+
+    ProjectModel& m_model;
+    ButtonList& m_list;
+    UserInterface& m_ui;
+    Settings& m_settings;
+    DesignView& m_design;
+    Shell& m_shell;
+    EditorView& m_view;
+    RecentFiles m_recent;
+    PropertyEditor m_properties;
+};
+
+/// The main window's title, "Orvelin 1.0  Beta 6".
+std::string MainTitle();
+/// The action command's title for `state`.
+std::string ActionTitle(ButtonState state);
+/// The command line's project path: trimmed, a leading quote drops the first and last
+/// character.
+std::string ProjectPathFromCommandLine(std::string_view commandLine);
+
+} // namespace orvelin

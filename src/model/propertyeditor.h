@@ -1,0 +1,104 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "designview.h"
+#include "editorview.h"
+#include "projectmodel.h"
+#include "settings.h"
+#include "userinterface.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace orvelin {
+
+/// File chooser filters for images and sounds, in Qt's form.
+inline constexpr const char* kImageFilter = "GIF , JPG (*.gif;*.jpg);; All Files (*.*)";
+inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);; All Files (*.*)";
+
+/// Background placement chosen automatically for a new background image: "Tile" (1)
+/// when tiling is on and the image is smaller than the applet both ways, else "Center".
+std::int16_t AutoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image, int appletWidth,
+                              int appletHeight);
+
+/**
+ * The property panel's controls as operations on the project. A button property is
+ * written into every selected button (per-state ones into CurrentState), those buttons
+ * are redrawn and Saved is cleared; applet properties write the model directly. Every
+ * setter does nothing while the model's Updating flag is set, so that filling the
+ * controls from the model is not taken as an edit.
+ */
+class PropertyEditor {
+public:
+    PropertyEditor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
+                   DesignView& design, EditorView& view);
+
+    // Button geometry, from typed text (non-numbers give 0).
+    void SetX(const std::string& text);
+    void SetY(const std::string& text);
+    void SetWidth(const std::string& text);
+    void SetHeight(const std::string& text);
+
+    // Per-state properties.
+    void SetLabel(const std::string& text);
+    void SetLabelPosX(const std::string& text);
+    void SetLabelPosY(const std::string& text);
+    /// chkPositionText: 1 draws the label at its position; refreshes the panel so the
+    /// position fields show the current button's values.
+    void SetPositionText(bool on);
+    /// chkCenterText, the counterpart: on means PositionText 0.
+    void SetCenterText(bool on);
+    void SetFont(const std::string& family);
+    void SetFontSize(const std::string& text);
+    void SetFontStyle(bool bold, bool italic);
+    void SetFontColor(std::int32_t colour);
+    void SetBackColor(std::int32_t colour);
+    void SetImage(const std::string& path);
+    void SetImgStyle(int style);
+    void SetSound(const std::string& path);
+
+    // Per-button properties.
+    void SetURL(const std::string& text);
+    void SetStatus(const std::string& text);
+    void SetTarget(const std::string& text);
+    void SetBorder(bool on);
+    void SetTransparent(bool on);
+    void SetShowHand(bool on);
+    void SetHidden(bool on);
+
+    /// File choosers: a chosen file is written as if typed, then the panel refreshed.
+    void BrowseImage();
+    void BrowseSound();
+
+    // Applet properties.
+    void SetAppletWidth(const std::string& text);
+    void SetAppletHeight(const std::string& text);
+    /// Enter in the size fields: the design surface takes the new size.
+    void CommitAppletSize();
+    void SetBehaviour(int behaviour); ///< 0 push buttons, 1 radio buttons
+    void SetDOWNBtn(bool on);
+    void SetBackGround(std::int32_t colour);
+    void SetBackImg(const std::string& path);
+    void SetBackImgStyle(int style);
+    /// A background image chosen in the file dialog, with the placement AutoTile picks.
+    void SetChosenBackImg(const std::string& path, const std::optional<ImageSize>& image);
+    void BrowseBackImg();
+
+private:
+    // Applies `change` to every selected button, redraws them, clears Saved.
+    void ForSelected(const std::function<void(ButtonRecord&, ButtonState)>& change);
+    void AppletEdited();
+    void BackgroundEdited();
+    void RefreshPanel();
+
+    ProjectModel& m_model;
+    ButtonList& m_list;
+    UserInterface& m_ui;
+    Settings& m_settings;
+    DesignView& m_design;
+    EditorView& m_view;
+};
+
+} // namespace orvelin
