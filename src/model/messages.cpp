@@ -81,6 +81,8 @@ const char* MessageTable::englishDefault(Msg id) {
         return "Language File: ";
     case Msg::LanguageFileNotFound:
         return " not found";
+    case Msg::HelpNotFound:
+        return " could not be opened.";
     case Msg::Count:
         break;
     }

@@ -58,6 +58,8 @@ enum class Msg : std::size_t {
     // Language files.
     LanguageFile,
     LanguageFileNotFound,
+    // Editor, later additions.
+    HelpNotFound, ///< after the help page's path
     Count
 };
 
