@@ -1,0 +1,286 @@
+#include "textfile.h"
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace orvelin {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void report(TextFileError* error, std::string description) {
+    if (error)
+        error->description = std::move(description);
+}
+
+// Length of the UTF-8 sequence starting at `i`, or 0 when the bytes there are not
+// well-formed (overlong forms, surrogates and values above U+10FFFF included).
+std::size_t utf8SequenceLength(std::string_view s, std::size_t i) {
+    const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(s[k]); };
+    const unsigned char lead = byte(i);
+    if (lead < 0x80)
+        return 1;
+    std::size_t length = 0;
+    unsigned char low = 0x80;
+    unsigned char high = 0xBF;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        length = 2;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        length = 3;
+        if (lead == 0xE0)
+            low = 0xA0;
+        else if (lead == 0xED)
+            high = 0x9F;
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        length = 4;
+        if (lead == 0xF0)
+            low = 0x90;
+        else if (lead == 0xF4)
+            high = 0x8F;
+    } else {
+        return 0;
+    }
+    if (i + length > s.size())
+        return 0;
+    if (byte(i + 1) < low || byte(i + 1) > high)
+        return 0;
+    for (std::size_t k = 2; k < length; ++k)
+        if (byte(i + k) < 0x80 || byte(i + k) > 0xBF)
+            return 0;
+    return length;
+}
+
+bool isValidUtf8(std::string_view s) {
+    for (std::size_t i = 0; i < s.size();) {
+        const std::size_t n = utf8SequenceLength(s, i);
+        if (n == 0)
+            return false;
+        i += n;
+    }
+    return true;
+}
+
+// Code points of the bytes 0x80 to 0x9F in Windows-1252. The five bytes the code page
+// leaves undefined map to the control characters of the same value, as Windows does.
+constexpr std::array<std::uint16_t, 32> kCp1252High = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void appendUtf8(std::string& out, std::uint32_t cp) {
+    if (cp < 0x80) {
+        out += static_cast<char>(cp);
+    } else if (cp < 0x800) {
+        out += static_cast<char>(0xC0 | (cp >> 6));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    } else {
+        out += static_cast<char>(0xE0 | (cp >> 12));
+        out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (cp & 0x3F));
+    }
+}
+
+bool hasWriteBit(fs::perms p) {
+    return (p & (fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write)) !=
+           fs::perms::none;
+}
+
+std::string errnoText(int code) {
+    switch (code) {
+    case ENOENT:
+    case ENOTDIR:
+        return "Path not found";
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        return "Permission denied";
+    case ENOSPC:
+    case EDQUOT:
+        return "Disk full";
+    default:
+        return "Path/File access error";
+    }
+}
+
+// Writes all of `bytes` to `fd`, retrying short writes and interruptions.
+bool writeAll(int fd, std::string_view bytes) {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            return false;
+        }
+        done += static_cast<std::size_t>(n);
+    }
+    return true;
+}
+
+// Creates a new, empty temporary file beside `target`; -1 when the folder refuses it.
+int createTemporary(const fs::path& target, fs::path& temporary) {
+    static std::atomic<unsigned> counter{0};
+    std::random_device entropy;
+    for (int attempt = 0; attempt < 16; ++attempt) {
+        const std::string suffix = std::to_string(::getpid()) + "-" +
+                                   std::to_string(counter.fetch_add(1)) + "-" +
+                                   std::to_string(entropy() % 1000000u);
+        temporary = target;
+        temporary.replace_filename("." + target.filename().string() + ".tmp-" + suffix);
+        const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (fd >= 0 || errno != EEXIST)
+            return fd;
+    }
+    errno = EEXIST;
+    return -1;
+}
+
+} // namespace
+
+std::string ToUtf8(std::string_view bytes) {
+    if (isValidUtf8(bytes))
+        return std::string(bytes);
+    std::string out;
+    out.reserve(bytes.size() + bytes.size() / 4);
+    for (const char c : bytes) {
+        const auto b = static_cast<unsigned char>(c);
+        if (b < 0x80)
+            out += c;
+        else if (b < 0xA0)
+            appendUtf8(out, kCp1252High[b - 0x80u]);
+        else
+            appendUtf8(out, b); // the rest of the code page equals Latin-1
+    }
+    return out;
+}
+
+std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* error) {
+    std::error_code ec;
+    const fs::file_status status = fs::status(path, ec);
+    if (path.empty() || !fs::exists(status)) {
+        report(error, "File not found");
+        return std::nullopt;
+    }
+    if (fs::is_directory(status)) {
+        report(error, "Path/File access error");
+        return std::nullopt;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        report(error, "Permission denied");
+        return std::nullopt;
+    }
+    std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (in.bad()) {
+        report(error, "Device I/O error");
+        return std::nullopt;
+    }
+    std::string_view view = bytes;
+    if (view.substr(0, 3) == "\xEF\xBB\xBF")
+        view.remove_prefix(3);
+    return ToUtf8(view);
+}
+
+std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTerminated) {
+    std::vector<std::string_view> lines;
+    std::size_t start = 0;
+    bool terminated = true;
+    while (start < text.size()) {
+        const std::size_t lf = text.find('\n', start);
+        if (lf == std::string_view::npos) {
+            lines.push_back(text.substr(start));
+            terminated = false;
+            break;
+        }
+        std::size_t end = lf;
+        if (end > start && text[end - 1] == '\r')
+            --end;
+        lines.push_back(text.substr(start, end - start));
+        start = lf + 1;
+    }
+    if (lastTerminated)
+        *lastTerminated = terminated;
+    return lines;
+}
+
+bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFileError* error) {
+    if (path.empty()) {
+        report(error, "Bad file name or number");
+        return false;
+    }
+    std::error_code ec;
+    fs::path target(path);
+    // Replace what a link points to, not the link itself.
+    if (fs::is_symlink(fs::symlink_status(target, ec))) {
+        const fs::path resolved = fs::weakly_canonical(target, ec);
+        if (!ec)
+            target = resolved;
+    }
+    const fs::file_status existing = fs::status(target, ec);
+    const bool exists = fs::exists(existing);
+    if (exists && !fs::is_regular_file(existing)) {
+        report(error, "Path/File access error");
+        return false;
+    }
+    // The mode bits decide, not access(): a privileged user would be allowed to
+    // overwrite a file its owner marked read-only, and the user asked for it not to be.
+    if (exists && !hasWriteBit(existing.permissions())) {
+        report(error, "Permission denied");
+        return false;
+    }
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    const fs::file_status folderStatus = fs::status(folder, ec);
+    if (!fs::is_directory(folderStatus)) {
+        report(error, "Path not found");
+        return false;
+    }
+    if (!hasWriteBit(folderStatus.permissions())) {
+        report(error, "Permission denied");
+        return false;
+    }
+
+    fs::path temporary;
+    const int fd = createTemporary(target, temporary);
+    if (fd < 0) {
+        report(error, errnoText(errno));
+        return false;
+    }
+    bool ok = writeAll(fd, bytes) && ::fsync(fd) == 0;
+    int failure = ok ? 0 : errno;
+    // The new file gets the old one's permissions, so replacing it changes only its text.
+    if (ok && exists)
+        ::fchmod(fd, static_cast<mode_t>(existing.permissions() & fs::perms::mask));
+    if (::close(fd) != 0 && ok) {
+        ok = false;
+        failure = errno;
+    }
+    if (ok && ::rename(temporary.c_str(), target.c_str()) != 0) {
+        ok = false;
+        failure = errno;
+    }
+    if (!ok) {
+        ::unlink(temporary.c_str());
+        report(error, errnoText(failure));
+        return false;
+    }
+    // Make the rename itself durable; a folder that cannot be synced loses nothing.
+    const int dirFd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (dirFd >= 0) {
+        ::fsync(dirFd);
+        ::close(dirFd);
+    }
+    return true;
+}
+
+} // namespace orvelin
