@@ -43,7 +43,9 @@ public:
      * The main editor's loading and the command line: caption, recent menu, language,
      * state "UP", the first button, keep-on-top, tiling, action title, Saved; then the
      * project named on `commandLine` (trimmed, surrounding quotes dropped). Quit when
-     * the default-button setting was damaged and has been repaired.
+     * the default-button setting was damaged and has been repaired: the caller ends the
+     * program (Startup does not call EditorView::QuitProgram, there is no event loop yet;
+     * a later AddButton that meets a damaged setting does).
      */
     StartupResult Startup(std::string_view commandLine);
     /// Whether the file-association prompt may be shown (DontAskToAssociate is not "1").
@@ -67,7 +69,8 @@ public:
     void AddButton();
     void DuplicateButton();
     void RemoveButton();
-    /// A click on list entry of button `index` (1-based): it becomes current.
+    /// A click on the list entry of button `index` (1-based): it becomes current. The
+    /// selection itself is the list's: report it first with SetListSelection.
     void ClickList(int index);
     /// The list widget's selection changed: `selected` holds button numbers.
     void SetListSelection(const std::vector<int>& selected);

@@ -18,10 +18,11 @@ namespace orvelin {
 inline constexpr const char* kImageFilter = "GIF , JPG (*.gif;*.jpg);; All Files (*.*)";
 inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);; All Files (*.*)";
 
-/// Background placement chosen automatically for a new background image: "Tile" (1)
-/// when tiling is on and the image is smaller than the applet both ways, else "Center".
-std::int16_t AutoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image, int appletWidth,
-                              int appletHeight);
+/// Background placement chosen automatically for a new background image while tiling
+/// is on: "Tile" (1) when the image is smaller than the applet both ways, else
+/// "Center" (0). Nothing when tiling is off: the placement stays as it was.
+std::optional<std::int16_t> AutoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image,
+                                             int appletWidth, int appletHeight);
 
 /**
  * The property panel's controls as operations on the project. A button property is
@@ -86,12 +87,17 @@ public:
     void SetChosenBackImg(const std::string& path, const std::optional<ImageSize>& image);
     void BrowseBackImg();
 
+    /// Fills the property panel from button `index` with Updating set and the caption
+    /// "Properties for Button # <index>"; nothing for an index that is no button.
+    void ShowProp(int index);
+    /// Fills the applet controls with Updating set.
+    void SetMainParams();
+
 private:
     // Applies `change` to every selected button, redraws them, clears Saved.
     void ForSelected(const std::function<void(ButtonRecord&, ButtonState)>& change);
     void AppletEdited();
     void BackgroundEdited();
-    void RefreshPanel();
 
     ProjectModel& m_model;
     ButtonList& m_list;

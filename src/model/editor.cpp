@@ -1,0 +1,389 @@
+#include "editor.h"
+
+#include "messages.h"
+#include "programfolder.h"
+#include "projectfile.h"
+
+#include <algorithm>
+
+namespace orvelin {
+
+namespace {
+
+constexpr const char* kProgramTitle = "Orvelin";
+
+} // namespace
+
+const char* AskToSaveText(SaveAnswer answer) {
+    switch (answer) {
+    case SaveAnswer::Saved:
+        return "SAVED";
+    case SaveAnswer::Yes:
+        return "YES";
+    case SaveAnswer::No:
+        return "NO";
+    case SaveAnswer::Cancel:
+        return "CANCEL";
+    }
+    return "CANCEL";
+}
+
+std::string MainTitle() {
+    return std::string(kProgramTitle) + " " + kVersionText;
+}
+
+std::string ActionTitle(ButtonState state) {
+    switch (state) {
+    case ButtonState::OVER:
+        return "Set Action: On Entering Button...";
+    case ButtonState::DOWN:
+        return "Set Action: On Button Press...";
+    case ButtonState::UP:
+        break;
+    }
+    return "Set Action: On Leaving Button...";
+}
+
+std::string ProjectPathFromCommandLine(std::string_view commandLine) {
+    const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+    while (!commandLine.empty() && blank(commandLine.front()))
+        commandLine.remove_prefix(1);
+    while (!commandLine.empty() && blank(commandLine.back()))
+        commandLine.remove_suffix(1);
+    if (!commandLine.empty() && commandLine.front() == '"') {
+        // The first and the last character go, whatever the last one is.
+        commandLine.remove_prefix(1);
+        if (!commandLine.empty())
+            commandLine.remove_suffix(1);
+    }
+    return std::string(commandLine);
+}
+
+Editor::Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
+               DesignView& design, Shell& shell, EditorView& view)
+    : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_design(design),
+      m_shell(shell), m_view(view), m_recent(settings, view),
+      m_properties(model, list, ui, settings, design, view) {}
+
+StartupResult Editor::Startup(std::string_view commandLine) {
+    m_model.Saved = true;
+    m_view.SetCaption(MainTitle());
+    m_recent.GetRecent();
+    m_view.SetLanguageChecked(m_settings.value(SettingKey::LanguageCurrent));
+    m_model.CurrentState = "UP";
+    ShowCurrentState();
+    if (AppendDefaultButton() == StartupResult::Quit)
+        return StartupResult::Quit;
+    SetMainParams();
+    const bool onTop = m_settings.flag(SettingKey::frmDesignOnTop);
+    if (onTop)
+        m_design.SetOnTop(true);
+    m_view.SetOnTopChecked(onTop);
+    m_view.SetAutoTileChecked(m_settings.flag(SettingKey::AutoTile));
+    m_model.Saved = true;
+
+    const std::string path = ProjectPathFromCommandLine(commandLine);
+    if (!path.empty())
+        LoadFile(path);
+    return StartupResult::Ready;
+}
+
+bool Editor::MayAskToAssociate() const {
+    return m_settings.value(SettingKey::DontAskToAssociate) != "1";
+}
+
+void Editor::New() {
+    if (AskToSave() == SaveAnswer::Cancel)
+        return;
+    m_model.Reset();
+    m_list.clear();
+    m_design.ClearButtons();
+    m_design.HideMarks();
+    m_view.ShowButtonList();
+    SetMainParams();
+    m_view.CloseLabelEditor();
+    m_view.SetCaption(MainTitle());
+    ApplyKeepOnTop();
+    m_model.Saved = true;
+}
+
+void Editor::Open() {
+    if (AskToSave() == SaveAnswer::Cancel)
+        return;
+    const std::optional<std::string> path = m_ui.chooseOpenFile(kProjectFilter);
+    if (path)
+        LoadFile(*path);
+    ApplyKeepOnTop();
+}
+
+void Editor::OpenRecent(int slot) {
+    const std::string path = m_recent.Path(slot);
+    if (path.empty())
+        return;
+    if (AskToSave() == SaveAnswer::Cancel)
+        return;
+    LoadFile(path);
+}
+
+bool Editor::Save() {
+    if (m_model.ProjectFileName.empty())
+        return SaveAs();
+    if (!SaveProject(m_model, m_model.ProjectFileName, m_ui))
+        return false;
+    m_recent.WriteRecent(m_model.ProjectFileName);
+    return true;
+}
+
+bool Editor::SaveAs() {
+    const std::string proposed =
+        m_model.ProjectFileName.empty() ? kProposedProjectName : m_model.ProjectFileName;
+    const std::optional<std::string> path = m_ui.chooseSaveFile(kProjectFilter, proposed);
+    ApplyKeepOnTop();
+    if (!path || path->empty())
+        return false;
+    // The project keeps its old name when the new file could not be written, so that
+    // the next save does not aim at a path known to fail.
+    if (!SaveProject(m_model, *path, m_ui))
+        return false;
+    m_model.ProjectFileName = *path;
+    m_view.SetCaption(MainTitle() + " " + *path);
+    m_recent.WriteRecent(*path);
+    return true;
+}
+
+void Editor::ImportLegacy() {
+    if (AskToSave() == SaveAnswer::Cancel)
+        return;
+    const std::optional<std::string> path = m_ui.chooseOpenFile(kLegacyProjectFilter);
+    ApplyKeepOnTop();
+    if (!path)
+        return;
+    ClearProject();
+    LoadProject_OLD(m_model, *path, m_ui);
+    ShowLoadedProject();
+    // The imported design exists in no current-format file yet: saving must ask for a
+    // new name instead of overwriting the legacy file.
+    m_model.ProjectFileName.clear();
+    m_model.Saved = false;
+    m_view.SetCaption(MainTitle());
+}
+
+SaveAnswer Editor::AskToSave() {
+    if (m_model.Saved)
+        return SaveAnswer::Saved;
+    const MessageTable& msg = Messages();
+    const std::string text = msg[Msg::AskToSaveProject] + m_model.ProjectFileName +
+                             msg[Msg::AskToSaveChanged] + std::string(kCrLf) +
+                             msg[Msg::AskToSaveQuestion];
+    switch (m_ui.askYesNoCancel(text, kProgramTitle)) {
+    case UserInterface::Answer::Yes:
+        Save();
+        return SaveAnswer::Yes;
+    case UserInterface::Answer::No:
+        return SaveAnswer::No;
+    default:
+        return SaveAnswer::Cancel;
+    }
+}
+
+bool Editor::Close() {
+    const SaveAnswer answer = AskToSave();
+    return answer == SaveAnswer::No || m_model.Saved;
+}
+
+void Editor::AddButton() {
+    if (AppendDefaultButton() == StartupResult::Quit)
+        m_view.QuitProgram();
+}
+
+StartupResult Editor::AppendDefaultButton() {
+    if (m_model.ButtonCount >= kMaxButtons) {
+        const MessageTable& msg = Messages();
+        m_ui.showMessage(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
+        return StartupResult::Ready;
+    }
+    if (m_model.AddButton(m_settings.DefaultButton()) == ProjectModel::AddResult::CorruptDefault) {
+        RepairDefaultButton();
+        return StartupResult::Quit;
+    }
+    m_list.append();
+    m_list.selectOnly(m_model.CurrentButton);
+    m_design.LoadButton(m_model.CurrentButton);
+    m_view.ShowButtonList();
+    ShowProp(m_model.CurrentButton);
+    return StartupResult::Ready;
+}
+
+void Editor::RepairDefaultButton() {
+    m_ui.showMessage(Messages()[Msg::SettingsCorrupted]);
+    m_settings.SetDefaultButton(kFactoryDefaultButton);
+    m_ui.showMessage(Messages()[Msg::SettingsRestored]);
+}
+
+void Editor::DuplicateButton() {
+    const int source = m_model.CurrentButton;
+    if (m_model.ButtonCount < 1 || source < 1 || source > m_model.ButtonCount)
+        return;
+    if (m_model.DuplicateButton(source) == ProjectModel::AddResult::LimitReached) {
+        const MessageTable& msg = Messages();
+        m_ui.showMessage(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
+        return;
+    }
+    m_list.append();
+    m_list.selectOnly(m_model.CurrentButton);
+    m_design.LoadButton(m_model.CurrentButton);
+    m_view.ShowButtonList();
+    ShowProp(m_model.CurrentButton);
+}
+
+void Editor::RemoveButton() {
+    const int current = m_model.CurrentButton;
+    if (current < 1 || current > m_model.ButtonCount)
+        return;
+    const int oldCount = m_model.ButtonCount;
+    m_model.RemoveButton(current);
+    m_design.HideLastButton(oldCount);
+    m_list.removeLast();
+    m_model.CurrentButton = 1;
+    if (m_model.ButtonCount > 0) {
+        m_list.selectOnly(1);
+        m_view.ShowButtonList();
+        ShowProp(1);
+    } else {
+        m_view.ShowButtonList();
+        m_design.HideMarks();
+    }
+    m_design.RedrawAll();
+}
+
+void Editor::ClickList(int index) {
+    if (index < 1 || index > m_model.ButtonCount)
+        return;
+    m_model.CurrentButton = static_cast<std::int16_t>(index);
+    ShowProp(index);
+    m_design.RedrawAll();
+}
+
+void Editor::SetListSelection(const std::vector<int>& selected) {
+    for (int i = 1; i <= m_list.count(); ++i)
+        m_list.setSelected(i, std::find(selected.begin(), selected.end(), i) != selected.end());
+    m_design.RedrawAll();
+}
+
+void Editor::SwitchState(std::string_view state) {
+    ButtonState parsed = ButtonState::UP;
+    if (!StateFromName(state, parsed))
+        return;
+    m_model.CurrentState = StateName(parsed);
+    ShowCurrentState();
+    ShowProp(m_model.CurrentButton);
+    m_design.RedrawAll();
+}
+
+void Editor::ShowCurrentState() {
+    const ButtonState state = m_model.EditedState();
+    m_view.ShowState(state);
+    m_view.SetActionTitle(ActionTitle(state));
+}
+
+std::string Editor::ActionProgramKind() const {
+    return std::string("Program") + StateName(m_model.EditedState());
+}
+
+void Editor::MakeDefault() {
+    const int current = m_model.CurrentButton;
+    if (current < 1 || current > m_model.ButtonCount) {
+        m_ui.showMessage(Messages()[Msg::NothingSelected]);
+        return;
+    }
+    m_settings.SetDefaultButton(SerializeButton(m_model.Button(current)));
+    m_ui.showMessage(Messages()[Msg::DefaultButtonStored]);
+}
+
+void Editor::SoundConverter() {
+    const std::string folder = ProgramFolder();
+    if (!m_shell.StartProgram(JoinPath(folder, "SoundConv"), {}))
+        m_ui.showMessage(folder + Messages()[Msg::SoundConvNotFound]);
+}
+
+void Editor::Help() {
+    const std::string page = JoinPath(ProgramFolder(), "help/help.htm");
+    if (!m_shell.OpenDocument(page))
+        m_ui.showMessage(page + Messages()[Msg::HelpNotFound]);
+}
+
+void Editor::ToggleKeepOnTop() {
+    const bool onTop = !KeepOnTop();
+    m_settings.setFlag(SettingKey::frmDesignOnTop, onTop);
+    m_view.SetOnTopChecked(onTop);
+    m_design.SetOnTop(onTop);
+}
+
+bool Editor::KeepOnTop() const {
+    return m_settings.flag(SettingKey::frmDesignOnTop);
+}
+
+void Editor::ApplyKeepOnTop() {
+    if (KeepOnTop())
+        m_design.SetOnTop(true);
+}
+
+void Editor::SetLanguage(const std::string& language) {
+    m_settings.setValue(SettingKey::LanguageCurrent, language);
+    m_view.SetLanguageChecked(language);
+    if (language == "English")
+        m_ui.showMessage(Messages()[Msg::LanguageNextStart]);
+}
+
+void Editor::SetAutoTile(bool on) {
+    m_settings.setFlag(SettingKey::AutoTile, on);
+}
+
+void Editor::ShowProp(int index) {
+    m_properties.ShowProp(index);
+}
+
+void Editor::SetMainParams() {
+    m_properties.SetMainParams();
+}
+
+bool Editor::LoadFile(const std::string& path) {
+    ClearProject();
+    const bool loaded = LoadProject(m_model, path, m_ui);
+    ShowLoadedProject();
+    if (loaded) {
+        m_view.SetCaption(MainTitle() + " " + path);
+        m_recent.WriteRecent(path);
+    }
+    return loaded;
+}
+
+void Editor::ClearProject() {
+    m_model.ButtonCount = 0;
+    m_model.CurrentButton = 0;
+    m_model.ProjectFileName.clear();
+    m_list.clear();
+    m_design.ClearButtons();
+    m_design.HideMarks();
+}
+
+void Editor::ShowLoadedProject() {
+    // The readers fill the model only; the list, the surface and the panel follow here,
+    // for a partly read file as well (the buttons read so far stay).
+    for (int i = 1; i <= m_model.ButtonCount; ++i) {
+        m_list.append();
+        m_design.LoadButton(i);
+    }
+    SetMainParams();
+    if (m_model.ButtonCount > 0) {
+        m_model.CurrentButton = 1;
+        m_list.selectOnly(1);
+    } else {
+        m_model.CurrentButton = 0;
+    }
+    m_view.ShowButtonList();
+    ShowProp(m_model.CurrentButton);
+    m_design.RedrawAll();
+}
+
+} // namespace orvelin
