@@ -1,0 +1,29 @@
+#pragma once
+
+#include "userinterface.h"
+
+#include <iosfwd>
+
+namespace orvelin::cli {
+
+/**
+ * The user interface of the command-line tool: what the designer would show in a
+ * message box is written to a stream (stderr), one message per paragraph; questions
+ * are answered with Cancel and file choosers choose nothing, since nobody is there
+ * to ask. The progress window has no use here.
+ */
+class ConsoleUserInterface : public SilentUserInterface {
+public:
+    explicit ConsoleUserInterface(std::ostream& err) : m_err(err) {}
+
+    void showMessage(const std::string& text, const std::string& title) override;
+
+    /// How many messages were shown.
+    int messageCount() const { return m_messages; }
+
+private:
+    std::ostream& m_err;
+    int m_messages = 0;
+};
+
+} // namespace orvelin::cli

@@ -1,0 +1,105 @@
+#include "programfolder.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace orvelin {
+
+namespace {
+
+std::string& overrideFolder() {
+    static std::string folder;
+    return folder;
+}
+
+bool isSeparator(char c) {
+    return c == '/' || c == '\\';
+}
+
+std::string environmentText(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? std::string(value) : std::string();
+}
+
+fs::path executableFolder() {
+    std::error_code ec;
+    const fs::path exe = fs::read_symlink("/proc/self/exe", ec);
+    if (ec)
+        return {};
+    return exe.parent_path();
+}
+
+bool isWritableFolder(const std::string& folder) {
+    std::error_code ec;
+    return !folder.empty() && fs::is_directory(folder, ec) &&
+           ::access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+} // namespace
+
+std::string ProgramFolder() {
+    if (!overrideFolder().empty())
+        return overrideFolder();
+    if (std::string fromEnvironment = environmentText("ORVELIN_PROGRAM_DIR");
+        !fromEnvironment.empty())
+        return fromEnvironment;
+
+    const fs::path exeFolder = executableFolder();
+    if (exeFolder.empty())
+        return {};
+    std::error_code ec;
+    // The build tree copies data/ next to the executables, so a folder that holds
+    // Orvel.ini is a complete program folder; an installed program keeps its data
+    // under share/.
+    if (fs::is_regular_file(exeFolder / "Orvel.ini", ec))
+        return exeFolder.string();
+    return (exeFolder.parent_path() / "share" / "orvelin").string();
+}
+
+void SetProgramFolderOverride(const std::string& folder) {
+    overrideFolder() = folder;
+}
+
+std::string JoinPath(std::string_view folder, std::string_view name) {
+    // Names written for Windows ("\AppletTemp", "help\help.htm") name the same
+    // places here, so a leading separator is dropped and "\" inside counts as "/".
+    while (!name.empty() && isSeparator(name.front()))
+        name.remove_prefix(1);
+    std::string joined(folder);
+    if (!joined.empty() && !isSeparator(joined.back()) && !name.empty())
+        joined += '/';
+    for (char c : name)
+        joined += c == '\\' ? '/' : c;
+    return joined;
+}
+
+std::string FolderOf(std::string_view path) {
+    const std::size_t last = path.find_last_of("/\\");
+    if (last == std::string_view::npos)
+        return {};
+    return std::string(path.substr(0, last + 1));
+}
+
+std::string WritableProgramFolder() {
+    const std::string programFolder = ProgramFolder();
+    if (isWritableFolder(programFolder))
+        return programFolder;
+
+    std::string base = environmentText("XDG_DATA_HOME");
+    if (base.empty()) {
+        const std::string home = environmentText("HOME");
+        base = JoinPath(home.empty() ? std::string(".") : home, ".local/share");
+    }
+    const std::string folder = JoinPath(base, "Orvelin");
+    // Callers write into it next, so make sure it exists; a failure shows up as the
+    // caller's own write error with its message.
+    std::error_code ec;
+    fs::create_directories(folder, ec);
+    return folder;
+}
+
+} // namespace orvelin

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "projectmodel.h"
+#include "userinterface.h"
+
+#include <string>
+#include <string_view>
+
+/**
+ * The applet code: the HTML fragment whose <applet> tag and <Param> lines carry the
+ * whole design to the applet. The applet parses these lines by position and by "|",
+ * so every separator, field order and encoding here is part of its contract.
+ * Standard library only; the HTML window shows what MakeHTML returns.
+ */
+namespace orvelin {
+
+/// The maker's own data, written into the opening banner and the notice parameter.
+inline constexpr const char* kMakerWebAddress = "https://orvelin.org";
+inline constexpr const char* kMakerEmail = "hello@orvelin.org";
+inline constexpr const char* kCopyrightLine =
+    "Orvelin 1.0  Beta 6  (c) 2026 The Orvelin developers";
+
+/// The applet files the tag names; they live in the program folder.
+inline constexpr const char* kAppletClassFile = "Orvel1b6.class";
+inline constexpr const char* kAppletArchiveFile = "Orvel1b6.jar";
+
+struct GeneratedHtml {
+    std::string text; ///< the whole fragment, every line ended by CR LF
+    /// A button links to "javascript:...": the page holds the JSCaller block and
+    /// must call InitJSCaller on load.
+    bool usesJavaScript = false;
+};
+
+/**
+ * Regenerates the applet code for `model`. Changes nothing in the model except an
+ * empty AppletName, which gets its default first (see DefaultAppletName). The
+ * progress window, when given, is shown while generating.
+ */
+GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress = nullptr);
+
+/**
+ * The name an unnamed applet gets: "Orvelin" for a project without a file, else the
+ * file's bare name (as the applet would receive it) minus its last four characters
+ * (the ".orv"), made safe with DecodeLabel and MakeIdentifier.
+ */
+std::string DefaultAppletName(std::string_view projectFileName);
+
+/// What the applet-name box does on every key release: the box keeps what was
+/// typed, the model gets MakeIdentifier(DecodeLabel(typed)).
+void SetAppletNameFromBox(ProjectModel& model, std::string_view typed);
+
+/// True when some button's URL, in lower case, starts with "javascript:".
+bool UsesJavaScript(const ProjectModel& model);
+
+/**
+ * The JSCaller block of the program folder's Orvel.ini with every "AppletName"
+ * replaced by `appletName`: each line between "[JSCALLER]" and "[END OF JSCALLER]"
+ * as CR LF followed by the line, so the result starts with CR LF. A missing or
+ * unreadable file gives the empty text, without a message.
+ */
+std::string GetJSCaller(std::string_view appletName);
+/// The same, from a given file.
+std::string JSCallerFromFile(const std::string& iniPath, std::string_view appletName);
+
+/// The value of the applet parameter "p" (17 fields, each followed by "|").
+std::string AppletParameterValue(const ProjectModel& model);
+/// The value of a button's parameter (its 50 fields as the applet reads them).
+std::string ButtonParameterValue(const ButtonRecord& button);
+
+} // namespace orvelin
