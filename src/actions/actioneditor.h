@@ -1,0 +1,144 @@
+#pragma once
+
+#include "actioneditortexts.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvelin {
+
+struct ProjectModel;
+class UserInterface;
+
+/// Which input controls the selected command offers; the others are hidden or disabled.
+struct ActionPanels {
+    bool buttonList = false;
+    bool movePanel = false;
+    bool labelPanel = false; ///< the label box and the state list
+    bool colorButton = false;
+    bool timerPanel = false;
+    bool javaScript = false;
+};
+
+/// The typed inputs for a new command, as the dialog's boxes hold them.
+struct ActionInputs {
+    std::string x, y, width, height;  ///< txtX, txtY, txtWidth, txtHeight
+    std::string label;                ///< txtLabel (label text or colour)
+    std::string milliseconds = "100"; ///< lsMiliseconds
+    std::string javaScript;           ///< txtJavaScript
+};
+
+/**
+ * The action program editor without its window: the two parallel lists, the
+ * inputs for a new command and every rule of adding, removing, reordering,
+ * copying and storing. The dialog only mirrors this state in its controls.
+ *
+ * lstActionsCode holds the command lines; lstActions their readable lines. A
+ * command line without a readable form puts the lists out of step, and the
+ * commands that act on "the selected line" then act on the command line at the
+ * readable selection's index, as they always have.
+ */
+class ActionEditor {
+public:
+    ActionEditor(ProjectModel& model, UserInterface& ui, ActionEditorTexts texts = {},
+                 std::array<std::string, 3> stateCaptions = DefaultStateCaptions());
+
+    /**
+     * Fills the lists for `kind` and loads its program: a button kind from the
+     * current button's slot, an applet kind from the project's. An unknown kind
+     * shows "Wrong Return Parameters" and leaves the lists empty.
+     */
+    void open(std::string_view kind);
+    const std::string& kind() const { return m_kind; }
+    const ActionEditorTexts& texts() const { return m_texts; }
+
+    const std::vector<std::string>& commandLines() const { return m_code; }
+    const std::vector<std::string>& readableLines() const { return m_readable; }
+    /// Index of the selected readable line, -1 for none.
+    int selection() const { return m_selection; }
+    /// Selects a readable line; an index outside the list selects nothing.
+    void select(int index);
+    /// The list's tool tip: the selected line's full text.
+    std::string listToolTip() const;
+
+    const std::vector<std::string>& commandTexts() const { return m_commandTexts; }
+    const std::vector<std::string>& buttonTexts() const { return m_buttonTexts; }
+    const std::vector<std::string>& stateTexts() const { return m_stateTexts; }
+
+    /// Selected entries (0-based, -1 for none) of the command, button and state lists.
+    int command() const { return m_command; }
+    int button() const { return m_button; }
+    int state() const { return m_state; }
+    /// Choosing a command sets the panels; "Set Color" also empties the label box.
+    void setCommand(int index);
+    void setButton(int index);
+    void setState(int index);
+    ActionPanels panels() const;
+
+    ActionInputs& inputs() { return m_inputs; }
+    const ActionInputs& inputs() const { return m_inputs; }
+
+    /// "&Add": builds the selected command from the inputs; true when a line was added.
+    bool add();
+    /// "&Remove": drops the line at the selection from both lists, keeping the index.
+    void remove();
+    void moveUp();
+    void moveDown();
+    /// Drag reordering: the line at `from` goes to position `to` (readable indices).
+    void moveLine(int from, int to);
+    /// "Copy": the whole program into the ProgramBuffer.
+    void copy();
+    /// "Paste": the ProgramBuffer's commands after the current ones.
+    void paste();
+
+    /**
+     * Puts the command of readable line `index` back into the input controls, so
+     * that it can be changed and added again. False when the line has no command
+     * behind it any more.
+     */
+    bool loadLine(int index);
+
+    /// The colour picker's choice (0x00BBGGRR) written into the label box.
+    void takeColor(std::int32_t colour);
+
+    /**
+     * "&Ok": stores the program into every selected button (entry i-1 of
+     * `selected` for button i) or into the applet's slot, and clears Saved.
+     */
+    void ok(const std::vector<bool>& selected);
+
+    /// AppendProgram: the command lines of `text` after the current ones.
+    void appendProgram(std::string_view text);
+    /// StoreProgram: the command lines as program text.
+    std::string storeProgram() const;
+    /// RefreshActionList: the readable lines rebuilt from the command lines.
+    void refreshActionList();
+
+private:
+    void swapLines(int a, int b);
+
+    ProjectModel& m_model;
+    UserInterface& m_ui;
+    ActionEditorTexts m_texts;
+    std::string m_kind;
+
+    std::vector<std::string> m_code;     // lstActionsCode
+    std::vector<std::string> m_readable; // lstActions
+    // For each readable line, the command line it was built from (-1 once that
+    // line is gone); only loadLine needs it.
+    std::vector<int> m_source;
+    int m_selection = -1;
+
+    std::vector<std::string> m_commandTexts;
+    std::vector<std::string> m_buttonTexts;
+    std::vector<std::string> m_stateTexts;
+    int m_command = -1;
+    int m_button = -1;
+    int m_state = -1;
+    ActionInputs m_inputs;
+};
+
+} // namespace orvelin

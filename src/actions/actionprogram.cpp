@@ -1,0 +1,119 @@
+#include "actionprogram.h"
+
+#include "texthelpers.h"
+
+#include <cstdint>
+#include <limits>
+
+namespace orvelin {
+
+namespace {
+
+// Entry `number` (1-based) of `list`; the empty text for anything that is not
+// a number inside the list, which is how a command for a since-removed button
+// still gets a readable line.
+std::string Entry(const std::vector<std::string>& list, std::string_view number) {
+    const WholeNumber n = ParseWholeNumber(number, std::numeric_limits<std::int16_t>::min(),
+                                           std::numeric_limits<std::int16_t>::max());
+    if (n.error != NumberError::None || n.value < 1 ||
+        n.value > static_cast<std::int64_t>(list.size()))
+        return {};
+    return list[static_cast<std::size_t>(n.value - 1)];
+}
+
+// A move field as the list shows it: "left as it is" reads as two blanks.
+std::string MoveField(std::string_view word) {
+    return ReplaceAll(word, "-999", "  ");
+}
+
+} // namespace
+
+std::string ProgramKindTitle(std::string_view kind) {
+    if (kind == "ProgramUP")
+        return "Set Action: On Leaving Button...";
+    if (kind == "ProgramOVER")
+        return "Set Action: On Entering Button...";
+    if (kind == "ProgramDOWN")
+        return "Set Action: On Button Press...";
+    if (kind == "AppletProgramStart")
+        return "On Applet Start";
+    if (kind == "AppletProgramOVER")
+        return "On Mouse Moving above the Applet";
+    if (kind == "AppletProgramDOWN")
+        return "On Mouse Clicking the Applet";
+    if (kind == "AppletProgramOUT")
+        return "On Mouse Exiting the Applet";
+    return {};
+}
+
+std::vector<std::string> SplitProgram(std::string_view text) {
+    std::vector<std::string> lines;
+    std::string line;
+    for (char c : text) {
+        if (c == ';') {
+            lines.push_back(std::move(line));
+            line.clear();
+        } else {
+            line += c;
+        }
+    }
+    return lines;
+}
+
+std::string JoinProgram(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line;
+        text += ';';
+    }
+    return text;
+}
+
+std::string GetWord(std::string_view line, int n) {
+    std::string word;
+    int counter = 1;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const char c = line[i];
+        if (c != ' ')
+            word += c;
+        if (c == ' ' || i + 1 == line.size()) {
+            if (counter == n)
+                return word;
+            word.clear();
+            ++counter;
+        }
+    }
+    return {};
+}
+
+std::optional<std::string> ReadableLine(std::string_view line, const ReadableTexts& texts) {
+    const std::string first = GetWord(line, 1);
+    if (first.size() != 1 || first[0] < '1' || first[0] > '7')
+        return std::nullopt;
+    const int command = first[0] - '0';
+    const std::size_t index = static_cast<std::size_t>(command - 1);
+    const std::string name = index < texts.commands.size() ? texts.commands[index] : std::string();
+
+    switch (command) {
+    case 1:
+    case 2:
+        return name + " " + Entry(texts.buttons, GetWord(line, 2));
+    case 3:
+        return name + " " + Entry(texts.buttons, GetWord(line, 2)) +
+               "  ->  x:" + MoveField(GetWord(line, 3)) + " y:" + MoveField(GetWord(line, 4)) +
+               " " + texts.widthCaption + MoveField(GetWord(line, 5)) + " " + texts.heightCaption +
+               MoveField(GetWord(line, 6));
+    case 4:
+        return name + " " + Entry(texts.buttons, GetWord(line, 2)) + " " +
+               Entry(texts.states, GetWord(line, 3)) + "  ->  " + DecodeLabel(GetWord(line, 4));
+    case 5:
+        return name + " " + Entry(texts.buttons, GetWord(line, 2)) + " " +
+               Entry(texts.states, GetWord(line, 3)) + "  ->  " + GetWord(line, 4);
+    case 6:
+        return name + ": " + GetWord(line, 2) + " ms";
+    default:
+        return name + ": " + DecodeLabel(GetWord(line, 3));
+    }
+}
+
+} // namespace orvelin

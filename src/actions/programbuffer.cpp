@@ -1,0 +1,10 @@
+#include "programbuffer.h"
+
+namespace orvelin {
+
+std::string& ProgramBuffer() {
+    static std::string buffer;
+    return buffer;
+}
+
+} // namespace orvelin
