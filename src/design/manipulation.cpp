@@ -1,0 +1,351 @@
+#include "manipulation.h"
+
+#include <algorithm>
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace orvelin {
+
+namespace {
+
+constexpr int kInt16Min = std::numeric_limits<std::int16_t>::min();
+constexpr int kInt16Max = std::numeric_limits<std::int16_t>::max();
+
+std::int16_t ToInt16(long long value) {
+    return static_cast<std::int16_t>(std::clamp<long long>(value, kInt16Min, kInt16Max));
+}
+
+void StoreRect(ButtonRecord& record, const PixelRect& rect) {
+    record.x = ToInt16(rect.left);
+    record.y = ToInt16(rect.top);
+    record.Width = ToInt16(rect.width);
+    record.Height = ToInt16(rect.height);
+}
+
+} // namespace
+
+PixelRect ButtonRect(const ProjectModel& model, int index) {
+    const ButtonRecord& b = model.Button(index);
+    return {b.x, b.y, b.Width, b.Height};
+}
+
+bool IsButtonNumber(const ProjectModel& model, int index) {
+    return index >= 1 && index <= model.ButtonCount;
+}
+
+int RoundPixel(double value) {
+    if (!std::isfinite(value))
+        return 0;
+    const double r = std::nearbyint(value);
+    return static_cast<int>(std::clamp(r, double(INT_MIN), double(INT_MAX)));
+}
+
+PressOutcome PressOnButton(ProjectModel& model, ButtonList& list, DragState& drag, int number,
+                           MouseButton button, bool ctrl, double x, double y) {
+    PressOutcome out;
+    if (!IsButtonNumber(model, number))
+        return out;
+
+    if (button != MouseButton::Left) {
+        model.CurrentButton = static_cast<std::int16_t>(number);
+        list.selectOnly(number);
+        out.showProp = true;
+        out.placeSizer = number;
+        const MoveMenuEnabling menu = MoveMenuFor(model);
+        out.openMoveMenu = true;
+        out.enableBringToFront = menu.bringToFront;
+        out.enableSendBack = menu.sendBack;
+        return out;
+    }
+
+    // The first Ctrl+click while one button is selected starts a group: the button
+    // that was current is part of it and must show the marker as well.
+    const int previous = model.CurrentButton;
+    if (ctrl && list.selectedCount() < 2 && previous != number && IsButtonNumber(model, previous) &&
+        list.isSelected(previous))
+        out.markPrevious = previous;
+    model.CurrentButton = static_cast<std::int16_t>(number);
+
+    if (ctrl) {
+        if (list.isSelected(number)) {
+            list.removeSelection(number);
+            out.redrawPressed = number;
+        } else {
+            list.addSelection(number);
+            out.markPressed = number;
+        }
+    } else {
+        // A press on a member of a group keeps the group, so that it can be dragged;
+        // the handles still go to the pressed button, because they resize the current one.
+        if (!list.isSelected(number))
+            list.selectOnly(number);
+        out.placeSizer = number;
+    }
+
+    drag.dragging = true;
+    drag.moved = false;
+    drag.grabX = x;
+    drag.grabY = RoundPixel(y);
+    out.showProp = true;
+    return out;
+}
+
+MoveOutcome MoveSelection(ProjectModel& model, const ButtonList& list, int dx, int dy) {
+    MoveOutcome out;
+    const int current = model.CurrentButton;
+    if (!IsButtonNumber(model, current))
+        return out;
+
+    out.buttons.reserve(static_cast<std::size_t>(list.selectedCount()) + 1);
+    out.buttons.push_back(current);
+    for (int i = 1; i <= model.ButtonCount; ++i)
+        if (i != current && list.isSelected(i))
+            out.buttons.push_back(i);
+
+    // Shorten the offset where a record would leave the 16-bit range: clamping each
+    // button on its own would squeeze the group.
+    long long ddx = dx;
+    long long ddy = dy;
+    for (int i : out.buttons) {
+        const ButtonRecord& b = model.Button(i);
+        ddx = std::clamp<long long>(ddx, kInt16Min - b.x, kInt16Max - b.x);
+        ddy = std::clamp<long long>(ddy, kInt16Min - b.y, kInt16Max - b.y);
+    }
+    out.dx = static_cast<int>(ddx);
+    out.dy = static_cast<int>(ddy);
+
+    for (int i : out.buttons) {
+        ButtonRecord& b = model.Button(i);
+        b.x = static_cast<std::int16_t>(b.x + out.dx);
+        b.y = static_cast<std::int16_t>(b.y + out.dy);
+    }
+    out.moved = true;
+    model.Saved = false;
+    return out;
+}
+
+MoveOutcome DragOnButton(ProjectModel& model, const ButtonList& list, DragState& drag, double x,
+                         double y) {
+    if (!drag.dragging)
+        return {};
+    // One offset for the whole group, rounded once, so that every button moves alike.
+    const int dx = RoundPixel(x - drag.grabX);
+    const int dy = RoundPixel(y - drag.grabY);
+    MoveOutcome out = MoveSelection(model, list, dx, dy);
+    if (out.moved && (out.dx != 0 || out.dy != 0))
+        drag.moved = true;
+    return out;
+}
+
+MoveOutcome NudgeSelection(ProjectModel& model, const ButtonList& list, NudgeDirection direction,
+                           bool shift) {
+    const int step = shift ? 10 : 1;
+    switch (direction) {
+    case NudgeDirection::Left:
+        return MoveSelection(model, list, -step, 0);
+    case NudgeDirection::Right:
+        return MoveSelection(model, list, step, 0);
+    case NudgeDirection::Up:
+        return MoveSelection(model, list, 0, -step);
+    case NudgeDirection::Down:
+        return MoveSelection(model, list, 0, step);
+    }
+    return {};
+}
+
+ReleaseOutcome ReleaseOnButton(const ProjectModel& model, const ButtonList& list, DragState& drag,
+                               int number) {
+    ReleaseOutcome out;
+    const bool moved = drag.dragging && drag.moved;
+    drag.dragging = false;
+    drag.moved = false;
+    if (!IsButtonNumber(model, number))
+        return out;
+    if (list.selectedCount() < 2)
+        out.placeSizer = number;
+    if (model.Button(number).noBackGround == 1)
+        out.redrawReleased = number;
+    if (moved) {
+        for (int i = 1; i <= model.ButtonCount; ++i)
+            if (i != number && list.isSelected(i) && model.Button(i).noBackGround == 1)
+                out.redrawMovedTransparent.push_back(i);
+    }
+    return out;
+}
+
+int PressOnSurface(const ProjectModel& model, ButtonList& list, MouseButton button) {
+    if (model.ButtonCount < 1 || button == MouseButton::Right)
+        return 0;
+    list.selectOnly(model.CurrentButton);
+    return IsButtonNumber(model, model.CurrentButton) ? model.CurrentButton : 0;
+}
+
+MoveMenuEnabling MoveMenuFor(const ProjectModel& model) {
+    return {model.CurrentButton != model.ButtonCount, model.CurrentButton != 1};
+}
+
+namespace {
+
+int SwapCurrentWith(ProjectModel& model, ButtonList& list, int other) {
+    const int current = model.CurrentButton;
+    if (!IsButtonNumber(model, current) || !IsButtonNumber(model, other))
+        return 0;
+    std::swap(model.Button(current), model.Button(other));
+    model.CurrentButton = static_cast<std::int16_t>(other);
+    // The selection follows the button, or the editor would go on editing the one
+    // that now lies in its old place.
+    list.selectOnly(other);
+    model.Saved = false;
+    return other;
+}
+
+} // namespace
+
+int BringToFront(ProjectModel& model, ButtonList& list) {
+    if (!MoveMenuFor(model).bringToFront)
+        return 0;
+    return SwapCurrentWith(model, list, model.CurrentButton + 1);
+}
+
+int SendBack(ProjectModel& model, ButtonList& list) {
+    if (!MoveMenuFor(model).sendBack)
+        return 0;
+    return SwapCurrentWith(model, list, model.CurrentButton - 1);
+}
+
+PixelPoint SizerPosition(int handle, const PixelRect& b, int w, int h) {
+    // Centred on the edge: L + W/2 - w/2, computed once so that odd sizes round alike.
+    const int centreLeft = b.left + (b.width - w) / 2;
+    const int centreTop = b.top + (b.height - h) / 2;
+    switch (handle) {
+    case SizerBottom:
+        return {centreLeft, b.top + b.height + 2};
+    case SizerRight:
+        return {b.left + b.width + 2, centreTop};
+    case SizerTop:
+        return {centreLeft, b.top - h - 2};
+    case SizerLeft:
+        return {b.left - w - 2, centreTop};
+    default:
+        return {};
+    }
+}
+
+void PressSizer(SizerState& sizers, int handle, double x, double y) {
+    if (handle < 0 || handle >= kSizerCount)
+        return;
+    sizers.tag[static_cast<std::size_t>(handle)] = kSizerTagDown;
+    sizers.grabX = x;
+    sizers.grabY = RoundPixel(y);
+}
+
+ResizeOutcome DragSizer(ProjectModel& model, SizerState& sizers, int handle, PixelPoint handleAt,
+                        int w, int h, double x, double y) {
+    ResizeOutcome out;
+    if (handle < 0 || handle >= kSizerCount ||
+        sizers.tag[static_cast<std::size_t>(handle)] != kSizerTagDown)
+        return out;
+    const int current = model.CurrentButton;
+    if (!IsButtonNumber(model, current))
+        return out;
+
+    PixelRect r = ButtonRect(model, current);
+    const double dx = x - sizers.grabX;
+    const double dy = y - sizers.grabY;
+    switch (handle) {
+    case SizerBottom:
+        r.height = std::max(kSmallestSize, RoundPixel(handleAt.y + dy - r.top + 2));
+        break;
+    case SizerRight:
+        r.width = std::max(kSmallestSize, RoundPixel(handleAt.x + dx - r.left + 2));
+        break;
+    case SizerTop: {
+        const int newTop = RoundPixel(handleAt.y + dy) + h + 2;
+        const int newHeight = r.top + r.height - newTop;
+        if (newHeight < kSmallestSize)
+            return out;
+        r.height = newHeight;
+        r.top = newTop;
+        break;
+    }
+    case SizerLeft: {
+        const int handleLeft = RoundPixel(handleAt.x + dx);
+        const int newWidth = r.left + r.width - (handleLeft + w + 2);
+        if (newWidth < kSmallestSize || handleLeft <= 0)
+            return out;
+        r.width = newWidth;
+        r.left = std::max(kSmallestSize, handleLeft + w + 2);
+        break;
+    }
+    default:
+        return out;
+    }
+
+    StoreRect(model.Button(current), r);
+    out.rect = ButtonRect(model, current);
+    out.changed = true;
+    model.Saved = false;
+    return out;
+}
+
+SizerReleaseOutcome ReleaseSizer(SizerState& sizers, int handle) {
+    SizerReleaseOutcome out;
+    if (handle < 0 || handle >= kSizerCount)
+        return out;
+    sizers.tag[static_cast<std::size_t>(handle)] = kSizerTagUp;
+    out.updateTransparentButtons = handle == SizerTop || handle == SizerLeft;
+    return out;
+}
+
+PixelPoint LabelAnchor(const ProjectModel& model, int index) {
+    const ButtonRecord& b = model.Button(index);
+    const ButtonState s = model.EditedState();
+    return {b.x + b.LabelPosX(s), b.y + b.LabelPosY(s)};
+}
+
+void PressLabelPositioner(PositionerState& positioner, double x, double y) {
+    positioner.dragging = true;
+    positioner.grabX = x;
+    positioner.grabY = RoundPixel(y);
+}
+
+LabelMoveOutcome DragLabelPositioner(ProjectModel& model, const ButtonList& list,
+                                     PositionerState& positioner, double x, double y) {
+    LabelMoveOutcome out;
+    const int current = model.CurrentButton;
+    if (!positioner.dragging || !IsButtonNumber(model, current))
+        return out;
+    const ButtonState s = model.EditedState();
+    const ButtonRecord& b = model.Button(current);
+    // Inside the button, so that the positioner never gets lost under another one.
+    const int px =
+        std::clamp(b.LabelPosX(s) + RoundPixel(x - positioner.grabX), 0, std::max(0, int(b.Width)));
+    const int py = std::clamp(b.LabelPosY(s) + RoundPixel(y - positioner.grabY), 0,
+                              std::max(0, int(b.Height)));
+    out.position = {px, py};
+    if (px == b.LabelPosX(s) && py == b.LabelPosY(s) && b.PositionText(s) == 1)
+        return out;
+
+    for (int i = 1; i <= model.ButtonCount; ++i) {
+        if (i != current && !list.isSelected(i))
+            continue;
+        ButtonRecord& r = model.Button(i);
+        r.LabelPosX(s) = static_cast<std::int16_t>(px);
+        r.LabelPosY(s) = static_cast<std::int16_t>(py);
+        r.PositionText(s) = 1;
+        if (i == current)
+            out.buttons.insert(out.buttons.begin(), i);
+        else
+            out.buttons.push_back(i);
+    }
+    model.Saved = false;
+    return out;
+}
+
+void ReleaseLabelPositioner(PositionerState& positioner) {
+    positioner.dragging = false;
+}
+
+} // namespace orvelin
