@@ -83,6 +83,10 @@ const char* MessageTable::englishDefault(Msg id) {
         return " not found";
     case Msg::HelpNotFound:
         return " could not be opened.";
+    case Msg::RestoreDefaultsQuestion:
+        return "The default button and the advanced options will get their original values.";
+    case Msg::IniWriteFailed:
+        return "Unable to write registry or .ini file value.";
     case Msg::Count:
         break;
     }

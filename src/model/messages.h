@@ -60,6 +60,9 @@ enum class Msg : std::size_t {
     LanguageFileNotFound,
     // Editor, later additions.
     HelpNotFound, ///< after the help page's path
+    // Design surface dialogs.
+    RestoreDefaultsQuestion,
+    IniWriteFailed,
     Count
 };
 
