@@ -1,0 +1,140 @@
+#pragma once
+
+#include "designview.h"
+#include "editorview.h"
+#include "projectmodel.h"
+#include "shell.h"
+
+#include <array>
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orvelin::testing {
+
+/// A design surface that writes down every call as text ("LoadButton 3").
+class RecordingDesignView : public DesignView {
+public:
+    std::vector<std::string> calls;
+    bool onTop = false;
+
+    void LoadButton(int index) override { calls.push_back("LoadButton " + std::to_string(index)); }
+    void HideLastButton(int index) override {
+        calls.push_back("HideLastButton " + std::to_string(index));
+    }
+    void ClearButtons() override { calls.push_back("ClearButtons"); }
+    void RedrawButton(int index, bool placeHandles, bool placePositioner,
+                      bool keepGeometry) override {
+        calls.push_back("RedrawButton " + std::to_string(index) + " " +
+                        std::to_string(placeHandles) + std::to_string(placePositioner) +
+                        std::to_string(keepGeometry));
+        redrawn.push_back(index);
+    }
+    void RedrawAll() override { calls.push_back("RedrawAll"); }
+    void UpdateTransparentBtns() override { calls.push_back("UpdateTransparentBtns"); }
+    void AppletChanged() override { calls.push_back("AppletChanged"); }
+    void HideMarks() override { calls.push_back("HideMarks"); }
+    void SetOnTop(bool top) override {
+        onTop = top;
+        calls.push_back(top ? "SetOnTop 1" : "SetOnTop 0");
+    }
+
+    std::vector<int> redrawn; ///< indices given to RedrawButton, in order
+    int count(const std::string& call) const {
+        int n = 0;
+        for (const std::string& c : calls)
+            n += c == call ? 1 : 0;
+        return n;
+    }
+    void clear() {
+        calls.clear();
+        redrawn.clear();
+    }
+};
+
+/// A main window that records what it was told to show, and the model's Updating flag
+/// at the moments it fills its controls.
+class RecordingEditorView : public EditorView {
+public:
+    explicit RecordingEditorView(const ProjectModel& model) : m_model(model) {}
+
+    struct Prop {
+        int index;
+        std::string caption;
+        std::string state;
+        bool updating;
+    };
+    std::vector<Prop> props;
+    std::vector<bool> mainParamsUpdating;
+    int listShows = 0;
+    std::string caption;
+    std::array<std::pair<std::string, bool>, 5> recent{}; ///< slots 1..4
+    std::string actionTitle;
+    ButtonState state = ButtonState::UP;
+    int stateShows = 0;
+    bool onTopChecked = false;
+    std::string language;
+    bool autoTileChecked = false;
+    int labelEditorCloses = 0;
+    int quits = 0;
+    std::map<std::string, ImageSize> imageSizes;
+    /// Runs inside ShowProp and SetMainParams, as the window's control signals would.
+    std::function<void()> onFill;
+
+    void ShowProp(int index, const std::string& text) override {
+        props.push_back({index, text, m_model.CurrentState, m_model.Updating});
+        if (onFill)
+            onFill();
+    }
+    void SetMainParams() override {
+        mainParamsUpdating.push_back(m_model.Updating);
+        if (onFill)
+            onFill();
+    }
+    void ShowButtonList() override { ++listShows; }
+    void SetCaption(const std::string& text) override { caption = text; }
+    void SetRecentEntry(int slot, const std::string& text, bool visible) override {
+        recent.at(static_cast<std::size_t>(slot)) = {text, visible};
+    }
+    void SetActionTitle(const std::string& title) override { actionTitle = title; }
+    void ShowState(ButtonState s) override {
+        state = s;
+        ++stateShows;
+    }
+    void SetOnTopChecked(bool checked) override { onTopChecked = checked; }
+    void SetLanguageChecked(const std::string& lang) override { language = lang; }
+    void SetAutoTileChecked(bool checked) override { autoTileChecked = checked; }
+    void CloseLabelEditor() override { ++labelEditorCloses; }
+    void QuitProgram() override { ++quits; }
+    std::optional<ImageSize> ImageSizeOf(const std::string& path) override {
+        auto it = imageSizes.find(path);
+        if (it == imageSizes.end())
+            return std::nullopt;
+        return it->second;
+    }
+
+private:
+    const ProjectModel& m_model;
+};
+
+/// A shell that records what it was asked to open or start.
+class FakeShell : public Shell {
+public:
+    std::vector<std::string> opened;
+    std::vector<std::pair<std::string, std::vector<std::string>>> started;
+    bool succeed = true;
+
+    bool OpenDocument(const std::string& path) override {
+        opened.push_back(path);
+        return succeed;
+    }
+    bool StartProgram(const std::string& program,
+                      const std::vector<std::string>& arguments) override {
+        started.emplace_back(program, arguments);
+        return succeed;
+    }
+};
+
+} // namespace orvelin::testing
