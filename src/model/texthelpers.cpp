@@ -1,5 +1,7 @@
 #include "texthelpers.h"
 
+#include "replacepasses.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -81,66 +83,138 @@ std::optional<DecimalText> ScanDecimal(std::string_view text) {
     return out;
 }
 
+/// The significant digits of a number (no leading zeros; empty for zero) and
+/// how many of them stand before the decimal point (negative for 0.00ddd).
+struct Significant {
+    std::string digits;
+    std::int64_t pointAt = 0;
+};
+
+Significant SignificantDigits(const DecimalText& number) {
+    Significant out;
+    out.digits.assign(number.whole);
+    out.digits += number.fraction;
+    out.pointAt = static_cast<std::int64_t>(number.whole.size()) + number.exponent;
+    const std::size_t firstNonZero = out.digits.find_first_not_of('0');
+    if (firstNonZero == std::string::npos) {
+        out.digits.clear();
+        out.pointAt = 0;
+        return out;
+    }
+    out.digits.erase(0, firstNonZero);
+    out.pointAt -= static_cast<std::int64_t>(firstNonZero);
+    return out;
+}
+
 } // namespace
 
 std::string EncodeLabel(std::string_view text) {
-    std::string bars(text);
-    std::replace(bars.begin(), bars.end(), '|', 'I');
-    return ReplaceAll(ReplaceAll(bars, " ", "&nbsp"), "\"", "&y02");
+    // One scan does the three steps at once: "|" to "I", then blanks, then double
+    // quotes through the repeated replace. Neither "&nbsp" nor "&y02" holds a
+    // blank or a double quote, so each replace finds just the characters of the
+    // text itself, and those are the ones a single scan meets.
+    std::string out;
+    out.reserve(text.size() + text.size() / 4);
+    for (const char c : text) {
+        switch (c) {
+        case '|':
+            out += 'I';
+            break;
+        case ' ':
+            out += "&nbsp";
+            break;
+        case '"':
+            out += "&y02";
+            break;
+        default:
+            out += c;
+        }
+    }
+    return out;
 }
 
 std::string DecodeLabel(std::string_view text) {
-    return ReplaceAll(ReplaceAll(ReplaceAll(text, "&nbsp", " "), "&y01", ";"), "&y02", "\"");
+    // One scan does the three replaces in their order: "&nbsp", "&y01", "&y02".
+    // Their replacements hold none of the three, and two of them can never
+    // overlap (each starts with the only "&" it has), so the occurrences the
+    // three replaces find are exactly those of the text itself.
+    std::string out;
+    out.reserve(text.size());
+    std::size_t from = 0;
+    for (std::size_t amp = text.find('&'); amp != std::string_view::npos;
+         amp = text.find('&', amp + 1)) {
+        const std::string_view rest = text.substr(amp);
+        char decoded = 0;
+        std::size_t length = 4;
+        if (rest.starts_with("&nbsp")) {
+            decoded = ' ';
+            length = 5;
+        } else if (rest.starts_with("&y01")) {
+            decoded = ';';
+        } else if (rest.starts_with("&y02")) {
+            decoded = '"';
+        } else {
+            continue;
+        }
+        out.append(text, from, amp - from);
+        out += decoded;
+        from = amp + length;
+        amp = from - 1;
+    }
+    out.append(text, from, std::string_view::npos);
+    return out;
 }
+
+namespace {
+
+/**
+ * Whether a match of `search` can ever use characters of `replacement`, or,
+ * for an empty replacement, the join it leaves behind: some placement of
+ * search across the replacement where the two agree on every character they
+ * share. When none exists, each pass of the repeated replace only finds
+ * matches of the original text, and the whole process gives what one plain
+ * left-to-right replace gives.
+ */
+bool CanFormNewMatches(std::string_view search, std::string_view replacement) {
+    const auto m = static_cast<std::ptrdiff_t>(search.size());
+    const auto r = static_cast<std::ptrdiff_t>(replacement.size());
+    if (r == 0)
+        return m >= 2;
+    for (std::ptrdiff_t offset = 1 - m; offset < r; ++offset) {
+        bool agree = true;
+        for (std::ptrdiff_t p = std::max<std::ptrdiff_t>(0, offset);
+             p < std::min(r, offset + m) && agree; ++p)
+            agree = replacement[static_cast<std::size_t>(p)] ==
+                    search[static_cast<std::size_t>(p - offset)];
+        if (agree)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
 
 std::string ReplaceAll(std::string_view text, std::string_view search,
                        std::string_view replacement) {
-    std::string current(text);
     if (search.empty())
-        return current;
-    const bool endless = replacement.find(search) != std::string_view::npos;
-    const std::size_t m = search.size();
-    for (;;) {
-        // One pass: positions before `out.size()` are settled; the text still
-        // to look at is `pending` (read from its back) followed by `current[rest..]`.
-        const std::size_t passEnd = current.size();
-        std::string out;
-        out.reserve(current.size());
-        std::string pending;
-        std::size_t rest = 0;
-        auto at = [&](std::size_t k) -> int {
-            if (k < pending.size())
-                return static_cast<unsigned char>(pending[pending.size() - 1 - k]);
-            k -= pending.size();
-            return rest + k < current.size() ? static_cast<unsigned char>(current[rest + k]) : -1;
-        };
-        auto drop = [&](std::size_t count) {
-            const std::size_t fromPending = std::min(count, pending.size());
-            pending.resize(pending.size() - fromPending);
-            rest += count - fromPending;
-        };
-        bool changed = false;
-        while (out.size() < passEnd && (!pending.empty() || rest < current.size())) {
-            bool match = true;
-            for (std::size_t k = 0; k < m && match; ++k)
-                match = at(k) == static_cast<unsigned char>(search[k]);
-            if (match) {
-                changed = true;
-                drop(m);
-                pending.append(replacement.rbegin(), replacement.rend());
-            }
-            if (pending.empty() && rest >= current.size())
-                break;
-            out += static_cast<char>(at(0));
-            drop(1);
-        }
-        out.append(pending.rbegin(), pending.rend());
-        out.append(current, rest, std::string::npos);
-        const bool sameLength = out.size() == current.size();
-        current = std::move(out);
-        if (!changed || sameLength || endless)
-            return current;
+        return std::string(text);
+    if (CanFormNewMatches(search, replacement)) {
+        // A replacement holding the search text would be replaced again forever;
+        // it gets one pass.
+        const bool endless = replacement.find(search) != std::string_view::npos;
+        return ReplacePasses(text, search, replacement).run(endless);
     }
+    std::string out;
+    out.reserve(text.size());
+    std::size_t from = 0;
+    for (std::size_t hit = text.find(search); hit != std::string_view::npos;
+         hit = text.find(search, from)) {
+        out.append(text, from, hit - from);
+        out += replacement;
+        from = hit + search.size();
+    }
+    out.append(text, from, std::string_view::npos);
+    return out;
 }
 
 std::string MakeIdentifier(std::string_view text) {
@@ -200,25 +274,19 @@ WholeNumber ParseWholeNumber(std::string_view text, std::int64_t min, std::int64
     const std::optional<DecimalText> number = ScanDecimal(text);
     if (!number)
         return {0, NumberError::TypeMismatch};
-    // All significant digits in one string; the decimal point sits after `pointAt` of them.
-    std::string digits(number->whole);
-    digits += number->fraction;
-    std::int64_t pointAt = static_cast<std::int64_t>(number->whole.size()) + number->exponent;
-    const std::size_t firstNonZero = digits.find_first_not_of('0');
-    if (firstNonZero == std::string::npos)
+    const Significant significant = SignificantDigits(*number);
+    const std::string& digits = significant.digits;
+    const std::int64_t pointAt = significant.pointAt;
+    if (digits.empty())
         return {0, NumberError::None};
-    digits.erase(0, firstNonZero);
-    pointAt -= static_cast<std::int64_t>(firstNonZero);
-    // More than 19 whole digits cannot fit in 64 bits, let alone in [min, max].
+    // More than 19 whole digits cannot fit in 64 bits, let alone in [min, max];
+    // 19 digits stay below 10^19 < 2^64, so the sum below cannot wrap.
     if (pointAt > 19)
         return {0, NumberError::Overflow};
     std::uint64_t magnitude = 0;
     for (std::int64_t k = 0; k < pointAt; ++k) {
-        const std::size_t index = static_cast<std::size_t>(k);
-        const unsigned digit = index < digits.size() ? unsigned(digits[index] - '0') : 0;
-        if (magnitude > (std::numeric_limits<std::uint64_t>::max() - digit) / 10)
-            return {0, NumberError::Overflow};
-        magnitude = magnitude * 10 + digit;
+        const auto index = static_cast<std::size_t>(k);
+        magnitude = magnitude * 10 + (index < digits.size() ? unsigned(digits[index] - '0') : 0U);
     }
     // Round the dropped fraction to nearest, halves to the even whole number.
     if (pointAt >= 0 && static_cast<std::size_t>(pointAt) < digits.size()) {
@@ -272,6 +340,12 @@ std::string MakePositive(std::string_view text) {
         number.remove_prefix(1);
     double value = 0;
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        // Too small for a double reads as 0; too large is no number at all.
+        if (SignificantDigits(*ScanDecimal(trimmed)).pointAt < 0)
+            return "0";
+        return "5";
+    }
     if (error != std::errc() || end != number.data() + number.size() || !std::isfinite(value))
         return "5";
     value = std::fabs(value);

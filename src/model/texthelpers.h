@@ -22,11 +22,19 @@ std::string EncodeLabel(std::string_view text);
 std::string DecodeLabel(std::string_view text);
 
 /**
- * Replaces `search` by `replacement`, repeating whole passes until a pass
- * leaves the length unchanged, so matches formed by earlier replacements are
- * found as well ("abb", "ab" -> "a" gives "a"). A replacement that contains the
- * search text never terminates in the written algorithm; here it is treated as
- * a single ordinary pass instead of hanging.
+ * Replaces `search` by `replacement` in whole passes, repeated until a pass
+ * leaves the length unchanged. A pass looks at the positions below the length
+ * the text had when it began; after a replacement at i it goes on at i + 1 in
+ * the changed text, so a match may start inside a fresh replacement, while one
+ * formed behind the scan or pushed beyond the pass's end waits for the next
+ * pass ("abb", "ab" -> "a" gives "a"). A replacement of the same length as the
+ * search makes one pass. An empty search changes nothing.
+ *
+ * A replacement that holds the search text would be replaced again forever;
+ * it gets one pass. Some other pairs (such as "ab" -> "bbaa") grow without
+ * practical end as well; no caller passes such a pair.
+ *
+ * The cost is linear in the text and the characters written (see ReplacePasses).
  */
 std::string ReplaceAll(std::string_view text, std::string_view search,
                        std::string_view replacement);
@@ -34,19 +42,27 @@ std::string ReplaceAll(std::string_view text, std::string_view search,
 /// Safe applet name: "_" before a leading digit, 29 punctuation characters to "_".
 std::string MakeIdentifier(std::string_view text);
 
-/// The n-th field (from 1) of `text`, made for a two-character separator.
+/**
+ * The n-th field (from 1) of `text`, made for a two-character separator such
+ * as "\r\n". With a one-character separator every field but the last loses
+ * its last character; an empty separator gives empty fields.
+ */
 std::string GetToken(std::string_view text, std::string_view separator, int n);
 
-/// Occurrences of `search` in `text`, overlapping ones included.
+/// Occurrences of `search` in `text`, overlapping ones included; saturates at 32767.
 std::int16_t CountOccurrences(std::string_view text, std::string_view search);
 
 bool StartsWith(std::string_view text, std::string_view prefix);
 
 /**
  * Converts a decimal number to a whole number the way the designer converts
- * typed text: blanks around it are allowed, a fraction rounds to the nearest
- * whole number with halves to the even one. Returns nothing for an empty or
- * non-numeric text and for a result outside [min, max].
+ * typed text: [blanks][+|-]digits[.digits][e|E[+|-]digits][blanks], with at
+ * least one digit before or after the point; the decimal separator is ".".
+ * Exponents are accepted ("1e3" is 1000) as typed-number conversion has always
+ * accepted them. A fraction rounds to the nearest whole number, halves to the
+ * even one, computed on the decimal digits themselves (no floating point).
+ * An empty or non-numeric text is a type mismatch, a result outside
+ * [min, max] an overflow; any length of digits or exponent is safe.
  */
 enum class NumberError { None, TypeMismatch, Overflow };
 struct WholeNumber {
@@ -61,7 +77,8 @@ std::string NumberErrorText(NumberError error);
 /// 16-bit conversion that gives 0 for anything it cannot convert.
 std::int16_t MakeCInt(std::string_view text);
 
-/// Absolute value of a decimal number as its shortest text; "5" when it is no number.
+/// Absolute value of a decimal number (same grammar as ParseWholeNumber) as the
+/// shortest text that reads back the same double; "5" when it is no number.
 std::string MakePositive(std::string_view text);
 
 /// Upper-case hexadecimal form of a 32-bit value without leading zeros ("0" for zero).
