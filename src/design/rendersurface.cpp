@@ -1,0 +1,48 @@
+#include "rendersurface.h"
+
+#include "appletbackground.h"
+#include "buttonpainter.h"
+#include "imagecache.h"
+#include "paintsupport.h"
+
+#include <QPainter>
+
+namespace orvelin {
+
+QImage RenderSurface(const ProjectModel& model, std::string_view state,
+                     const RenderOptions& options) {
+    ImageCache ownImages;
+    ImageCache& images = options.images ? *options.images : ownImages;
+    images.setProjectFile(model.ProjectFileName);
+
+    QImage surface = RenderBackground(model, images, options.noBackGround);
+    // Transparent buttons copy the background alone, never the buttons below them.
+    const QImage background = surface.copy();
+
+    ButtonPainter painter(model, images);
+    painter.setState(state);
+    painter.setBackground(&background);
+    painter.setSelection(options.selection);
+    painter.setUserInterface(options.ui);
+
+    QPainter onSurface(&surface);
+    QImage picture;
+    for (int index = 1; index <= model.ButtonCount; ++index) {
+        const ButtonRecord& button = model.Button(index);
+        if (button.Width <= 0 || button.Height <= 0)
+            continue;
+        const QSize size(button.Width, button.Height);
+        if (picture.size() != size)
+            picture = NewPicture(size);
+        else
+            picture.fill(Qt::transparent);
+        {
+            QPainter onPicture(&picture);
+            painter.PaintButton(onPicture, index);
+        }
+        onSurface.drawImage(QPoint(button.x, button.y), picture);
+    }
+    return surface;
+}
+
+} // namespace orvelin
