@@ -1,6 +1,7 @@
 #include "replacepasses.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace orvelin {
 
@@ -8,12 +9,16 @@ ReplacePasses::ReplacePasses(std::string_view text, std::string_view search,
                              std::string_view replacement)
     : m_search(search), m_replacement(replacement) {
     m_nodes.reserve(text.size() + 16 * replacement.size());
-    for (std::size_t i = 0; i < text.size(); ++i)
-        m_nodes.push_back({i == 0 ? kNone : i - 1, i + 1 == text.size() ? kNone : i + 1, text[i]});
-    if (!text.empty()) {
-        m_head = 0;
-        m_last = text.size() - 1;
+    NodeId previous = kNone;
+    for (const char c : text) {
+        const NodeId id = newNode(previous, kNone, c);
+        if (previous != kNone)
+            m_nodes[previous].next = id;
+        else
+            m_head = id;
+        previous = id;
     }
+    m_last = previous;
     m_length = static_cast<std::int64_t>(text.size());
     // The first pass has looked at nothing yet: all of the text is its tail.
     m_tail = m_head;
@@ -40,13 +45,13 @@ std::int64_t ReplacePasses::pass() {
     // looked at one by one; in the tail every position is.
     std::int64_t liveEnd = -1;
     bool inTail = false;
-    std::size_t walk = kNone; // node at lastIndex + 1 while walking one by one
+    NodeId walk = kNone; // node at lastIndex + 1 while walking one by one
     std::size_t nextDirty = 0;
     m_nextDirty.clear();
     m_lastMarked = -1;
 
     for (;;) {
-        std::size_t node = kNone;
+        NodeId node = kNone;
         std::int64_t index = lastIndex + 1;
         if (inTail || index <= liveEnd) {
             node = walk;
@@ -77,14 +82,14 @@ std::int64_t ReplacePasses::pass() {
             walk = m_nodes[node].next;
             continue;
         }
-        const std::size_t tailBefore = m_tail;
-        const std::size_t at = replaceAt(node, index);
+        const NodeId tailBefore = m_tail;
+        const NodeId at = replaceAt(node, index);
         ++replaced;
         shift += growth;
         if (!inTail && tailBefore != kNone && m_nodes[tailBefore].gone) {
             // The match reached into the tail: the tail now starts right after
             // the replacement.
-            std::size_t after = at;
+            NodeId after = at;
             for (std::size_t k = 0; k < m_replacement.size(); ++k)
                 after = m_nodes[after].next;
             m_tail = after;
@@ -101,7 +106,7 @@ std::int64_t ReplacePasses::pass() {
     m_dirty.swap(m_nextDirty);
     if (m_length > passEnd) {
         // A growing replacement pushed text beyond this pass's end unseen.
-        std::size_t node = m_last;
+        NodeId node = m_last;
         for (std::int64_t k = m_length - 1; k > passEnd; --k)
             node = m_nodes[node].prev;
         m_tail = node;
@@ -112,7 +117,7 @@ std::int64_t ReplacePasses::pass() {
     return replaced;
 }
 
-bool ReplacePasses::matchesAt(std::size_t node) const {
+bool ReplacePasses::matchesAt(NodeId node) const {
     for (const char c : m_search) {
         if (node == kNone || m_nodes[node].c != c)
             return false;
@@ -121,18 +126,17 @@ bool ReplacePasses::matchesAt(std::size_t node) const {
     return true;
 }
 
-std::size_t ReplacePasses::replaceAt(std::size_t node, std::int64_t index) {
-    const std::size_t before = m_nodes[node].prev;
-    std::size_t after = node;
+ReplacePasses::NodeId ReplacePasses::replaceAt(NodeId node, std::int64_t index) {
+    const NodeId before = m_nodes[node].prev;
+    NodeId after = node;
     for (std::size_t k = 0; k < m_search.size(); ++k) {
         m_nodes[after].gone = true;
         after = m_nodes[after].next;
     }
-    std::size_t previous = before;
-    std::size_t first = kNone;
+    NodeId previous = before;
+    NodeId first = kNone;
     for (const char c : m_replacement) {
-        const std::size_t id = m_nodes.size();
-        m_nodes.push_back({previous, kNone, c});
+        const NodeId id = newNode(previous, kNone, c);
         if (previous != kNone)
             m_nodes[previous].next = id;
         if (first == kNone)
@@ -151,18 +155,18 @@ std::size_t ReplacePasses::replaceAt(std::size_t node, std::int64_t index) {
         m_last = previous;
     m_length += static_cast<std::int64_t>(m_replacement.size()) -
                 static_cast<std::int64_t>(m_search.size());
-    const std::size_t at = first != kNone ? first : after;
+    const NodeId at = first != kNone ? first : after;
     markWindow(at, before, index);
     return at;
 }
 
-void ReplacePasses::markWindow(std::size_t atIndexNode, std::size_t before, std::int64_t index) {
+void ReplacePasses::markWindow(NodeId atIndexNode, NodeId before, std::int64_t index) {
     // The scan has moved past these positions, and each may now start a match
     // that runs into the replacement; the next pass looks at them again.
     const std::size_t from = m_nextDirty.size();
     if (atIndexNode != kNone)
         m_nextDirty.push_back({atIndexNode, index});
-    std::size_t node = before;
+    NodeId node = before;
     for (std::int64_t k = 1; k < static_cast<std::int64_t>(m_search.size()) && node != kNone; ++k) {
         if (index - k <= m_lastMarked)
             break;
@@ -173,10 +177,17 @@ void ReplacePasses::markWindow(std::size_t atIndexNode, std::size_t before, std:
     m_lastMarked = index;
 }
 
+ReplacePasses::NodeId ReplacePasses::newNode(NodeId prev, NodeId next, char c) {
+    if (m_nodes.size() >= kNone)
+        throw std::length_error("ReplaceAll: text too long");
+    m_nodes.push_back({prev, next, c});
+    return static_cast<NodeId>(m_nodes.size() - 1);
+}
+
 std::string ReplacePasses::text() const {
     std::string out;
     out.reserve(static_cast<std::size_t>(m_length));
-    for (std::size_t node = m_head; node != kNone; node = m_nodes[node].next)
+    for (NodeId node = m_head; node != kNone; node = m_nodes[node].next)
         out += m_nodes[node].c;
     return out;
 }

@@ -36,40 +36,44 @@ public:
     std::string run(bool singlePass);
 
 private:
-    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+    // 32-bit links keep a node at 12 bytes: the list of a long text is walked
+    // many times, and half the memory is half the cache misses.
+    using NodeId = std::uint32_t;
+    static constexpr NodeId kNone = static_cast<NodeId>(-1);
 
     struct Node {
-        std::size_t prev = kNone;
-        std::size_t next = kNone;
+        NodeId prev = kNone;
+        NodeId next = kNone;
         char c = 0;
         bool gone = false;
     };
 
     /// A position to look at in the next pass: its node and its index at that pass's start.
     struct Dirty {
-        std::size_t node;
+        NodeId node;
         std::int64_t index;
     };
 
     /// One pass; returns the number of replacements it made.
     std::int64_t pass();
-    bool matchesAt(std::size_t node) const;
+    bool matchesAt(NodeId node) const;
     /// Replaces the match at `node`; returns the node now at its position (kNone at the end).
-    std::size_t replaceAt(std::size_t node, std::int64_t index);
-    void markWindow(std::size_t atIndexNode, std::size_t before, std::int64_t index);
+    NodeId replaceAt(NodeId node, std::int64_t index);
+    void markWindow(NodeId atIndexNode, NodeId before, std::int64_t index);
+    NodeId newNode(NodeId prev, NodeId next, char c);
     std::string text() const;
 
     std::string_view m_search;
     std::string_view m_replacement;
     std::vector<Node> m_nodes;
-    std::size_t m_head = kNone;
-    std::size_t m_last = kNone;
+    NodeId m_head = kNone;
+    NodeId m_last = kNone;
     std::int64_t m_length = 0;
 
     // Where the current pass must look: the dirty positions in text order, then
     // every position from the tail node on.
     std::vector<Dirty> m_dirty;
-    std::size_t m_tail = kNone;
+    NodeId m_tail = kNone;
     std::int64_t m_tailIndex = 0;
 
     // Filled by the current pass for the next one.
