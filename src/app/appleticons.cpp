@@ -1,0 +1,106 @@
+#include "appleticons.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace orvelin {
+
+namespace {
+
+constexpr int kSide = 24;
+
+// The applet area the pointer glyphs stand on.
+void DrawApplet(QPainter& p, const QColor& fill) {
+    p.setPen(QPen(QColor(70, 90, 120), 1.2));
+    p.setBrush(fill);
+    p.drawRoundedRect(QRectF(2.5, 4.5, 15, 11), 2, 2);
+}
+
+void DrawPointer(QPainter& p, QPointF tip) {
+    QPainterPath arrow;
+    arrow.moveTo(tip);
+    arrow.lineTo(tip + QPointF(0, 11));
+    arrow.lineTo(tip + QPointF(2.8, 8.2));
+    arrow.lineTo(tip + QPointF(5, 12.5));
+    arrow.lineTo(tip + QPointF(6.8, 11.6));
+    arrow.lineTo(tip + QPointF(4.6, 7.6));
+    arrow.lineTo(tip + QPointF(8, 7.6));
+    arrow.closeSubpath();
+    p.setPen(QPen(Qt::black, 1));
+    p.setBrush(Qt::white);
+    p.drawPath(arrow);
+}
+
+void DrawStart(QPainter& p) {
+    p.setPen(QPen(QColor(30, 110, 50), 1.2));
+    p.setBrush(QColor(70, 180, 90));
+    QPolygonF triangle;
+    triangle << QPointF(6, 3.5) << QPointF(19, 11.5) << QPointF(6, 19.5);
+    p.drawPolygon(triangle);
+}
+
+void DrawOver(QPainter& p) {
+    DrawApplet(p, QColor(200, 225, 250));
+    DrawPointer(p, QPointF(11, 9));
+}
+
+void DrawDown(QPainter& p) {
+    DrawApplet(p, QColor(250, 215, 190));
+    p.setPen(QPen(QColor(200, 80, 30), 1.4));
+    p.drawLine(QPointF(10, 4), QPointF(10, 7));
+    p.drawLine(QPointF(5, 9), QPointF(8, 9.5));
+    p.drawLine(QPointF(6.5, 5), QPointF(8.5, 7.2));
+    DrawPointer(p, QPointF(11, 9));
+}
+
+void DrawOut(QPainter& p) {
+    DrawApplet(p, QColor(225, 225, 225));
+    p.setPen(QPen(QColor(150, 40, 40), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.drawLine(QPointF(10, 10), QPointF(21, 18));
+    p.drawLine(QPointF(21, 18), QPointF(21, 13));
+    p.drawLine(QPointF(21, 18), QPointF(16, 18.5));
+}
+
+QPixmap Draw(AppletMoment moment, bool hasProgram, bool disabled) {
+    QPixmap pixmap(kSide, kSide);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    switch (moment) {
+    case AppletMoment::Start:
+        DrawStart(p);
+        break;
+    case AppletMoment::Over:
+        DrawOver(p);
+        break;
+    case AppletMoment::Down:
+        DrawDown(p);
+        break;
+    case AppletMoment::Out:
+        DrawOut(p);
+        break;
+    }
+    if (hasProgram) {
+        p.setPen(QPen(Qt::white, 1));
+        p.setBrush(QColor(230, 120, 0));
+        p.drawEllipse(QRectF(15.5, 0.5, 8, 8));
+    }
+    if (disabled) {
+        p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        p.fillRect(pixmap.rect(), QColor(0, 0, 0, 90));
+    }
+    p.end();
+    return pixmap;
+}
+
+} // namespace
+
+QIcon AppletMomentIcon(AppletMoment moment, bool hasProgram) {
+    QIcon icon;
+    icon.addPixmap(Draw(moment, hasProgram, false), QIcon::Normal);
+    icon.addPixmap(Draw(moment, hasProgram, true), QIcon::Disabled);
+    return icon;
+}
+
+} // namespace orvelin

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QIcon>
+
+namespace orvelin {
+
+/// The four applet moments an action program can be attached to.
+enum class AppletMoment { Start, Over, Down, Out };
+
+/**
+ * The icon of an applet moment in the " Set Action:" frame, drawn in code so the
+ * program folder needs no image files. `hasProgram` adds the mark that tells a
+ * program is attached.
+ */
+QIcon AppletMomentIcon(AppletMoment moment, bool hasProgram);
+
+} // namespace orvelin

@@ -1,0 +1,232 @@
+#include "appletpanel.h"
+
+#include "colorbutton.h"
+#include "panelwidgets.h"
+#include "projectmodel.h"
+#include "propertyeditor.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace orvelin {
+
+namespace {
+
+constexpr std::array<AppletMoment, 4> kMoments = {AppletMoment::Start, AppletMoment::Over,
+                                                  AppletMoment::Down, AppletMoment::Out};
+
+const char* MomentName(AppletMoment moment) {
+    switch (moment) {
+    case AppletMoment::Start:
+        return "picAppletProgramStart";
+    case AppletMoment::Over:
+        return "picAppletProgramOVER";
+    case AppletMoment::Down:
+        return "picAppletProgramDOWN";
+    case AppletMoment::Out:
+        return "picAppletProgramOUT";
+    }
+    return "";
+}
+
+const std::string& MomentProgram(const ProjectModel& model, AppletMoment moment) {
+    switch (moment) {
+    case AppletMoment::Over:
+        return model.AppletProgramOVER;
+    case AppletMoment::Down:
+        return model.AppletProgramDOWN;
+    case AppletMoment::Out:
+        return model.AppletProgramOUT;
+    case AppletMoment::Start:
+        break;
+    }
+    return model.AppletProgramStart;
+}
+
+} // namespace
+
+const char* AppletPanel::ProgramKind(AppletMoment moment) {
+    switch (moment) {
+    case AppletMoment::Start:
+        return "AppletProgramStart";
+    case AppletMoment::Over:
+        return "AppletProgramOVER";
+    case AppletMoment::Down:
+        return "AppletProgramDOWN";
+    case AppletMoment::Out:
+        return "AppletProgramOUT";
+    }
+    return "";
+}
+
+QString AppletPanel::MomentTitle(AppletMoment moment) {
+    switch (moment) {
+    case AppletMoment::Start:
+        return QStringLiteral("On Applet Start");
+    case AppletMoment::Over:
+        return QStringLiteral("On Mouse Moving above the Applet");
+    case AppletMoment::Down:
+        return QStringLiteral("On Mouse Clicking the Applet");
+    case AppletMoment::Out:
+        return QStringLiteral("On Mouse Exiting the Applet");
+    }
+    return {};
+}
+
+AppletPanel::AppletPanel(PropertyEditor& properties, QWidget* parent)
+    : QWidget(parent), m_properties(properties) {
+    setObjectName(QStringLiteral("appletPanel"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    layout->addWidget(buildSize());
+    layout->addWidget(buildBackground());
+    layout->addWidget(buildActions());
+    layout->addStretch(1);
+}
+
+QWidget* AppletPanel::buildSize() {
+    QGroupBox* group = panel::Group(QStringLiteral("Applet"), this);
+    auto* grid = new QGridLayout(group);
+    m_width = panel::LineEdit(QStringLiteral("txtAppletWidth"), group, 56);
+    m_height = panel::LineEdit(QStringLiteral("txtAppletHeight"), group, 56);
+    m_width->setToolTip(QStringLiteral("Press Enter to resize the design window"));
+    m_height->setToolTip(m_width->toolTip());
+    grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 0);
+    grid->addWidget(m_width, 0, 1);
+    grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 0, 2);
+    grid->addWidget(m_height, 0, 3);
+    grid->setColumnStretch(4, 1);
+
+    m_pushButtons = new QRadioButton(QStringLiteral("Act like push buttons"), group);
+    m_pushButtons->setObjectName(QStringLiteral("imgPushBtn"));
+    m_radioButtons = new QRadioButton(QStringLiteral("Act like radio buttons"), group);
+    m_radioButtons->setObjectName(QStringLiteral("imgRadioBtn"));
+    m_downButton =
+        panel::CheckBox(QStringLiteral("chkDOWNBtn"), QStringLiteral("Use Down State"), group);
+    m_downButton->setToolTip(QStringLiteral("The applet's Down State button option"));
+    grid->addWidget(m_pushButtons, 1, 0, 1, 5);
+    grid->addWidget(m_radioButtons, 2, 0, 1, 5);
+    grid->addWidget(m_downButton, 3, 0, 1, 5);
+
+    connect(m_width, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_properties.SetAppletWidth(text.toStdString()); });
+    connect(m_height, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_properties.SetAppletHeight(text.toStdString()); });
+    connect(m_width, &QLineEdit::returnPressed, this, [this] { m_properties.CommitAppletSize(); });
+    connect(m_height, &QLineEdit::returnPressed, this, [this] { m_properties.CommitAppletSize(); });
+    connect(m_pushButtons, &QRadioButton::toggled, this, [this](bool on) {
+        if (on)
+            m_properties.SetBehaviour(0);
+    });
+    connect(m_radioButtons, &QRadioButton::toggled, this, [this](bool on) {
+        if (on)
+            m_properties.SetBehaviour(1);
+    });
+    connect(m_downButton, &QCheckBox::toggled, this,
+            [this](bool on) { m_properties.SetDOWNBtn(on); });
+    return group;
+}
+
+QWidget* AppletPanel::buildBackground() {
+    QGroupBox* group = panel::Group(QStringLiteral("Background"), this);
+    auto* grid = new QGridLayout(group);
+    grid->setHorizontalSpacing(4);
+    m_background = new ColorButton(QStringLiteral("picBackGround"), group);
+    m_background->setToolTip(QStringLiteral("Applet background colour"));
+    m_backImg = panel::LineEdit(QStringLiteral("txtBackImg"), group);
+    m_browseBackImg = panel::BrowseButton(QStringLiteral("btnBrowseBackImg"),
+                                          QStringLiteral("Choose a background image"), group);
+    m_backImgStyle = panel::ComboBox(QStringLiteral("cmbBackImgStyle"), false, group);
+    m_backImgStyle->addItems(
+        {QStringLiteral("Center"), QStringLiteral("Tile"), QStringLiteral("Stretch")});
+    m_offset = new QPushButton(QStringLiteral("Offset..."), group);
+    m_offset->setObjectName(QStringLiteral("btnBgOffset"));
+    m_offset->setToolTip(QStringLiteral("Move the background image"));
+
+    grid->addWidget(new QLabel(QStringLiteral("Colour:"), group), 0, 0);
+    grid->addWidget(m_background, 0, 1, 1, 2, Qt::AlignLeft);
+    grid->addWidget(new QLabel(QStringLiteral("Image:"), group), 1, 0);
+    grid->addWidget(m_backImg, 1, 1);
+    grid->addWidget(m_browseBackImg, 1, 2);
+    auto* placement = new QHBoxLayout();
+    placement->addWidget(m_backImgStyle);
+    placement->addStretch(1);
+    placement->addWidget(m_offset);
+    grid->addWidget(new QLabel(QStringLiteral("Placement:"), group), 2, 0);
+    grid->addLayout(placement, 2, 1, 1, 2);
+    grid->setColumnStretch(1, 1);
+
+    connect(m_background, &ColorButton::colourChosen, this,
+            [this](std::int32_t colour) { m_properties.SetBackGround(colour); });
+    connect(m_backImg, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_properties.SetBackImg(text.toStdString()); });
+    connect(m_browseBackImg, &QToolButton::clicked, this, [this] { m_properties.BrowseBackImg(); });
+    connect(m_backImgStyle, &QComboBox::currentIndexChanged, this,
+            [this](int index) { m_properties.SetBackImgStyle(index); });
+    connect(m_offset, &QPushButton::clicked, this, &AppletPanel::offsetRequested);
+    return group;
+}
+
+QWidget* AppletPanel::buildActions() {
+    QGroupBox* group = panel::Group(QStringLiteral(" Set Action:"), this);
+    group->setObjectName(QStringLiteral("fraAppletActions"));
+    auto* row = new QHBoxLayout(group);
+    row->setSpacing(2);
+    for (std::size_t i = 0; i < kMoments.size(); ++i) {
+        const AppletMoment moment = kMoments[i];
+        auto* button = new QToolButton(group);
+        button->setObjectName(QString::fromLatin1(MomentName(moment)));
+        button->setToolTip(MomentTitle(moment));
+        button->setAutoRaise(true); // the hover highlight under the pointer
+        button->setIconSize(QSize(24, 24));
+        button->setIcon(AppletMomentIcon(moment, false));
+        connect(button, &QToolButton::clicked, this, [this, button, moment] {
+            // The dialog is modal: drop the hover look before it takes the pointer.
+            button->setAttribute(Qt::WA_UnderMouse, false);
+            button->update();
+            emit actionRequested(QString::fromLatin1(ProgramKind(moment)), MomentTitle(moment));
+        });
+        row->addWidget(button);
+        m_moments[i] = button;
+    }
+    row->addStretch(1);
+    return group;
+}
+
+void AppletPanel::showApplet(const ProjectModel& model) {
+    panel::SetText(m_width, QString::number(model.AppletWidth));
+    panel::SetText(m_height, QString::number(model.AppletHeight));
+    if (model.Behaviour == 1)
+        m_radioButtons->setChecked(true);
+    else
+        m_pushButtons->setChecked(true);
+    panel::SetChecked(m_downButton, model.DOWNBtn != 0);
+    m_background->setColour(model.BackGround);
+    panel::SetText(m_backImg, QString::fromStdString(model.BackImg));
+    const int style = model.BackImgStyle;
+    m_backImgStyle->setCurrentIndex(style >= 0 && style <= 2 ? style : 0);
+    for (std::size_t i = 0; i < kMoments.size(); ++i) {
+        const bool has = !MomentProgram(model, kMoments[i]).empty();
+        if (has != m_hasProgram[i]) {
+            m_hasProgram[i] = has;
+            m_moments[i]->setIcon(AppletMomentIcon(kMoments[i], has));
+        }
+    }
+}
+
+void AppletPanel::setOffsetAvailable(bool available) {
+    m_offset->setEnabled(available);
+}
+
+} // namespace orvelin

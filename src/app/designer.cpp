@@ -1,0 +1,78 @@
+#include "designer.h"
+
+#include "frmdesign.h"
+#include "frmmain.h"
+#include "globalini.h"
+#include "mainmenus.h"
+#include "messages.h"
+#include "windowgeometry.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+
+namespace orvelin {
+
+namespace {
+
+const QString kDesignForm = QStringLiteral("frmDesign");
+
+} // namespace
+
+Designer::Designer()
+    : m_design(std::make_unique<FrmDesign>(m_model, m_list, &m_ui)),
+      m_main(std::make_unique<FrmMain>(m_model, m_list, m_ui, m_settings, *m_design, m_shell)) {
+    m_ui.setOwner(m_main.get());
+    m_design->setNoBackGround(GlobalIni::ForProgram().NoBackGround());
+    connectWindows();
+}
+
+Designer::~Designer() = default;
+
+void Designer::connectWindows() {
+    Editor& editor = m_main->editor();
+    connect(m_design.get(), &FrmDesign::btnAddBtnClicked, this, [&editor] { editor.AddButton(); });
+    connect(m_design.get(), &FrmDesign::btnDuplicateClicked, this,
+            [&editor] { editor.DuplicateButton(); });
+    connect(m_design.get(), &FrmDesign::btnRemoveClicked, this,
+            [&editor] { editor.RemoveButton(); });
+    // The HTML window is not part of the designer yet.
+    if (auto* viewHtml = m_design->findChild<QPushButton*>(QStringLiteral("btnViewHtml")))
+        viewHtml->setEnabled(false);
+    connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
+        if (!GlobalIni::ForProgram().SetNoBackGround(on))
+            m_ui.showMessage(Messages()[Msg::IniWriteFailed], {});
+    });
+    connect(m_design.get(), &FrmDesign::unloading, this,
+            [this] { SaveWindowGeometry(*m_design, m_settings, kDesignForm); });
+
+    connect(m_main.get(), &FrmMain::designWindowRequested, this, [this] {
+        m_design->show();
+        m_design->raise();
+        m_design->activateWindow();
+    });
+    connect(m_main.get(), &FrmMain::closed, this, [this] {
+        m_design->setForceUnload(true);
+        m_design->close();
+        QCoreApplication::quit();
+    });
+    // The file keys and the button commands work in the design window too.
+    m_design->addActions(m_main->menus().sharedActions());
+}
+
+void Designer::placeWindows() {
+    // Designed places: the editor at the top left, the applet area below it.
+    m_main->adjustSize();
+    m_main->move(40, 40);
+    m_design->move(40, 40 + m_main->frameGeometry().height() + 30);
+    RestoreWindowGeometry(*m_main, m_settings, QStringLiteral("frmMain"));
+    RestoreWindowGeometry(*m_design, m_settings, kDesignForm);
+}
+
+StartupResult Designer::start(const QString& commandLine) {
+    placeWindows();
+    m_main->show();
+    m_design->show();
+    return m_main->editor().Startup(commandLine.toStdString());
+}
+
+} // namespace orvelin

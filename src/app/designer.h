@@ -1,0 +1,57 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "editor.h"
+#include "projectmodel.h"
+#include "qsettingsbackend.h"
+#include "qtshell.h"
+#include "qtuserinterface.h"
+#include "settings.h"
+
+#include <QObject>
+#include <QString>
+#include <memory>
+
+namespace orvelin {
+
+class FrmDesign;
+class FrmMain;
+
+/**
+ * The designer as one program: the project, its selection, the settings, the shell
+ * and the two top-level windows, and the wiring between the windows. main() makes one,
+ * starts it and runs the event loop.
+ */
+class Designer : public QObject {
+    Q_OBJECT
+
+public:
+    Designer();
+    ~Designer() override;
+
+    /**
+     * Shows both windows and runs the editor's start-up with `commandLine` (one
+     * project path, possibly in double quotes). Quit when the program must end at
+     * once (a damaged default-button setting was repaired).
+     */
+    StartupResult start(const QString& commandLine);
+
+    FrmMain& mainWindow() { return *m_main; }
+    FrmDesign& designWindow() { return *m_design; }
+
+private:
+    void connectWindows();
+    void placeWindows();
+
+    ProjectModel m_model;
+    ButtonList m_list;
+    QSettingsBackend m_backend;
+    Settings m_settings{m_backend};
+    QtUserInterface m_ui;
+    QtShell m_shell;
+    // The main window's editor refers to the design window: it goes first.
+    std::unique_ptr<FrmDesign> m_design;
+    std::unique_ptr<FrmMain> m_main;
+};
+
+} // namespace orvelin

@@ -1,0 +1,226 @@
+#include "frmmain.h"
+
+#include "appletpanel.h"
+#include "buttonlistbinding.h"
+#include "frmadvanced.h"
+#include "frmmultilineeditor.h"
+#include "frmsetaction.h"
+#include "mainmenus.h"
+#include "propertypanel.h"
+#include "windowgeometry.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QImageReader>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace orvelin {
+
+namespace {
+
+const QString kFormName = QStringLiteral("frmMain");
+
+QToolButton* ListCommand(const QString& name, const QString& text, const QString& toolTip,
+                         QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(text);
+    button->setToolTip(toolTip);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return button;
+}
+
+} // namespace
+
+FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
+                 DesignView& design, Shell& shell, QWidget* parent)
+    : QMainWindow(parent), m_model(model), m_list(list), m_ui(ui), m_settings(settings),
+      m_editor(model, list, ui, settings, design, shell, *this) {
+    setObjectName(kFormName);
+    m_menus = new MainMenus(*this, m_editor);
+
+    auto* central = new QWidget(this);
+    auto* columns = new QHBoxLayout(central);
+    columns->setContentsMargins(8, 8, 8, 8);
+    columns->setSpacing(10);
+    columns->addWidget(buildButtonColumn());
+    m_properties = new PropertyPanel(m_editor, central);
+    columns->addWidget(m_properties, 1);
+    m_applet = new AppletPanel(m_editor.Properties(), central);
+    m_applet->setFixedWidth(250);
+    columns->addWidget(m_applet);
+    setCentralWidget(central);
+
+    connect(m_menus, &MainMenus::designWindowRequested, this, &FrmMain::designWindowRequested);
+    connect(m_menus, &MainMenus::htmlViewRequested, this, &FrmMain::htmlViewRequested);
+    connect(m_menus, &MainMenus::aboutRequested, this, &FrmMain::showAbout);
+    connect(m_properties, &PropertyPanel::actionRequested, this, [this](const QString& title) {
+        openActionEditor(QString::fromStdString(m_editor.ActionProgramKind()), title);
+    });
+    connect(m_applet, &AppletPanel::actionRequested, this, &FrmMain::openActionEditor);
+    connect(m_applet, &AppletPanel::offsetRequested, this, [this] {
+        if (m_offsetDialog)
+            m_offsetDialog();
+    });
+    connect(m_properties, &PropertyPanel::labelEditorRequested, this, &FrmMain::openLabelEditor);
+    connect(m_menus, &MainMenus::advancedRequested, this, &FrmMain::openAdvanced);
+    // The windows that are not part of the designer yet leave their commands off.
+    m_menus->htmlAction()->setEnabled(false);
+    m_applet->setOffsetAvailable(false);
+}
+
+FrmMain::~FrmMain() = default;
+
+QWidget* FrmMain::buildButtonColumn() {
+    auto* column = new QWidget(this);
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    m_buttons = new QListWidget(column);
+    m_buttons->setObjectName(QStringLiteral("lstButtons"));
+    m_buttons->setFixedWidth(120);
+    m_buttons->setToolTip(QStringLiteral("Ctrl+click or Shift+click selects several buttons"));
+    m_binding = new ButtonListBinding(*m_buttons, m_list, m_editor, this);
+    layout->addWidget(m_buttons, 1);
+
+    auto* commands = new QHBoxLayout();
+    commands->setSpacing(2);
+    Editor& e = m_editor;
+    QToolButton* add = ListCommand(QStringLiteral("btnAdd"), QStringLiteral("Add"),
+                                   QStringLiteral("Add a button"), column);
+    QToolButton* duplicate =
+        ListCommand(QStringLiteral("btnDuplicate"), QStringLiteral("Duplicate"),
+                    QStringLiteral("Duplicate the current button"), column);
+    QToolButton* remove = ListCommand(QStringLiteral("btnRemove"), QStringLiteral("Remove"),
+                                      QStringLiteral("Remove the current button"), column);
+    connect(add, &QToolButton::clicked, this, [&e] { e.AddButton(); });
+    connect(duplicate, &QToolButton::clicked, this, [&e] { e.DuplicateButton(); });
+    connect(remove, &QToolButton::clicked, this, [&e] { e.RemoveButton(); });
+    commands->addWidget(add);
+    commands->addWidget(remove);
+    layout->addWidget(duplicate);
+    layout->addLayout(commands);
+    column->setFixedWidth(120);
+    return column;
+}
+
+void FrmMain::setOffsetDialogOpener(std::function<void()> opener) {
+    m_offsetDialog = std::move(opener);
+    m_applet->setOffsetAvailable(static_cast<bool>(m_offsetDialog));
+}
+
+void FrmMain::openActionEditor(const QString& kind, const QString& title) {
+    std::vector<bool> selected(static_cast<std::size_t>(m_list.count()));
+    for (int i = 1; i <= m_list.count(); ++i)
+        selected[static_cast<std::size_t>(i - 1)] = m_list.isSelected(i);
+    ShowActionEditor(this, m_model, selected, m_ui, kind.toStdString(), title.toStdString());
+    // The dialog may have attached or removed an applet program.
+    m_editor.SetMainParams();
+}
+
+void FrmMain::openLabelEditor() {
+    if (m_labelEditor == nullptr) {
+        m_labelEditor = new FrmMultiLineEditor(m_properties->labelField(), this);
+        m_labelEditor->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_labelEditor->show();
+    m_labelEditor->raise();
+    m_labelEditor->activateWindow();
+}
+
+void FrmMain::openAdvanced() {
+    FrmAdvanced dialog(m_settings, m_ui, this);
+    connect(&dialog, &FrmAdvanced::autoTileChanged, this,
+            [this](bool on) { m_menus->setAutoTileChecked(on); });
+    connect(&dialog, &FrmAdvanced::defaultsRestored, this,
+            [this] { m_menus->setAutoTileChecked(m_settings.flag(SettingKey::AutoTile)); });
+    dialog.exec();
+}
+
+void FrmMain::ShowProp(int index, const std::string& caption) {
+    if (index < 1 || index > m_model.ButtonCount)
+        return;
+    m_properties->setHasButton(true);
+    m_properties->showButton(m_model.Button(index), m_model.EditedState(),
+                             QString::fromStdString(caption));
+}
+
+void FrmMain::SetMainParams() {
+    m_applet->showApplet(m_model);
+}
+
+void FrmMain::ShowButtonList() {
+    m_binding->show(m_model.CurrentButton);
+    m_properties->setHasButton(m_model.ButtonCount > 0);
+}
+
+void FrmMain::SetCaption(const std::string& caption) {
+    setWindowTitle(QString::fromStdString(caption));
+}
+
+void FrmMain::SetRecentEntry(int slot, const std::string& caption, bool visible) {
+    m_menus->setRecentEntry(slot, QString::fromStdString(caption), visible);
+}
+
+void FrmMain::SetActionTitle(const std::string& title) {
+    m_properties->setActionTitle(QString::fromStdString(title));
+}
+
+void FrmMain::ShowState(ButtonState state) {
+    m_properties->showState(state);
+}
+
+void FrmMain::SetOnTopChecked(bool checked) {
+    m_menus->setOnTopChecked(checked);
+}
+
+void FrmMain::SetLanguageChecked(const std::string& language) {
+    m_menus->setLanguageChecked(QString::fromStdString(language));
+}
+
+void FrmMain::SetAutoTileChecked(bool checked) {
+    m_menus->setAutoTileChecked(checked);
+}
+
+void FrmMain::CloseLabelEditor() {
+    if (m_labelEditor != nullptr)
+        m_labelEditor->close();
+}
+
+void FrmMain::QuitProgram() {
+    // The settings were repaired and the user told to restart: no save question.
+    m_quitting = true;
+    close();
+}
+
+std::optional<ImageSize> FrmMain::ImageSizeOf(const std::string& path) {
+    QImageReader reader(QString::fromStdString(path));
+    const QSize size = reader.size();
+    if (!size.isValid())
+        return std::nullopt;
+    return ImageSize{size.width(), size.height()};
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+    if (!m_quitting && !m_editor.Close()) {
+        event->ignore();
+        return;
+    }
+    SaveWindowGeometry(*this, m_settings, kFormName);
+    event->accept();
+    emit closed();
+}
+
+void FrmMain::showAbout() {
+    QMessageBox::about(
+        this, QStringLiteral("About Orvelin"),
+        QStringLiteral("<h3>%1</h3><p>A designer for bars of web-page buttons: lay out the "
+                       "buttons, give each its three states, and build the applet code that "
+                       "shows them in a page.</p>")
+            .arg(QString::fromStdString(MainTitle()).toHtmlEscaped()));
+}
+
+} // namespace orvelin

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "editor.h"
+#include "editorview.h"
+
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+
+class QListWidget;
+
+namespace orvelin {
+
+class AppletPanel;
+class ButtonListBinding;
+class FrmMultiLineEditor;
+class MainMenus;
+class PropertyPanel;
+
+/**
+ * The main editor window `frmMain`: the button list, the property panel and the
+ * menus. It owns the editor core and shows what the core reports; the panels, the
+ * list binding and the menus are separate pieces, so this class only puts them
+ * together and routes what opens other windows.
+ */
+class FrmMain : public QMainWindow, public EditorView {
+    Q_OBJECT
+
+public:
+    FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
+            DesignView& design, Shell& shell, QWidget* parent = nullptr);
+    ~FrmMain() override;
+
+    Editor& editor() { return m_editor; }
+    MainMenus& menus() { return *m_menus; }
+
+    /// Opens the background offset dialog; the offset command is offered once set.
+    void setOffsetDialogOpener(std::function<void()> opener);
+
+    // EditorView
+    void ShowProp(int index, const std::string& caption) override;
+    void SetMainParams() override;
+    void ShowButtonList() override;
+    void SetCaption(const std::string& caption) override;
+    void SetRecentEntry(int slot, const std::string& caption, bool visible) override;
+    void SetActionTitle(const std::string& title) override;
+    void ShowState(ButtonState state) override;
+    void SetOnTopChecked(bool checked) override;
+    void SetLanguageChecked(const std::string& language) override;
+    void SetAutoTileChecked(bool checked) override;
+    void CloseLabelEditor() override;
+    void QuitProgram() override;
+    std::optional<ImageSize> ImageSizeOf(const std::string& path) override;
+
+signals:
+    void designWindowRequested();
+    void htmlViewRequested();
+    /// The close path said yes: the program ends.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    QWidget* buildButtonColumn();
+    void openActionEditor(const QString& kind, const QString& title);
+    void openLabelEditor();
+    void openAdvanced();
+    void showAbout();
+
+    ProjectModel& m_model;
+    ButtonList& m_list;
+    UserInterface& m_ui;
+    Settings& m_settings;
+    Editor m_editor;
+    QListWidget* m_buttons = nullptr;
+    ButtonListBinding* m_binding = nullptr;
+    PropertyPanel* m_properties = nullptr;
+    AppletPanel* m_applet = nullptr;
+    MainMenus* m_menus = nullptr;
+    QPointer<FrmMultiLineEditor> m_labelEditor;
+    std::function<void()> m_offsetDialog;
+    bool m_quitting = false;
+};
+
+} // namespace orvelin

@@ -1,0 +1,175 @@
+#include "mainmenus.h"
+
+#include "editor.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace orvelin {
+
+MainMenus::MainMenus(QMainWindow& window, Editor& editor)
+    : QObject(&window), m_window(window), m_editor(editor) {
+    QMenuBar* bar = m_window.menuBar();
+    buildFile(bar->addMenu(QStringLiteral("&File")));
+    buildEdit(bar->addMenu(QStringLiteral("&Edit")));
+    buildView(bar->addMenu(QStringLiteral("&View")));
+    buildOptions(bar->addMenu(QStringLiteral("&Options")));
+    buildTools(bar->addMenu(QStringLiteral("&Tools")));
+    buildHelp(bar->addMenu(QStringLiteral("&Help")));
+}
+
+QAction* MainMenus::add(QMenu* menu, const char* name, const QString& text) {
+    QAction* action = menu->addAction(text);
+    action->setObjectName(QString::fromLatin1(name));
+    return action;
+}
+
+void MainMenus::buildFile(QMenu* menu) {
+    menu->setObjectName(QStringLiteral("mnuFile"));
+    Editor& e = m_editor;
+    QAction* newProject = add(menu, "mnuNew", QStringLiteral("&New"));
+    newProject->setShortcut(QKeySequence::New);
+    connect(newProject, &QAction::triggered, this, [&e] { e.New(); });
+    QAction* open = add(menu, "mnuOpen", QStringLiteral("&Open..."));
+    open->setShortcut(QKeySequence::Open);
+    connect(open, &QAction::triggered, this, [&e] { e.Open(); });
+    QAction* save = add(menu, "mnuSave", QStringLiteral("&Save"));
+    save->setShortcut(QKeySequence::Save);
+    connect(save, &QAction::triggered, this, [&e] { e.Save(); });
+    QAction* saveAs = add(menu, "mnuSaveAs", QStringLiteral("Save &As..."));
+    saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    connect(saveAs, &QAction::triggered, this, [&e] { e.SaveAs(); });
+    menu->addSeparator();
+    QAction* import = add(menu, "mnuImport", QStringLiteral("&Import Legacy Project..."));
+    connect(import, &QAction::triggered, this, [&e] { e.ImportLegacy(); });
+    menu->addSeparator();
+    for (int slot = 1; slot <= 4; ++slot) {
+        QAction* recent = menu->addAction(QString());
+        recent->setObjectName(QStringLiteral("mnuFile%1").arg(slot));
+        recent->setVisible(false);
+        connect(recent, &QAction::triggered, this, [&e, slot] { e.OpenRecent(slot); });
+        m_recent[static_cast<std::size_t>(slot - 1)] = recent;
+    }
+    menu->addSeparator();
+    QAction* exit = add(menu, "mnuExit", QStringLiteral("E&xit"));
+    exit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    exit->setMenuRole(QAction::QuitRole);
+    connect(exit, &QAction::triggered, &m_window, &QWidget::close);
+    m_shared << newProject << open << save << saveAs << exit;
+}
+
+void MainMenus::buildEdit(QMenu* menu) {
+    menu->setObjectName(QStringLiteral("mnuEdit"));
+    Editor& e = m_editor;
+    QAction* addButton = add(menu, "mnuAdd", QStringLiteral("&Add Button"));
+    addButton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Plus));
+    connect(addButton, &QAction::triggered, this, [&e] { e.AddButton(); });
+    QAction* duplicate = add(menu, "mnuDuplicate", QStringLiteral("&Duplicate Button"));
+    duplicate->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+    connect(duplicate, &QAction::triggered, this, [&e] { e.DuplicateButton(); });
+    m_remove = add(menu, "mnuRemove", QStringLiteral("&Remove Button"));
+    m_remove->setShortcut(QKeySequence::Delete);
+    connect(m_remove, &QAction::triggered, this, [&e] { e.RemoveButton(); });
+    menu->addSeparator();
+    QAction* makeDefault = add(menu, "mnuMakeDefault", QStringLiteral("Make &Default"));
+    makeDefault->setToolTip(QStringLiteral("New buttons take the properties of this one"));
+    connect(makeDefault, &QAction::triggered, this, [&e] { e.MakeDefault(); });
+    m_shared << addButton << duplicate << m_remove;
+}
+
+void MainMenus::buildView(QMenu* menu) {
+    menu->setObjectName(QStringLiteral("mnuView"));
+    m_onTop = add(menu, "mnuDesignOnTop", QStringLiteral("Keep Design Window on &Top"));
+    m_onTop->setCheckable(true);
+    // The core decides the new state and reports it back through setOnTopChecked.
+    connect(m_onTop, &QAction::triggered, this, [this] {
+        m_onTop->setChecked(m_editor.KeepOnTop());
+        m_editor.ToggleKeepOnTop();
+    });
+    m_html = add(menu, "mnuBuildHtml", QStringLiteral("Build &HTML"));
+    m_html->setShortcut(QKeySequence(Qt::Key_F5));
+    connect(m_html, &QAction::triggered, this, &MainMenus::htmlViewRequested);
+    QAction* design = add(menu, "mnuDesignWindow", QStringLiteral("&Design Window"));
+    design->setShortcut(QKeySequence(Qt::Key_F4));
+    connect(design, &QAction::triggered, this, &MainMenus::designWindowRequested);
+}
+
+void MainMenus::buildOptions(QMenu* menu) {
+    menu->setObjectName(QStringLiteral("mnuOptions"));
+    QMenu* language = menu->addMenu(QStringLiteral("&Language"));
+    language->setObjectName(QStringLiteral("mnuLanguage"));
+    m_languages = new QActionGroup(this);
+    m_languages->setExclusive(true);
+    const struct {
+        const char* name;
+        const char* caption;
+        const char* code;
+    } languages[] = {{"mnuEnglish", "English", "English"},
+                     {"mnuRussian", "Russian", "rus"},
+                     {"mnuHebrew", "Hebrew", "heb"}};
+    for (const auto& l : languages) {
+        QAction* action = add(language, l.name, QString::fromLatin1(l.caption));
+        action->setCheckable(true);
+        action->setData(QString::fromLatin1(l.code));
+        m_languages->addAction(action);
+        const std::string code = l.code;
+        connect(action, &QAction::triggered, this, [this, code] { m_editor.SetLanguage(code); });
+    }
+    m_autoTile = add(menu, "mnuAutoTile", QStringLiteral("&Tile Small Background Images"));
+    m_autoTile->setCheckable(true);
+    m_autoTile->setToolTip(
+        QStringLiteral("A background image smaller than the applet both ways is tiled"));
+    connect(m_autoTile, &QAction::triggered, this, [this](bool on) { m_editor.SetAutoTile(on); });
+    menu->addSeparator();
+    QAction* advanced = add(menu, "mnuAdvanced", QStringLiteral("&Advanced..."));
+    connect(advanced, &QAction::triggered, this, &MainMenus::advancedRequested);
+}
+
+void MainMenus::buildTools(QMenu* menu) {
+    menu->setObjectName(QStringLiteral("mnuTools"));
+    QAction* sound = add(menu, "mnuSoundConv", QStringLiteral("&Sound Converter..."));
+    connect(sound, &QAction::triggered, this, [this] { m_editor.SoundConverter(); });
+}
+
+void MainMenus::buildHelp(QMenu* menu) {
+    menu->setObjectName(QStringLiteral("mnuHelp"));
+    QAction* help = add(menu, "mnuHelpContents", QStringLiteral("&Help"));
+    help->setShortcut(QKeySequence::HelpContents);
+    connect(help, &QAction::triggered, this, [this] { m_editor.Help(); });
+    QAction* about = add(menu, "mnuAbout", QStringLiteral("&About Orvelin"));
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, &MainMenus::aboutRequested);
+}
+
+void MainMenus::setRecentEntry(int slot, const QString& caption, bool visible) {
+    if (slot < 1 || slot > 4)
+        return;
+    QAction* action = m_recent[static_cast<std::size_t>(slot - 1)];
+    QString text = caption;
+    // The stored path is the caption; an "&" in it is a character, not a mnemonic.
+    action->setText(text.replace(QLatin1Char('&'), QStringLiteral("&&")));
+    action->setVisible(visible);
+}
+
+void MainMenus::setOnTopChecked(bool checked) {
+    m_onTop->setChecked(checked);
+}
+
+void MainMenus::setLanguageChecked(const QString& language) {
+    for (QAction* action : m_languages->actions())
+        if (action->data().toString() == language)
+            action->setChecked(true);
+}
+
+void MainMenus::setAutoTileChecked(bool checked) {
+    m_autoTile->setChecked(checked);
+}
+
+QList<QAction*> MainMenus::sharedActions() const {
+    return m_shared;
+}
+
+} // namespace orvelin

@@ -1,0 +1,67 @@
+#include "panelwidgets.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QToolButton>
+
+namespace orvelin::panel {
+
+QLineEdit* LineEdit(const QString& name, QWidget* parent, int width) {
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(name);
+    if (width > 0)
+        edit->setFixedWidth(width);
+    return edit;
+}
+
+QCheckBox* CheckBox(const QString& name, const QString& text, QWidget* parent) {
+    auto* box = new QCheckBox(text, parent);
+    box->setObjectName(name);
+    return box;
+}
+
+QComboBox* ComboBox(const QString& name, bool editable, QWidget* parent) {
+    auto* combo = new QComboBox(parent);
+    combo->setObjectName(name);
+    combo->setEditable(editable);
+    if (editable)
+        combo->setInsertPolicy(QComboBox::NoInsert);
+    return combo;
+}
+
+QToolButton* BrowseButton(const QString& name, const QString& toolTip, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(QStringLiteral("..."));
+    button->setToolTip(toolTip);
+    return button;
+}
+
+QGroupBox* Group(const QString& title, QWidget* parent) {
+    auto* group = new QGroupBox(title, parent);
+    return group;
+}
+
+void SetText(QLineEdit* edit, const QString& text) {
+    if (edit->text() != text)
+        edit->setText(text);
+}
+
+void SetText(QComboBox* combo, const QString& text) {
+    if (combo->currentText() == text)
+        return;
+    const int index = combo->findText(text);
+    if (index >= 0)
+        combo->setCurrentIndex(index);
+    if (combo->isEditable())
+        combo->setEditText(text);
+}
+
+void SetChecked(QCheckBox* box, bool checked) {
+    if (box->isChecked() != checked)
+        box->setChecked(checked);
+}
+
+} // namespace orvelin::panel

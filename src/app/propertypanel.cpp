@@ -1,0 +1,380 @@
+#include "propertypanel.h"
+
+#include "colorbutton.h"
+#include "editor.h"
+#include "panelwidgets.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace orvelin {
+
+namespace {
+
+constexpr int kNumberWidth = 56;
+
+QString Number(int value) {
+    return QString::number(value);
+}
+
+std::string Std(const QString& text) {
+    return text.toStdString();
+}
+
+QToolButton* StyleToggle(const QString& name, const QString& text, const QString& toolTip,
+                         QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(text);
+    button->setToolTip(toolTip);
+    button->setCheckable(true);
+    button->setFixedWidth(26);
+    QFont font = button->font();
+    if (text == QLatin1String("B"))
+        font.setBold(true);
+    else
+        font.setItalic(true);
+    button->setFont(font);
+    return button;
+}
+
+} // namespace
+
+PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
+    : QWidget(parent), m_editor(editor), m_properties(editor.Properties()) {
+    setObjectName(QStringLiteral("propertyPanel"));
+    m_caption = new QLabel(this);
+    m_caption->setObjectName(QStringLiteral("lblProperties"));
+    QFont captionFont = m_caption->font();
+    captionFont.setBold(true);
+    m_caption->setFont(captionFont);
+
+    m_body = new QWidget(this);
+    auto* columns = new QHBoxLayout(m_body);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->setSpacing(8);
+    auto* left = new QVBoxLayout();
+    left->setSpacing(6);
+    left->addWidget(buildGeometry());
+    left->addWidget(buildLabel());
+    left->addWidget(buildFlags());
+    left->addStretch(1);
+    auto* right = new QVBoxLayout();
+    right->setSpacing(6);
+    right->addWidget(buildImageAndSound());
+    right->addWidget(buildLink());
+    m_setAction = new QPushButton(m_body);
+    m_setAction->setObjectName(QStringLiteral("btnSetAction"));
+    m_setAction->setToolTip(QStringLiteral("Edit the action program of this state"));
+    right->addWidget(m_setAction);
+    right->addStretch(1);
+    columns->addLayout(left, 1);
+    columns->addLayout(right, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    auto* header = new QHBoxLayout();
+    header->addWidget(m_caption);
+    header->addStretch(1);
+    header->addWidget(buildStateSwitch());
+    layout->addLayout(header);
+    layout->addWidget(m_body, 1);
+
+    bindTexts();
+    bindChoices();
+    connect(m_setAction, &QPushButton::clicked, this,
+            [this] { emit actionRequested(m_setAction->text()); });
+    connect(m_labelEditor, &QToolButton::clicked, this, &PropertyPanel::labelEditorRequested);
+}
+
+QWidget* PropertyPanel::buildStateSwitch() {
+    auto* box = new QWidget(this);
+    auto* row = new QHBoxLayout(box);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    m_states = new QButtonGroup(this);
+    m_states->setExclusive(true);
+    const struct {
+        ButtonState state;
+        const char* name;
+        const char* caption;
+    } states[] = {{ButtonState::UP, "btnUP", "Up State"},
+                  {ButtonState::OVER, "btnOVER", "Mouse-Over"},
+                  {ButtonState::DOWN, "btnDOWN", "Down State"}};
+    for (const auto& s : states) {
+        auto* button = new QPushButton(QString::fromLatin1(s.caption), box);
+        button->setObjectName(QString::fromLatin1(s.name));
+        button->setCheckable(true);
+        button->setMinimumWidth(84);
+        m_states->addButton(button, static_cast<int>(s.state));
+        row->addWidget(button);
+    }
+    connect(m_states, &QButtonGroup::idClicked, this,
+            [this](int id) { m_editor.SwitchState(StateName(static_cast<ButtonState>(id))); });
+    return box;
+}
+
+QWidget* PropertyPanel::buildGeometry() {
+    QGroupBox* group = panel::Group(QStringLiteral("Position and Size"), m_body);
+    auto* grid = new QGridLayout(group);
+    m_x = panel::LineEdit(QStringLiteral("txtX"), group, kNumberWidth);
+    m_y = panel::LineEdit(QStringLiteral("txtY"), group, kNumberWidth);
+    m_width = panel::LineEdit(QStringLiteral("txtWidth"), group, kNumberWidth);
+    m_height = panel::LineEdit(QStringLiteral("txtHeight"), group, kNumberWidth);
+    grid->addWidget(new QLabel(QStringLiteral("X:"), group), 0, 0);
+    grid->addWidget(m_x, 0, 1);
+    grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 2);
+    grid->addWidget(m_width, 0, 3);
+    grid->addWidget(new QLabel(QStringLiteral("Y:"), group), 1, 0);
+    grid->addWidget(m_y, 1, 1);
+    grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 1, 2);
+    grid->addWidget(m_height, 1, 3);
+    grid->setColumnStretch(4, 1);
+    return group;
+}
+
+QWidget* PropertyPanel::buildLabel() {
+    QGroupBox* group = panel::Group(QStringLiteral("Label"), m_body);
+    auto* grid = new QGridLayout(group);
+
+    m_label = panel::LineEdit(QStringLiteral("txtLabel"), group);
+    m_labelEditor = panel::BrowseButton(QStringLiteral("btnMultiLine"),
+                                        QStringLiteral("Edit a label of several lines"), group);
+    auto* text = new QHBoxLayout();
+    text->setSpacing(2);
+    text->addWidget(m_label, 1);
+    text->addWidget(m_labelEditor);
+    grid->addWidget(new QLabel(QStringLiteral("Text:"), group), 0, 0);
+    grid->addLayout(text, 0, 1, 1, 4);
+
+    m_centerText =
+        panel::CheckBox(QStringLiteral("chkCenterText"), QStringLiteral("Center Text"), group);
+    m_positionText =
+        panel::CheckBox(QStringLiteral("chkPositionText"), QStringLiteral("At:"), group);
+    m_positionText->setToolTip(QStringLiteral("Draw the label at a position in the button"));
+    m_labelPosX = panel::LineEdit(QStringLiteral("txtLabelPosX"), group, 44);
+    m_labelPosY = panel::LineEdit(QStringLiteral("txtLabelPosY"), group, 44);
+    m_labelPosX->setToolTip(QStringLiteral("Label position X"));
+    m_labelPosY->setToolTip(QStringLiteral("Label position Y"));
+    auto* place = new QHBoxLayout();
+    place->addWidget(m_centerText);
+    place->addSpacing(8);
+    place->addWidget(m_positionText);
+    place->addWidget(m_labelPosX);
+    place->addWidget(m_labelPosY);
+    place->addStretch(1);
+    grid->addLayout(place, 1, 1, 1, 4);
+
+    m_font = panel::ComboBox(QStringLiteral("lsFont"), true, group);
+    m_font->addItems(QFontDatabase::families());
+    m_font->setMinimumContentsLength(12);
+    m_font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_fontSize = panel::ComboBox(QStringLiteral("lsFontSize"), true, group);
+    for (int size : {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72})
+        m_fontSize->addItem(Number(size));
+    m_fontSize->setFixedWidth(58);
+    m_bold =
+        StyleToggle(QStringLiteral("btnBold"), QStringLiteral("B"), QStringLiteral("Bold"), group);
+    m_italic = StyleToggle(QStringLiteral("btnItalic"), QStringLiteral("I"),
+                           QStringLiteral("Italic"), group);
+    auto* font = new QHBoxLayout();
+    font->setSpacing(3);
+    font->addWidget(m_font, 1);
+    font->addWidget(m_fontSize);
+    font->addWidget(m_bold);
+    font->addWidget(m_italic);
+    grid->addWidget(new QLabel(QStringLiteral("Font:"), group), 2, 0);
+    grid->addLayout(font, 2, 1, 1, 4);
+
+    m_fontColor = new ColorButton(QStringLiteral("picFontColor"), group);
+    m_fontColor->setToolTip(QStringLiteral("Label colour"));
+    m_backColor = new ColorButton(QStringLiteral("picBackColor"), group);
+    m_backColor->setToolTip(QStringLiteral("Background colour"));
+    auto* colours = new QHBoxLayout();
+    colours->addWidget(m_fontColor);
+    colours->addSpacing(10);
+    colours->addWidget(new QLabel(QStringLiteral("Background:"), group));
+    colours->addWidget(m_backColor);
+    colours->addStretch(1);
+    grid->addWidget(new QLabel(QStringLiteral("Colour:"), group), 3, 0);
+    grid->addLayout(colours, 3, 1, 1, 4);
+    grid->setColumnStretch(4, 1);
+    return group;
+}
+
+QWidget* PropertyPanel::buildImageAndSound() {
+    QGroupBox* group = panel::Group(QStringLiteral("Image and Sound"), m_body);
+    auto* grid = new QGridLayout(group);
+    m_image = panel::LineEdit(QStringLiteral("txtImage"), group);
+    m_image->setMinimumWidth(150);
+    m_browseImage = panel::BrowseButton(QStringLiteral("btnBrowseImage"),
+                                        QStringLiteral("Choose an image"), group);
+    m_imgStyle = panel::ComboBox(QStringLiteral("cmbImgStyle"), false, group);
+    m_imgStyle->addItems(
+        {QStringLiteral("Center"), QStringLiteral("Tile"), QStringLiteral("Stretch")});
+    m_sound = panel::LineEdit(QStringLiteral("txtSound"), group);
+    m_browseSound = panel::BrowseButton(QStringLiteral("btnBrowseSound"),
+                                        QStringLiteral("Choose a sound"), group);
+    grid->addWidget(new QLabel(QStringLiteral("Image:"), group), 0, 0);
+    grid->addWidget(m_image, 0, 1);
+    grid->addWidget(m_browseImage, 0, 2);
+    grid->addWidget(new QLabel(QStringLiteral("Placement:"), group), 1, 0);
+    grid->addWidget(m_imgStyle, 1, 1, 1, 2, Qt::AlignLeft);
+    grid->addWidget(new QLabel(QStringLiteral("Sound:"), group), 2, 0);
+    grid->addWidget(m_sound, 2, 1);
+    grid->addWidget(m_browseSound, 2, 2);
+    grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(4);
+    return group;
+}
+
+QWidget* PropertyPanel::buildLink() {
+    QGroupBox* group = panel::Group(QStringLiteral("Link"), m_body);
+    auto* form = new QFormLayout(group);
+    m_url = panel::LineEdit(QStringLiteral("txtURL"), group);
+    m_status = panel::LineEdit(QStringLiteral("txtStatus"), group);
+    m_target = panel::ComboBox(QStringLiteral("lsTarget"), true, group);
+    m_target->addItems({QStringLiteral("_self"), QStringLiteral("_parent"), QStringLiteral("_top"),
+                        QStringLiteral("_blank")});
+    form->addRow(QStringLiteral("URL:"), m_url);
+    form->addRow(QStringLiteral("Status:"), m_status);
+    form->addRow(QStringLiteral("Target:"), m_target);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    return group;
+}
+
+QWidget* PropertyPanel::buildFlags() {
+    QGroupBox* group = panel::Group(QStringLiteral("Options"), m_body);
+    auto* grid = new QGridLayout(group);
+    m_border = panel::CheckBox(QStringLiteral("chkBorder"), QStringLiteral("Border"), group);
+    m_transparent =
+        panel::CheckBox(QStringLiteral("chkTransparent"), QStringLiteral("Transparent"), group);
+    m_showHand =
+        panel::CheckBox(QStringLiteral("chkShowHand"), QStringLiteral("Hand cursor"), group);
+    m_hidden = panel::CheckBox(QStringLiteral("chkHidden"), QStringLiteral("Hidden"), group);
+    m_transparent->setToolTip(QStringLiteral("No background: the applet shows through"));
+    m_hidden->setToolTip(QStringLiteral("Hidden when the applet starts"));
+    grid->addWidget(m_border, 0, 0);
+    grid->addWidget(m_transparent, 0, 1);
+    grid->addWidget(m_showHand, 1, 0);
+    grid->addWidget(m_hidden, 1, 1);
+    return group;
+}
+
+void PropertyPanel::bindTexts() {
+    PropertyEditor& p = m_properties;
+    const auto bind = [this](QLineEdit* edit, void (PropertyEditor::*setter)(const std::string&)) {
+        connect(edit, &QLineEdit::textChanged, this,
+                [this, setter](const QString& text) { (m_properties.*setter)(Std(text)); });
+    };
+    bind(m_x, &PropertyEditor::SetX);
+    bind(m_y, &PropertyEditor::SetY);
+    bind(m_width, &PropertyEditor::SetWidth);
+    bind(m_height, &PropertyEditor::SetHeight);
+    bind(m_label, &PropertyEditor::SetLabel);
+    bind(m_labelPosX, &PropertyEditor::SetLabelPosX);
+    bind(m_labelPosY, &PropertyEditor::SetLabelPosY);
+    bind(m_image, &PropertyEditor::SetImage);
+    bind(m_sound, &PropertyEditor::SetSound);
+    bind(m_url, &PropertyEditor::SetURL);
+    bind(m_status, &PropertyEditor::SetStatus);
+    connect(m_font, &QComboBox::currentTextChanged, this,
+            [&p](const QString& text) { p.SetFont(Std(text)); });
+    connect(m_fontSize, &QComboBox::currentTextChanged, this,
+            [&p](const QString& text) { p.SetFontSize(Std(text)); });
+    connect(m_target, &QComboBox::currentTextChanged, this,
+            [&p](const QString& text) { p.SetTarget(Std(text)); });
+    connect(m_browseImage, &QToolButton::clicked, this, [&p] { p.BrowseImage(); });
+    connect(m_browseSound, &QToolButton::clicked, this, [&p] { p.BrowseSound(); });
+}
+
+void PropertyPanel::bindChoices() {
+    PropertyEditor& p = m_properties;
+    connect(m_centerText, &QCheckBox::toggled, this, [&p](bool on) { p.SetCenterText(on); });
+    connect(m_positionText, &QCheckBox::toggled, this, [&p](bool on) { p.SetPositionText(on); });
+    const auto style = [this] {
+        m_properties.SetFontStyle(m_bold->isChecked(), m_italic->isChecked());
+    };
+    connect(m_bold, &QToolButton::toggled, this, style);
+    connect(m_italic, &QToolButton::toggled, this, style);
+    connect(m_fontColor, &ColorButton::colourChosen, this,
+            [&p](std::int32_t colour) { p.SetFontColor(colour); });
+    connect(m_backColor, &ColorButton::colourChosen, this,
+            [&p](std::int32_t colour) { p.SetBackColor(colour); });
+    connect(m_imgStyle, &QComboBox::currentIndexChanged, this,
+            [&p](int index) { p.SetImgStyle(index); });
+    connect(m_border, &QCheckBox::toggled, this, [&p](bool on) { p.SetBorder(on); });
+    connect(m_transparent, &QCheckBox::toggled, this, [&p](bool on) { p.SetTransparent(on); });
+    connect(m_showHand, &QCheckBox::toggled, this, [&p](bool on) { p.SetShowHand(on); });
+    connect(m_hidden, &QCheckBox::toggled, this, [&p](bool on) { p.SetHidden(on); });
+}
+
+void PropertyPanel::showButton(const ButtonRecord& record, ButtonState state,
+                               const QString& caption) {
+    m_caption->setText(caption);
+    panel::SetText(m_x, Number(record.x));
+    panel::SetText(m_y, Number(record.y));
+    panel::SetText(m_width, Number(record.Width));
+    panel::SetText(m_height, Number(record.Height));
+    panel::SetText(m_label, QString::fromStdString(record.Label(state)));
+
+    const bool positioned = record.PositionText(state) != 0;
+    panel::SetChecked(m_positionText, positioned);
+    panel::SetChecked(m_centerText, !positioned);
+    panel::SetText(m_labelPosX, Number(record.LabelPosX(state)));
+    panel::SetText(m_labelPosY, Number(record.LabelPosY(state)));
+    m_labelPosX->setEnabled(positioned);
+    m_labelPosY->setEnabled(positioned);
+
+    panel::SetText(m_font, QString::fromStdString(record.Font(state)));
+    panel::SetText(m_fontSize, Number(record.FontSize(state)));
+    bool bold = false;
+    bool italic = false;
+    FontStyleFlags(record.FontStyle(state), bold, italic);
+    m_bold->setChecked(bold);
+    m_italic->setChecked(italic);
+    m_fontColor->setColour(record.FontColor(state));
+    m_backColor->setColour(record.BackColor(state));
+
+    panel::SetText(m_image, QString::fromStdString(record.Image(state)));
+    const int style = record.ImgStyle(state);
+    m_imgStyle->setCurrentIndex(style >= 0 && style <= 2 ? style : 0);
+    panel::SetText(m_sound, QString::fromStdString(record.Sound(state)));
+
+    panel::SetText(m_url, QString::fromStdString(record.URL));
+    panel::SetText(m_status, QString::fromStdString(record.Status));
+    panel::SetText(m_target, QString::fromStdString(record.Target));
+    panel::SetChecked(m_border, record.Border != 0);
+    panel::SetChecked(m_transparent, record.noBackGround != 0);
+    panel::SetChecked(m_showHand, record.ShowHand != 0);
+    panel::SetChecked(m_hidden, record.Hidden != 0);
+}
+
+void PropertyPanel::showState(ButtonState state) {
+    if (QAbstractButton* button = m_states->button(static_cast<int>(state)))
+        button->setChecked(true);
+}
+
+void PropertyPanel::setActionTitle(const QString& title) {
+    m_setAction->setText(title);
+}
+
+void PropertyPanel::setHasButton(bool hasButton) {
+    m_body->setEnabled(hasButton);
+    if (!hasButton)
+        m_caption->clear();
+}
+
+} // namespace orvelin

@@ -1,0 +1,115 @@
+#include "startupprobe.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWindow>
+#include <cstdio>
+
+namespace orvelin {
+
+namespace {
+
+bool EnvironmentSwitchOn(const char* name) {
+    return qEnvironmentVariable(name) == QLatin1String("1");
+}
+
+// A window that never appears (no display, a window manager that hangs) must not
+// leave a timed or tested run hanging.
+constexpr int kExposeTimeoutMs = 30000;
+
+} // namespace
+
+StartupProbe::StartupProbe(QObject* parent) : QObject(parent) {}
+
+bool StartupProbe::QuitAfterStartupRequested() {
+    return EnvironmentSwitchOn("ORVELIN_QUIT_AFTER_STARTUP");
+}
+
+bool StartupProbe::ReportWindowsRequested() {
+    return EnvironmentSwitchOn("ORVELIN_REPORT_WINDOWS");
+}
+
+void StartupProbe::watch(QWidget* window) {
+    Watched entry;
+    entry.widget = window;
+    // The native window exists once the widget is shown; until then the widget's
+    // own show event tells when to look for it.
+    window->installEventFilter(this);
+    QWindow* handle = window->windowHandle();
+    entry.surface = handle != nullptr ? static_cast<QObject*>(handle) : window;
+    if (handle != nullptr)
+        handle->installEventFilter(this);
+    entry.exposed = handle != nullptr && handle->isExposed();
+    m_windows.push_back(entry);
+    if (entry.exposed)
+        m_exposed << window->objectName();
+}
+
+void StartupProbe::start() {
+    m_started = true;
+    checkAllExposed();
+}
+
+bool StartupProbe::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::Expose && type != QEvent::Show && type != QEvent::WinIdChange)
+        return QObject::eventFilter(watched, event);
+    for (Watched& entry : m_windows) {
+        if (entry.widget == nullptr || entry.exposed)
+            continue;
+        QWindow* handle = entry.widget->windowHandle();
+        if (handle != nullptr && entry.surface != handle) {
+            // The widget got its native window: follow the expose events there.
+            entry.surface = handle;
+            handle->installEventFilter(this);
+        }
+        if (handle != nullptr && handle->isExposed()) {
+            entry.exposed = true;
+            m_exposed << entry.widget->objectName();
+            if (m_report)
+                std::fprintf(stderr, "orvelin: window shown: %s \"%s\"\n",
+                             qPrintable(entry.widget->objectName()),
+                             qPrintable(entry.widget->windowTitle()));
+        }
+    }
+    if (m_started)
+        checkAllExposed();
+    return QObject::eventFilter(watched, event);
+}
+
+void StartupProbe::checkAllExposed() {
+    if (m_idleSent)
+        return;
+    for (const Watched& entry : m_windows)
+        if (entry.widget != nullptr && !entry.exposed)
+            return;
+    m_idleSent = true;
+    // A zero timer runs after everything already queued: the first paint of every
+    // window and the events start-up posted.
+    QTimer::singleShot(0, this, [this] { emit idle(); });
+}
+
+void StartupProbe::applyEnvironment() {
+    m_report = ReportWindowsRequested();
+    if (m_report) {
+        for (const Watched& entry : m_windows)
+            if (entry.exposed && entry.widget != nullptr)
+                std::fprintf(stderr, "orvelin: window shown: %s \"%s\"\n",
+                             qPrintable(entry.widget->objectName()),
+                             qPrintable(entry.widget->windowTitle()));
+        connect(this, &StartupProbe::idle, this, [] { std::fprintf(stderr, "orvelin: idle\n"); });
+    }
+    if (QuitAfterStartupRequested()) {
+        connect(this, &StartupProbe::idle, qApp, [] { QCoreApplication::exit(0); });
+        QTimer::singleShot(kExposeTimeoutMs, this, [this] {
+            if (m_idleSent)
+                return;
+            std::fprintf(stderr, "orvelin: the windows did not appear within %d ms\n",
+                         kExposeTimeoutMs);
+            QCoreApplication::exit(3);
+        });
+    }
+}
+
+} // namespace orvelin

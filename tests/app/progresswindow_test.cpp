@@ -1,0 +1,107 @@
+#include "colorbutton.h"
+#include "frmmessage.h"
+#include "qtuserinterface.h"
+#include "startupprobe.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace orvelin;
+
+namespace {
+
+QApplication& App() {
+    static int argc = 1;
+    static char name[] = "progresswindow_test";
+    static char* argv[] = {name, nullptr};
+    static QApplication app(argc, argv);
+    return app;
+}
+
+} // namespace
+
+TEST(ProgressWindow, ShowsTitleTextAndPercentWithTheBusyPointer) {
+    App();
+    QtUserInterface ui;
+    ui.showProgress("Please Wait...", "Loading Button # 3 of 4", 75);
+    FrmMessage& window = ui.progressWindow();
+    EXPECT_EQ(window.objectName(), QStringLiteral("frmMessage"));
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.isModal());
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Please Wait..."));
+    EXPECT_EQ(window.text(), QStringLiteral("Loading Button # 3 of 4"));
+    EXPECT_EQ(window.percent(), 75);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+
+    // Updates while shown keep one busy pointer, so one hide gives the normal one back.
+    ui.showProgress("Please Wait...", "Loading Button # 4 of 4", 100);
+    EXPECT_EQ(window.percent(), 100);
+    ui.hideProgress();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(ProgressWindow, WithoutAPercentShowsNoBar) {
+    App();
+    FrmMessage window;
+    window.showProgress(QStringLiteral("Please Wait..."), QStringLiteral("Loading Project..."), -1);
+    EXPECT_EQ(window.percent(), -1);
+    window.hideProgress();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(ProgressWindow, HidingBeforeShowingLeavesThePointerAlone) {
+    App();
+    QtUserInterface ui;
+    ui.hideProgress();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(QtUserInterface, MessagesGetTheProgramTitleAndSingleLineBreaks) {
+    EXPECT_EQ(QtUserInterface::MessageTitle(""), QStringLiteral("Orvelin"));
+    EXPECT_EQ(QtUserInterface::MessageTitle("Warning"), QStringLiteral("Warning"));
+    EXPECT_EQ(QtUserInterface::DisplayText("Error loading project.\r\nFile not found"),
+              QStringLiteral("Error loading project.\nFile not found"));
+}
+
+TEST(ColorButton, ModelColoursKeepRedInTheLowByte) {
+    EXPECT_EQ(ColorButton::ToQColor(255), QColor(255, 0, 0));
+    EXPECT_EQ(ColorButton::ToQColor(16711680), QColor(0, 0, 255));
+    EXPECT_EQ(ColorButton::ToQColor(65535), QColor(255, 255, 0));
+    EXPECT_EQ(ColorButton::FromQColor(QColor(0x12, 0x34, 0x56)), 0x563412);
+    EXPECT_EQ(ColorButton::FromQColor(ColorButton::ToQColor(16776960)), 16776960);
+}
+
+TEST(ColorButton, SettingAColourDoesNotReportIt) {
+    App();
+    ColorButton button(QStringLiteral("picFontColor"));
+    QSignalSpy chosen(&button, &ColorButton::colourChosen);
+    button.setColour(255);
+    EXPECT_EQ(button.colour(), 255);
+    EXPECT_EQ(chosen.count(), 0);
+}
+
+TEST(StartupProbe, GoesIdleOnceEveryWatchedWindowIsShown) {
+    App();
+    QMainWindow first;
+    first.setObjectName(QStringLiteral("first"));
+    QMainWindow second;
+    second.setObjectName(QStringLiteral("second"));
+    StartupProbe probe;
+    probe.watch(&first);
+    probe.watch(&second);
+    QSignalSpy idle(&probe, &StartupProbe::idle);
+    probe.start();
+    first.show();
+    QTest::qWait(50);
+    EXPECT_EQ(idle.count(), 0) << "the second window is not shown yet";
+    second.show();
+    EXPECT_TRUE(idle.wait(5000));
+    EXPECT_EQ(probe.exposed(), (QStringList{QStringLiteral("first"), QStringLiteral("second")}));
+    QTest::qWait(20);
+    EXPECT_EQ(idle.count(), 1);
+}
