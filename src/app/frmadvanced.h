@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDialog>
+
+class QCheckBox;
+class QPushButton;
+
+namespace orvelin {
+
+class Settings;
+class UserInterface;
+
+/**
+ * frmAdvanced: the automatic tiling option, stored the moment it is clicked, and the
+ * way back to the factory settings of the default button and of this dialog's options.
+ */
+class FrmAdvanced : public QDialog {
+    Q_OBJECT
+public:
+    FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent = nullptr);
+
+    QCheckBox* chkAutoTile() const { return m_chkAutoTile; }
+
+signals:
+    /// AutoTile was stored; the main window's own check mark follows it.
+    void autoTileChanged(bool on);
+    /// strDefaultBtn and the options went back to their factory values.
+    void defaultsRestored();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void chkAutoTile_Click(bool checked);
+    void btnRestoreDefaults_Click();
+    void btnOk_Click();
+
+    Settings& m_settings;
+    UserInterface& m_ui;
+    QCheckBox* m_chkAutoTile = nullptr;
+    QPushButton* m_btnRestoreDefaults = nullptr;
+    QPushButton* m_btnOk = nullptr;
+};
+
+} // namespace orvelin
