@@ -1,5 +1,6 @@
 // orvelin-cli is run as a program here: its exit status, stdout and stderr are
 // what scripts depend on.
+#include "fakeui.h"
 #include "htmlgenerator.h"
 #include "programfolder.h"
 #include "projectfile.h"
@@ -127,6 +128,37 @@ TEST_F(OrvelinCli, HtmlWritesTheGeneratorsTextByteForByte) {
     // The example links to JavaScript, so the shipped caller block is there.
     EXPECT_NE(run.out.find("function InitJSCaller()"), std::string::npos);
     EXPECT_NE(run.out.find("<applet name = \"navbar\" "), std::string::npos);
+}
+
+TEST_F(OrvelinCli, ExampleProjectLoadsWithAllItsFiles) {
+    orvelin::testing::FakeUserInterface ui;
+    ProjectModel model;
+    ASSERT_TRUE(LoadProject(model, kExample, ui));
+    EXPECT_TRUE(ui.messages().empty());
+    ASSERT_GE(model.ButtonCount, 6);
+    const fs::path folder = fs::path(kExample).parent_path();
+    std::vector<std::string> files = {model.BackImg};
+    bool hidden = false, transparent = false, multiLine = false;
+    for (int i = 1; i <= model.ButtonCount; ++i) {
+        const ButtonRecord& b = model.Button(i);
+        for (ButtonState s : {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN}) {
+            files.push_back(b.Image(s));
+            files.push_back(b.Sound(s));
+            multiLine = multiLine || b.Label(s).find("\\n") != std::string::npos;
+        }
+        hidden = hidden || b.Hidden != 0;
+        transparent = transparent || b.noBackGround != 0;
+    }
+    EXPECT_TRUE(hidden);
+    EXPECT_TRUE(transparent);
+    EXPECT_TRUE(multiLine);
+    EXPECT_TRUE(UsesJavaScript(model));
+    for (const std::string& file : files) {
+        if (file.empty())
+            continue;
+        EXPECT_TRUE(fs::path(file).is_relative()) << file;
+        EXPECT_TRUE(fs::is_regular_file(folder / file)) << file;
+    }
 }
 
 TEST_F(OrvelinCli, AppletNameOptionActsLikeTheNameBox) {
