@@ -216,9 +216,9 @@ int SendBack(ProjectModel& model, ButtonList& list) {
 }
 
 PixelPoint SizerPosition(int handle, const PixelRect& b, int w, int h) {
-    // Centred on the edge: L + W/2 - w/2, computed once so that odd sizes round alike.
-    const int centreLeft = b.left + (b.width - w) / 2;
-    const int centreTop = b.top + (b.height - h) / 2;
+    // Centred on the edge: L + W/2 - w/2, each half in whole pixels as the surface has them.
+    const int centreLeft = b.left + b.width / 2 - w / 2;
+    const int centreTop = b.top + b.height / 2 - h / 2;
     switch (handle) {
     case SizerBottom:
         return {centreLeft, b.top + b.height + 2};

@@ -288,9 +288,11 @@ TEST(Stacking, SendBackSwapsWithThePreviousAndStopsAtTheFirst) {
 TEST(SizerPosition, EveryHandleStandsTwoPixelsOutsideTheMiddleOfItsEdge) {
     const PixelRect b{100, 50, 107, 40};
     EXPECT_EQ(SizerPosition(SizerBottom, b, 7, 7), (PixelPoint{150, 92}));
-    EXPECT_EQ(SizerPosition(SizerRight, b, 7, 7), (PixelPoint{209, 66}));
+    EXPECT_EQ(SizerPosition(SizerRight, b, 7, 7), (PixelPoint{209, 67}));
     EXPECT_EQ(SizerPosition(SizerTop, b, 7, 7), (PixelPoint{150, 41}));
-    EXPECT_EQ(SizerPosition(SizerLeft, b, 7, 7), (PixelPoint{91, 66}));
+    EXPECT_EQ(SizerPosition(SizerLeft, b, 7, 7), (PixelPoint{91, 67}));
+    // Even handles on an odd edge: each half is taken in whole pixels.
+    EXPECT_EQ(SizerPosition(SizerTop, {0, 10, 9, 9}, 6, 4), (PixelPoint{1, 4}));
 }
 
 namespace {
