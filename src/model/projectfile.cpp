@@ -282,7 +282,10 @@ std::string ProjectHeader() {
 }
 
 std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
-    std::string text = ProjectHeader();
+    const int count = std::clamp<int>(model.ButtonCount, 0, kLastButtonSlot);
+    std::string text;
+    text.reserve(512 + static_cast<std::size_t>(count) * 512);
+    text += ProjectHeader();
     text += kCrLf;
     // appletField only hands out pointers; reading through them does not modify.
     auto& readable = const_cast<ProjectModel&>(model);
@@ -297,7 +300,6 @@ std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
         text += '|';
     }
     text += kCrLf;
-    const int count = std::clamp<int>(model.ButtonCount, 0, kLastButtonSlot);
     for (int i = 1; i <= count; ++i) {
         if (progress)
             progress->showProgress(Messages()[Msg::PleaseWait],

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -63,6 +64,15 @@ std::size_t utf8SequenceLength(std::string_view s, std::size_t i) {
 
 bool isValidUtf8(std::string_view s) {
     for (std::size_t i = 0; i < s.size();) {
+        // Most project text is ASCII: pass over it eight bytes at a time.
+        std::uint64_t word = 0;
+        if (i + sizeof word <= s.size()) {
+            std::memcpy(&word, s.data() + i, sizeof word);
+            if ((word & 0x8080808080808080ull) == 0) {
+                i += sizeof word;
+                continue;
+            }
+        }
         const std::size_t n = utf8SequenceLength(s, i);
         if (n == 0)
             return false;
@@ -172,7 +182,8 @@ std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* 
         report(error, "File not found");
         return std::nullopt;
     }
-    if (fs::is_directory(status)) {
+    // A folder, a pipe or a device is no text file (and a pipe could block forever).
+    if (!fs::is_regular_file(status)) {
         report(error, "Path/File access error");
         return std::nullopt;
     }
@@ -181,15 +192,26 @@ std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* 
         report(error, "Permission denied");
         return std::nullopt;
     }
-    std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    // One read of the whole file; whatever its size did not tell (a file that grew, or
+    // one of the kernel's files that claim to be empty) is read on piece by piece.
+    std::string bytes;
+    const std::uintmax_t size = fs::file_size(path, ec);
+    if (!ec && size > 0) {
+        bytes.resize(static_cast<std::size_t>(size));
+        in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        bytes.resize(static_cast<std::size_t>(in.gcount()));
+    }
+    if (!in.bad() && !in.eof())
+        bytes.append(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
     if (in.bad()) {
         report(error, "Device I/O error");
         return std::nullopt;
     }
-    std::string_view view = bytes;
-    if (view.substr(0, 3) == "\xEF\xBB\xBF")
-        view.remove_prefix(3);
-    return ToUtf8(view);
+    if (std::string_view(bytes).substr(0, 3) == "\xEF\xBB\xBF")
+        bytes.erase(0, 3);
+    if (isValidUtf8(bytes))
+        return bytes;
+    return ToUtf8(bytes);
 }
 
 std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTerminated) {
@@ -256,6 +278,8 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFi
         report(error, errnoText(errno));
         return false;
     }
+    // The text is on the disk before the rename, so a crash leaves the old file or the
+    // new one, never an empty one.
     bool ok = writeAll(fd, bytes) && ::fsync(fd) == 0;
     int failure = ok ? 0 : errno;
     // The new file gets the old one's permissions, so replacing it changes only its text.
@@ -273,12 +297,6 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFi
         ::unlink(temporary.c_str());
         report(error, errnoText(failure));
         return false;
-    }
-    // Make the rename itself durable; a folder that cannot be synced loses nothing.
-    const int dirFd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (dirFd >= 0) {
-        ::fsync(dirFd);
-        ::close(dirFd);
     }
     return true;
 }
