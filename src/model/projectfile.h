@@ -14,9 +14,10 @@ std::string ProjectHeader();
 std::string ProjectText(const ProjectModel& model, UserInterface* progress = nullptr);
 
 /**
- * Writes the model to `path`, replacing the file safely. On success `Saved` is set.
- * On failure the error message is shown, `Saved` stays as it was and the previous
- * file is untouched.
+ * Writes the model to `path`, replacing the file safely, with progress per button.
+ * On success `Saved` is set. On failure the error message is shown, `Saved` stays as
+ * it was and the previous file is untouched. The caller keeps the file name and the
+ * recent-files list.
  */
 bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui);
 
@@ -24,12 +25,17 @@ bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui
  * Reads a project file into the model. Returns true when the file was read to its
  * end (then `Saved` is true and `ProjectFileName` is `path`). On an error the buttons
  * read completely so far are kept and "Error loading project." is shown with the
- * cause. `AppletName` keeps its value: the reader takes it from field 15 of the applet
- * line, which the writer never produces.
+ * cause; a button count below 0 or beyond the table (102) keeps none. `AppletName`
+ * keeps its value: the reader takes it from field 15 of the applet line, which the
+ * writer never produces. `CurrentButton` is left at 0; showing the loaded project
+ * (controls, design surface, caption, recent files) is the caller's part.
  */
 bool LoadProject(ProjectModel& model, const std::string& path, UserInterface& ui);
 
-/// Reads the legacy INI-style project format (section "Buttons").
+/**
+ * Reads the legacy INI-style project format (section "Buttons"). Fields that format
+ * lacks keep their values; labels are taken as stored. Errors as for LoadProject.
+ */
 bool LoadProject_OLD(ProjectModel& model, const std::string& path, UserInterface& ui);
 
 } // namespace orvelin
