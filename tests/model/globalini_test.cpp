@@ -37,6 +37,8 @@ protected:
         root = fs::temp_directory_path() /
                ("globalini-" +
                 std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()));
+        program = root / "program";
+        user = root / "user";
         fs::remove_all(root);
         fs::create_directories(program);
         fs::create_directories(user);
@@ -44,8 +46,8 @@ protected:
     void TearDown() override { fs::remove_all(root); }
 
     fs::path root;
-    fs::path program = root / "program";
-    fs::path user = root / "user";
+    fs::path program;
+    fs::path user;
 };
 
 } // namespace
