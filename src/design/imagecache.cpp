@@ -17,8 +17,17 @@ QString NativePath(const std::string& path) {
 } // namespace
 
 void ImageCache::setProjectFile(const std::string& projectFileName) {
-    m_projectFolder =
+    const QString folder =
         projectFileName.empty() ? QString() : QFileInfo(NativePath(projectFileName)).absolutePath();
+    if (folder == m_projectFolder)
+        return;
+    m_projectFolder = folder;
+    m_lookups.clear();
+}
+
+void ImageCache::clear() {
+    m_lookups.clear();
+    m_entries.clear();
 }
 
 QString ImageCache::resolve(const std::string& path) const {
@@ -37,16 +46,25 @@ QString ImageCache::resolve(const std::string& path) const {
 }
 
 QImage ImageCache::image(const std::string& path) {
-    const QString file = resolve(path);
-    if (file.isEmpty())
+    if (path.empty())
         return {};
-    const QFileInfo info(file);
-    Entry& entry = m_entries[file];
+    Lookup& lookup = m_lookups[QString::fromStdString(path)];
+    if (lookup.pass == m_pass) {
+        const auto found = m_entries.constFind(lookup.file);
+        return found == m_entries.constEnd() ? QImage() : found->image;
+    }
+    lookup.pass = m_pass;
+    lookup.file = resolve(path);
+    if (lookup.file.isEmpty())
+        return {};
+
+    const QFileInfo info(lookup.file);
+    Entry& entry = m_entries[lookup.file];
     if (entry.size != info.size() || entry.modified != info.lastModified()) {
-        QImageReader reader(file);
+        QImageReader reader(lookup.file);
         // A GIF or JPEG saved under another extension is still read by its content.
         reader.setDecideFormatFromContent(true);
-        QImage read = reader.read();
+        const QImage read = reader.read();
         // Indexed GIFs would be converted on every paint; convert them once here.
         entry.image = read.convertToFormat(
             read.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);

@@ -14,10 +14,17 @@ QImage RenderSurface(const ProjectModel& model, std::string_view state,
     ImageCache ownImages;
     ImageCache& images = options.images ? *options.images : ownImages;
     images.setProjectFile(model.ProjectFileName);
+    images.newPass();
 
     QImage surface = RenderBackground(model, images, options.noBackGround);
-    // Transparent buttons copy the background alone, never the buttons below them.
-    const QImage background = surface.copy();
+    // Transparent buttons copy the background alone, never the buttons below them; the
+    // copy is made only when some button needs it.
+    QImage background;
+    for (int index = 1; index <= model.ButtonCount; ++index)
+        if (model.Button(index).noBackGround != 0) {
+            background = surface.copy();
+            break;
+        }
 
     ButtonPainter painter(model, images);
     painter.setState(state);

@@ -1,0 +1,64 @@
+#include "buttonpicture.h"
+
+#include "paintsupport.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace orvelin {
+
+ButtonPicture::ButtonPicture(int index, QWidget* parent) : QWidget(parent), m_index(index) {
+    setObjectName(QStringLiteral("pButtons%1").arg(index));
+    // The picture covers the widget; transparent pixels of a fresh picture show the
+    // surface under it.
+    setAttribute(Qt::WA_NoSystemBackground);
+}
+
+QImage& ButtonPicture::picture() {
+    fitPicture();
+    return m_picture;
+}
+
+bool ButtonPicture::fitPicture() {
+    const QSize wanted = size().expandedTo(QSize(1, 1));
+    if (m_picture.size() == wanted)
+        return false;
+    QImage fitted = NewPicture(wanted);
+    if (!m_picture.isNull()) {
+        QPainter painter(&fitted);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.drawImage(0, 0, m_picture);
+    }
+    m_picture = fitted;
+    return true;
+}
+
+void ButtonPicture::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.drawImage(0, 0, m_picture);
+}
+
+void ButtonPicture::resizeEvent(QResizeEvent*) {
+    // A resize that the design window already answered (it painted at the new size)
+    // leaves the picture as it is: a move paints once.
+    if (fitPicture())
+        emit resized(m_index);
+}
+
+void ButtonPicture::mousePressEvent(QMouseEvent* event) {
+    emit mousePressed(m_index, event);
+}
+
+void ButtonPicture::mouseMoveEvent(QMouseEvent* event) {
+    emit mouseMoved(m_index, event);
+}
+
+void ButtonPicture::mouseReleaseEvent(QMouseEvent* event) {
+    emit mouseReleased(m_index, event);
+}
+
+void ButtonPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+    emit mouseDoubleClicked(m_index, event);
+}
+
+} // namespace orvelin

@@ -1,0 +1,76 @@
+#include "frmbgoffset.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+#include <limits>
+
+namespace orvelin {
+
+namespace {
+
+QSpinBox* OffsetBox(const QString& name, int value, QWidget* parent) {
+    auto* box = new QSpinBox(parent);
+    box->setObjectName(name);
+    box->setRange(std::numeric_limits<std::int16_t>::min(),
+                  std::numeric_limits<std::int16_t>::max());
+    box->setValue(value);
+    box->setSuffix(QStringLiteral(" px"));
+    box->setAccelerated(true);
+    return box;
+}
+
+} // namespace
+
+FrmBgOffset::FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* parent)
+    : QDialog(parent), m_model(model), m_preview(preview), m_oldX(model.BgOffsetX),
+      m_oldY(model.BgOffsetY) {
+    setObjectName(QStringLiteral("frmBgOffset"));
+    setWindowTitle(tr("Background Offset"));
+
+    m_x = OffsetBox(QStringLiteral("txtOffsetX"), m_oldX, this);
+    m_y = OffsetBox(QStringLiteral("txtOffsetY"), m_oldY, this);
+    auto* form = new QFormLayout;
+    form->addRow(tr("&X:"), m_x);
+    form->addRow(tr("&Y:"), m_y);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnOk"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("btnCancel"));
+    connect(buttons, &QDialogButtonBox::accepted, this, &FrmBgOffset::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &FrmBgOffset::reject);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(buttons);
+
+    connect(m_x, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
+    connect(m_y, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
+}
+
+void FrmBgOffset::preview() {
+    m_model.BgOffsetX = static_cast<std::int16_t>(m_x->value());
+    m_model.BgOffsetY = static_cast<std::int16_t>(m_y->value());
+    if (m_preview)
+        m_preview->AppletChanged();
+}
+
+void FrmBgOffset::accept() {
+    preview();
+    if (m_model.BgOffsetX != m_oldX || m_model.BgOffsetY != m_oldY)
+        m_model.Saved = false;
+    QDialog::accept();
+}
+
+void FrmBgOffset::reject() {
+    const bool changed = m_model.BgOffsetX != m_oldX || m_model.BgOffsetY != m_oldY;
+    m_model.BgOffsetX = m_oldX;
+    m_model.BgOffsetY = m_oldY;
+    if (changed && m_preview)
+        m_preview->AppletChanged();
+    QDialog::reject();
+}
+
+} // namespace orvelin

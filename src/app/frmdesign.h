@@ -1,0 +1,171 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "designview.h"
+#include "imagecache.h"
+#include "projectmodel.h"
+#include "userinterface.h"
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+#include <array>
+#include <vector>
+
+class QCheckBox;
+class QMouseEvent;
+class QPushButton;
+class QScrollArea;
+
+namespace orvelin {
+
+class AppletArea;
+class ButtonPicture;
+class LabelPositioner;
+class SizerHandle;
+
+/**
+ * The design window `frmDesign`: the applet area as the applet will show it, one picture
+ * per button in z-order, the four resize handles and the label positioner of the current
+ * button, and the window's own commands. It reads the project, the selection of the
+ * button list and the model's CurrentState; it never keeps a selection of its own.
+ *
+ * Commands and mouse input leave as signals; each mouse handler is also a virtual
+ * function (named like the event it answers), so the manipulation of buttons can be
+ * added by connecting to the signals or by overriding.
+ */
+class FrmDesign : public QWidget, public DesignView {
+    Q_OBJECT
+
+public:
+    /// Space around the applet area, so that handles of a button at the edge are seen.
+    static constexpr int kMargin = 12;
+
+    FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui = nullptr,
+              QWidget* parent = nullptr);
+    ~FrmDesign() override;
+
+    // DesignView
+    void LoadButton(int index) override;
+    void HideLastButton(int index) override;
+    void ClearButtons() override;
+    void RedrawButton(int index, bool placeHandles, bool placePositioner,
+                      bool keepGeometry) override;
+    void RedrawAll() override;
+    void UpdateTransparentBtns() override;
+    void AppletChanged() override;
+    void HideMarks() override;
+    void SetOnTop(bool onTop) override;
+
+    /// Places the four handles around button `index` and raises them above the pictures.
+    void MoveSizer(int index);
+    void ShowSizers();
+    void HideSizers();
+    /// Places the label positioner on the current state's label position of button
+    /// `index`; hides it while that state centres its label.
+    void MoveLabelPositioner(int index);
+
+    /// `pButtons(i)`; null when button `index` has no picture.
+    ButtonPicture* pButtons(int index) const;
+    int pictureCount() const { return static_cast<int>(m_pictures.size()); }
+    SizerHandle* picSizer(int handle) const;
+    LabelPositioner* labelPositioner() const { return m_positioner; }
+    /// The widget the handles and the positioner live on; the applet area sits on it at
+    /// (kMargin, kMargin).
+    QWidget* surface() const { return m_surface; }
+    AppletArea* appletArea() const { return m_area; }
+    ImageCache& images() { return m_images; }
+
+    /// While set, a picture's change of size does not repaint it.
+    bool noRedrawOnResize() const { return m_noRedrawOnResize; }
+    void setNoRedrawOnResize(bool on) { m_noRedrawOnResize = on; }
+    /// When set, the next close really closes (and clears the flag); otherwise closing
+    /// only hides the window.
+    void setForceUnload(bool on) { m_forceUnload = on; }
+
+    /// chkNoBackGround, set from the stored value without announcing it.
+    bool noBackGround() const { return m_noBackGround; }
+    void setNoBackGround(bool on);
+
+    /// Replaces the window's texts from a language file, in this order: caption, the
+    /// captions of btnAddBtn, btnDuplicate, btnRemove, btnViewHtml and chkNoBackGround,
+    /// then their tool tips in the same order. Missing texts stay as they are.
+    void setTexts(const QStringList& texts);
+    QStringList texts() const;
+
+    /// How many times button pictures were painted since the window was made.
+    int paintCount() const { return m_paintCount; }
+
+signals:
+    void btnAddBtnClicked();
+    void btnDuplicateClicked();
+    void btnRemoveClicked();
+    void btnViewHtmlClicked();
+    /// chkNoBackGround was clicked; the new value is to be stored.
+    void noBackGroundClicked(bool checked);
+    /// The window is being closed (Form_Unload): the place to save its geometry.
+    void unloading();
+
+    // Mouse input, with the event's position relative to the widget named.
+    void buttonMouseDown(int index, QMouseEvent* event);
+    void buttonMouseMove(int index, QMouseEvent* event);
+    void buttonMouseUp(int index, QMouseEvent* event);
+    void buttonDoubleClick(int index, QMouseEvent* event);
+    void sizerMouseDown(int handle, QMouseEvent* event);
+    void sizerMouseMove(int handle, QMouseEvent* event);
+    void sizerMouseUp(int handle, QMouseEvent* event);
+    void positionerMouseDown(QMouseEvent* event);
+    void positionerMouseMove(QMouseEvent* event);
+    void positionerMouseUp(QMouseEvent* event);
+    /// A press on the surface outside every button (Form_MouseDown).
+    void surfaceMouseDown(QMouseEvent* event);
+
+protected:
+    virtual void pButtons_MouseDown(int index, QMouseEvent* event);
+    virtual void pButtons_MouseMove(int index, QMouseEvent* event);
+    virtual void pButtons_MouseUp(int index, QMouseEvent* event);
+    virtual void pButtons_DblClick(int index, QMouseEvent* event);
+    /// A picture changed size: painted again unless NoRedrawOnResize is set.
+    virtual void pButtons_Resize(int index);
+    virtual void picSizer_MouseDown(int handle, QMouseEvent* event);
+    virtual void picSizer_MouseMove(int handle, QMouseEvent* event);
+    virtual void picSizer_MouseUp(int handle, QMouseEvent* event);
+    virtual void picLabelPositioner_MouseDown(QMouseEvent* event);
+    virtual void picLabelPositioner_MouseMove(QMouseEvent* event);
+    virtual void picLabelPositioner_MouseUp(QMouseEvent* event);
+    virtual void Form_MouseDown(QMouseEvent* event);
+
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildWindow();
+    /// Paints button `index` into its picture: DrawPix, DrawLabel, DrawBorder and the
+    /// multi-selection marker.
+    void paintPicture(int index);
+    void resizeSurface();
+
+    ProjectModel& m_model;
+    ButtonList& m_list;
+    UserInterface* m_ui;
+    ImageCache m_images;
+
+    QScrollArea* m_scroll = nullptr;
+    QWidget* m_surface = nullptr;
+    AppletArea* m_area = nullptr;
+    std::vector<QPointer<ButtonPicture>> m_pictures; ///< picture i at [i - 1]
+    std::array<SizerHandle*, 4> m_sizers{};
+    LabelPositioner* m_positioner = nullptr;
+    QPushButton* m_btnAddBtn = nullptr;
+    QPushButton* m_btnDuplicate = nullptr;
+    QPushButton* m_btnRemove = nullptr;
+    QPushButton* m_btnViewHtml = nullptr;
+    QCheckBox* m_chkNoBackGround = nullptr;
+
+    bool m_noRedrawOnResize = false;
+    bool m_forceUnload = false;
+    bool m_noBackGround = false;
+    int m_paintCount = 0;
+};
+
+} // namespace orvelin
