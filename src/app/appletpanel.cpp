@@ -225,8 +225,4 @@ void AppletPanel::showApplet(const ProjectModel& model) {
     }
 }
 
-void AppletPanel::setOffsetAvailable(bool available) {
-    m_offset->setEnabled(available);
-}
-
 } // namespace orvelin

@@ -32,8 +32,6 @@ public:
     /// Fills the controls and the program marks from the model; the caller has set
     /// Updating.
     void showApplet(const ProjectModel& model);
-    /// Whether the offset command can open its dialog.
-    void setOffsetAvailable(bool available);
 
     /// The program kind ("AppletProgramStart", ...) and title of a moment.
     static const char* ProgramKind(AppletMoment moment);

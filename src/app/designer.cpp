@@ -8,7 +8,11 @@
 #include "windowgeometry.h"
 
 #include <QCoreApplication>
+#include <QLayout>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <algorithm>
 
 namespace orvelin {
 
@@ -68,11 +72,28 @@ void Designer::placeWindows() {
     RestoreWindowGeometry(*m_design, m_settings, kDesignForm);
 }
 
+void Designer::fitDesignWindow() {
+    auto* scroll = m_design->findChild<QScrollArea*>();
+    if (scroll == nullptr || m_design->layout() == nullptr)
+        return;
+    m_design->layout()->activate();
+    const QSize missing = m_design->surface()->size() - scroll->viewport()->size();
+    const QRect screen = m_design->screen()->availableGeometry();
+    const int width =
+        std::min(m_design->width() + std::max(0, missing.width()), screen.width() - 80);
+    const int height = std::min(m_design->height() + missing.height(), screen.height() / 2);
+    m_design->resize(width, std::max(height, m_design->minimumSizeHint().height()));
+}
+
 StartupResult Designer::start(const QString& commandLine) {
     placeWindows();
     m_main->show();
     m_design->show();
-    return m_main->editor().Startup(commandLine.toStdString());
+    const StartupResult result = m_main->editor().Startup(commandLine.toStdString());
+    // Until the user sizes it, the design window is as large as the applet it shows.
+    if (m_settings.StoredGeometry(kDesignForm.toStdString()).width == 0)
+        fitDesignWindow();
+    return result;
 }
 
 } // namespace orvelin

@@ -42,6 +42,8 @@ public:
 private:
     void connectWindows();
     void placeWindows();
+    /// Sizes the design window to show the whole applet, within the screen.
+    void fitDesignWindow();
 
     ProjectModel m_model;
     ButtonList m_list;

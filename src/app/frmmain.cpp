@@ -3,6 +3,7 @@
 #include "appletpanel.h"
 #include "buttonlistbinding.h"
 #include "frmadvanced.h"
+#include "frmbgoffset.h"
 #include "frmmultilineeditor.h"
 #include "frmsetaction.h"
 #include "mainmenus.h"
@@ -38,7 +39,7 @@ QToolButton* ListCommand(const QString& name, const QString& text, const QString
 FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
                  DesignView& design, Shell& shell, QWidget* parent)
     : QMainWindow(parent), m_model(model), m_list(list), m_ui(ui), m_settings(settings),
-      m_editor(model, list, ui, settings, design, shell, *this) {
+      m_design(design), m_editor(model, list, ui, settings, design, shell, *this) {
     setObjectName(kFormName);
     m_menus = new MainMenus(*this, m_editor);
 
@@ -61,15 +62,11 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
         openActionEditor(QString::fromStdString(m_editor.ActionProgramKind()), title);
     });
     connect(m_applet, &AppletPanel::actionRequested, this, &FrmMain::openActionEditor);
-    connect(m_applet, &AppletPanel::offsetRequested, this, [this] {
-        if (m_offsetDialog)
-            m_offsetDialog();
-    });
+    connect(m_applet, &AppletPanel::offsetRequested, this, &FrmMain::openOffset);
     connect(m_properties, &PropertyPanel::labelEditorRequested, this, &FrmMain::openLabelEditor);
     connect(m_menus, &MainMenus::advancedRequested, this, &FrmMain::openAdvanced);
     // The windows that are not part of the designer yet leave their commands off.
     m_menus->htmlAction()->setEnabled(false);
-    m_applet->setOffsetAvailable(false);
 }
 
 FrmMain::~FrmMain() = default;
@@ -107,11 +104,6 @@ QWidget* FrmMain::buildButtonColumn() {
     return column;
 }
 
-void FrmMain::setOffsetDialogOpener(std::function<void()> opener) {
-    m_offsetDialog = std::move(opener);
-    m_applet->setOffsetAvailable(static_cast<bool>(m_offsetDialog));
-}
-
 void FrmMain::openActionEditor(const QString& kind, const QString& title) {
     std::vector<bool> selected(static_cast<std::size_t>(m_list.count()));
     for (int i = 1; i <= m_list.count(); ++i)
@@ -137,6 +129,11 @@ void FrmMain::openAdvanced() {
             [this](bool on) { m_menus->setAutoTileChecked(on); });
     connect(&dialog, &FrmAdvanced::defaultsRestored, this,
             [this] { m_menus->setAutoTileChecked(m_settings.flag(SettingKey::AutoTile)); });
+    dialog.exec();
+}
+
+void FrmMain::openOffset() {
+    FrmBgOffset dialog(m_model, &m_design, this);
     dialog.exec();
 }
 

@@ -5,7 +5,6 @@
 
 #include <QMainWindow>
 #include <QPointer>
-#include <functional>
 
 class QListWidget;
 
@@ -33,9 +32,6 @@ public:
 
     Editor& editor() { return m_editor; }
     MainMenus& menus() { return *m_menus; }
-
-    /// Opens the background offset dialog; the offset command is offered once set.
-    void setOffsetDialogOpener(std::function<void()> opener);
 
     // EditorView
     void ShowProp(int index, const std::string& caption) override;
@@ -66,12 +62,14 @@ private:
     void openActionEditor(const QString& kind, const QString& title);
     void openLabelEditor();
     void openAdvanced();
+    void openOffset();
     void showAbout();
 
     ProjectModel& m_model;
     ButtonList& m_list;
     UserInterface& m_ui;
     Settings& m_settings;
+    DesignView& m_design;
     Editor m_editor;
     QListWidget* m_buttons = nullptr;
     ButtonListBinding* m_binding = nullptr;
@@ -79,7 +77,6 @@ private:
     AppletPanel* m_applet = nullptr;
     MainMenus* m_menus = nullptr;
     QPointer<FrmMultiLineEditor> m_labelEditor;
-    std::function<void()> m_offsetDialog;
     bool m_quitting = false;
 };
 

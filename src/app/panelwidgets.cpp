@@ -45,8 +45,12 @@ QGroupBox* Group(const QString& title, QWidget* parent) {
 }
 
 void SetText(QLineEdit* edit, const QString& text) {
-    if (edit->text() != text)
-        edit->setText(text);
+    if (edit->text() == text)
+        return;
+    edit->setText(text);
+    // A long path shows its beginning, unless the user is typing in the field.
+    if (!edit->hasFocus())
+        edit->setCursorPosition(0);
 }
 
 void SetText(QComboBox* combo, const QString& text) {

@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <cstdio>
+#include <cstdlib>
 
 namespace orvelin {
 
@@ -105,9 +106,12 @@ void StartupProbe::applyEnvironment() {
         QTimer::singleShot(kExposeTimeoutMs, this, [this] {
             if (m_idleSent)
                 return;
-            std::fprintf(stderr, "orvelin: the windows did not appear within %d ms\n",
+            // Start-up may be stuck in a modal dialog's own event loop, which an
+            // orderly exit would not leave: end the process outright.
+            std::fprintf(stderr, "orvelin: the windows did not become idle within %d ms\n",
                          kExposeTimeoutMs);
-            QCoreApplication::exit(3);
+            std::fflush(stderr);
+            std::_Exit(3);
         });
     }
 }

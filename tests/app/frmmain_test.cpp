@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace orvelin;
@@ -103,6 +104,22 @@ TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromTheCommandLine) {
     EXPECT_EQ(recent->text().toStdString(), kExample);
     EXPECT_FALSE(w.action("mnuFile2")->isVisible());
     EXPECT_EQ(w.field("txtAppletWidth")->text().toInt(), w.model.AppletWidth);
+}
+
+TEST(MainWindow, AnOpenedProjectReachesTheDesignSurfaceAppletFirst) {
+    MainWindow w(kExample);
+    // After the start-up button is cleared away, the surface must learn the applet's
+    // size, background and folder before the project's buttons come.
+    const auto& calls = w.design.calls;
+    const auto cleared = std::find(calls.begin(), calls.end(), "ClearButtons");
+    const auto applet = std::find(cleared, calls.end(), "AppletChanged");
+    ASSERT_NE(applet, calls.end());
+    EXPECT_EQ(std::find(cleared, applet, "LoadButton 1"), applet);
+    EXPECT_NE(std::find(applet, calls.end(), "LoadButton 1"), calls.end());
+
+    w.design.clear();
+    w.action("mnuNew")->trigger(); // the background image goes with the old project
+    EXPECT_EQ(w.design.count("AppletChanged"), 1);
 }
 
 TEST(MainWindow, RecentEntryShowsAnAmpersandInThePathAsItself) {
