@@ -99,6 +99,8 @@ void Editor::New() {
     m_list.clear();
     m_design.ClearButtons();
     m_design.HideMarks();
+    // The background image is gone.
+    m_design.AppletChanged();
     m_view.ShowButtonList();
     SetMainParams();
     m_view.CloseLabelEditor();
@@ -369,7 +371,9 @@ void Editor::ClearProject() {
 
 void Editor::ShowLoadedProject() {
     // The readers fill the model only; the list, the surface and the panel follow here,
-    // for a partly read file as well (the buttons read so far stay).
+    // for a partly read file as well (the buttons read so far stay). The surface takes
+    // the applet's size, background and project folder before its buttons come.
+    m_design.AppletChanged();
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         m_list.append();
         m_design.LoadButton(i);
