@@ -5,6 +5,7 @@
 #include "textfile.h"
 #include "texthelpers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string>
 
@@ -16,8 +17,8 @@ constexpr char kDq = '"';
 
 /// Every occurrence, left to right, in one pass: an applet name that itself holds
 /// "AppletName" must not be expanded again.
-std::string replaceOnce(std::string_view text, std::string_view search,
-                        std::string_view replacement) {
+std::string replaceInOnePass(std::string_view text, std::string_view search,
+                             std::string_view replacement) {
     std::string out;
     out.reserve(text.size());
     std::size_t start = 0;
@@ -44,6 +45,11 @@ std::string_view dropLastCharacters(std::string_view text, int count) {
 
 std::string fileNameField(std::string_view path) {
     return EncodeLabel(BareFileName(path));
+}
+
+/// The last button to write: ButtonCount, kept inside the button table.
+int lastButton(const ProjectModel& model) {
+    return std::min<int>(model.ButtonCount, kButtonSlots - 1);
 }
 
 void appendLine(std::string& out, std::string_view line) {
@@ -170,7 +176,7 @@ void SetAppletNameFromBox(ProjectModel& model, std::string_view typed) {
 }
 
 bool UsesJavaScript(const ProjectModel& model) {
-    for (int i = 1; i <= model.ButtonCount; ++i) {
+    for (int i = 1; i <= lastButton(model); ++i) {
         if (StartsWith(ToLowerAscii(model.Button(i).URL), "javascript:"))
             return true;
     }
@@ -189,7 +195,7 @@ std::string JSCallerFromFile(const std::string& iniPath, std::string_view applet
             break;
         if (started) {
             block.append(kCrLf);
-            block.append(replaceOnce(line, "AppletName", appletName));
+            block.append(replaceInOnePass(line, "AppletName", appletName));
         }
         // Tested after copying, so the start marker line itself never reaches the page.
         if (upper == "[JSCALLER]")
@@ -257,7 +263,7 @@ GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
     appendAppletValue(out, model);
     closeParam(out);
 
-    for (int i = 1; i <= model.ButtonCount; ++i) {
+    for (int i = 1; i <= lastButton(model); ++i) {
         openParam(out, std::to_string(i));
         appendButtonValue(out, model.Button(i));
         closeParam(out);
