@@ -1,5 +1,7 @@
 #include "designer.h"
 
+#include "designinteraction.h"
+#include "editorsurfacelink.h"
 #include "frmdesign.h"
 #include "frmmain.h"
 #include "globalini.h"
@@ -34,6 +36,8 @@ Designer::~Designer() = default;
 
 void Designer::connectWindows() {
     Editor& editor = m_main->editor();
+    m_surfaceLink = std::make_unique<EditorSurfaceLink>(editor, *m_main);
+    m_interaction = std::make_unique<DesignInteraction>(*m_design, m_model, m_list, *m_surfaceLink);
     connect(m_design.get(), &FrmDesign::btnAddBtnClicked, this, [&editor] { editor.AddButton(); });
     connect(m_design.get(), &FrmDesign::btnDuplicateClicked, this,
             [&editor] { editor.DuplicateButton(); });

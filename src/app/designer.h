@@ -14,6 +14,8 @@
 
 namespace orvelin {
 
+class DesignInteraction;
+class EditorSurfaceLink;
 class FrmDesign;
 class FrmMain;
 
@@ -54,6 +56,9 @@ private:
     // The main window's editor refers to the design window: it goes first.
     std::unique_ptr<FrmDesign> m_design;
     std::unique_ptr<FrmMain> m_main;
+    // The mouse on the design window; it refers to both windows, so it goes before them.
+    std::unique_ptr<EditorSurfaceLink> m_surfaceLink;
+    std::unique_ptr<DesignInteraction> m_interaction;
 };
 
 } // namespace orvelin

@@ -1,0 +1,266 @@
+#include "designinteraction.h"
+
+#include "buttonpicture.h"
+#include "frmdesign.h"
+#include "labelpositioner.h"
+#include "sizerhandle.h"
+#include "surfaceeditorlink.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QShortcut>
+
+namespace orvelin {
+
+namespace {
+
+MouseButton ButtonOf(const QMouseEvent* event) {
+    switch (event->button()) {
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    default:
+        return MouseButton::Middle;
+    }
+}
+
+bool CtrlHeld(const QMouseEvent* event) {
+    return event->modifiers().testFlag(Qt::ControlModifier);
+}
+
+} // namespace
+
+DesignInteraction::DesignInteraction(FrmDesign& design, ProjectModel& model, ButtonList& list,
+                                     SurfaceEditorLink& editor, QObject* parent)
+    : QObject(parent), m_design(design), m_model(model), m_list(list), m_editor(editor) {
+    buildMenu();
+    bindKeys();
+    connect(&design, &FrmDesign::buttonMouseDown, this, &DesignInteraction::pButtons_MouseDown);
+    connect(&design, &FrmDesign::buttonMouseMove, this, &DesignInteraction::pButtons_MouseMove);
+    connect(&design, &FrmDesign::buttonMouseUp, this, &DesignInteraction::pButtons_MouseUp);
+    connect(&design, &FrmDesign::sizerMouseDown, this, &DesignInteraction::picSizer_MouseDown);
+    connect(&design, &FrmDesign::sizerMouseMove, this, &DesignInteraction::picSizer_MouseMove);
+    connect(&design, &FrmDesign::sizerMouseUp, this, &DesignInteraction::picSizer_MouseUp);
+    connect(&design, &FrmDesign::positionerMouseDown, this,
+            &DesignInteraction::picLabelPositioner_MouseDown);
+    connect(&design, &FrmDesign::positionerMouseMove, this,
+            &DesignInteraction::picLabelPositioner_MouseMove);
+    connect(&design, &FrmDesign::positionerMouseUp, this,
+            &DesignInteraction::picLabelPositioner_MouseUp);
+    connect(&design, &FrmDesign::surfaceMouseDown, this, &DesignInteraction::Form_MouseDown);
+}
+
+DesignInteraction::~DesignInteraction() = default;
+
+void DesignInteraction::buildMenu() {
+    m_mnuMove = std::make_unique<QMenu>();
+    m_mnuMove->setObjectName(QStringLiteral("mnuMove"));
+    m_mnuBringToFront = m_mnuMove->addAction(QStringLiteral("bring to front"));
+    m_mnuBringToFront->setObjectName(QStringLiteral("mnuBringToFront"));
+    m_mnuSendBack = m_mnuMove->addAction(QStringLiteral("send back"));
+    m_mnuSendBack->setObjectName(QStringLiteral("mnuSendBack"));
+    connect(m_mnuBringToFront, &QAction::triggered, this,
+            &DesignInteraction::mnuBringToFront_Click);
+    connect(m_mnuSendBack, &QAction::triggered, this, &DesignInteraction::mnuSendBack_Click);
+}
+
+void DesignInteraction::bindKeys() {
+    const struct {
+        Qt::Key key;
+        NudgeDirection direction;
+    } arrows[] = {{Qt::Key_Left, NudgeDirection::Left},
+                  {Qt::Key_Right, NudgeDirection::Right},
+                  {Qt::Key_Up, NudgeDirection::Up},
+                  {Qt::Key_Down, NudgeDirection::Down}};
+    for (const auto& arrow : arrows) {
+        for (bool shift : {false, true}) {
+            const QKeySequence keys(shift ? QKeyCombination(Qt::ShiftModifier, arrow.key)
+                                          : QKeyCombination(arrow.key));
+            auto* shortcut = new QShortcut(keys, &m_design);
+            shortcut->setContext(Qt::WindowShortcut);
+            const NudgeDirection direction = arrow.direction;
+            connect(shortcut, &QShortcut::activated, this,
+                    [this, direction, shift] { Nudge(direction, shift); });
+        }
+    }
+}
+
+std::vector<bool> DesignInteraction::markers() const {
+    std::vector<bool> out(static_cast<std::size_t>(m_model.ButtonCount) + 1, false);
+    if (m_list.selectedCount() < 2)
+        return out;
+    for (int i = 1; i <= m_model.ButtonCount; ++i)
+        out[static_cast<std::size_t>(i)] = m_list.isSelected(i);
+    return out;
+}
+
+void DesignInteraction::selectionChanged(const std::vector<bool>& markersBefore, int skip) {
+    m_editor.ShowSelection();
+    const std::vector<bool> now = markers();
+    for (int i = 1; i <= m_model.ButtonCount; ++i) {
+        const auto k = static_cast<std::size_t>(i);
+        const bool before = k < markersBefore.size() && markersBefore[k];
+        if (i != skip && before != now[k])
+            m_design.RedrawButton(i, false, false, true);
+    }
+}
+
+void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
+    const std::vector<bool> before = markers();
+    const unsigned revision = m_list.revision();
+    const QPointF at = event->position();
+    const PressOutcome out = PressOnButton(m_model, m_list, m_drag, index, ButtonOf(event),
+                                           CtrlHeld(event), at.x(), at.y());
+    // The markers of the new group: the selection has already changed, so a repaint of
+    // the earlier current button and of the added one draws them.
+    if (m_list.revision() != revision)
+        selectionChanged(before, out.redrawPressed);
+    if (out.redrawPressed != 0)
+        m_design.RedrawButton(out.redrawPressed, true, false, false);
+    if (out.placeSizer != 0)
+        m_design.MoveSizer(out.placeSizer);
+    if (out.showProp)
+        m_editor.ShowProp(m_model.CurrentButton);
+    m_design.MoveLabelPositioner(m_model.CurrentButton);
+    if (out.openMoveMenu) {
+        m_mnuBringToFront->setEnabled(out.enableBringToFront);
+        m_mnuSendBack->setEnabled(out.enableSendBack);
+        m_mnuMove->popup(event->globalPosition().toPoint());
+    }
+}
+
+void DesignInteraction::showMove(const MoveOutcome& moved, bool repaintTransparent) {
+    if (!moved.moved)
+        return;
+    for (int i : moved.buttons) {
+        ButtonPicture* picture = m_design.pButtons(i);
+        if (!picture)
+            continue;
+        const ButtonRecord& b = m_model.Button(i);
+        picture->move(b.x, b.y);
+        if (repaintTransparent && b.noBackGround == 1)
+            m_design.RedrawButton(i, false, false, true);
+    }
+    const int current = m_model.CurrentButton;
+    m_editor.ShowGeometry(current);
+    m_design.MoveSizer(current);
+    m_design.MoveLabelPositioner(current);
+}
+
+void DesignInteraction::pButtons_MouseMove(int, QMouseEvent* event) {
+    if (!m_drag.dragging)
+        return;
+    const QPointF at = event->position();
+    showMove(DragOnButton(m_model, m_list, m_drag, at.x(), at.y()), false);
+}
+
+void DesignInteraction::pButtons_MouseUp(int index, QMouseEvent*) {
+    const ReleaseOutcome out = ReleaseOnButton(m_model, m_list, m_drag, index);
+    if (out.placeSizer != 0)
+        m_design.MoveSizer(out.placeSizer);
+    if (out.redrawReleased != 0)
+        m_design.RedrawButton(out.redrawReleased, true, false, false);
+    for (int i : out.redrawMovedTransparent)
+        m_design.RedrawButton(i, false, false, false);
+}
+
+void DesignInteraction::Nudge(NudgeDirection direction, bool shift) {
+    if (m_drag.dragging)
+        return; // the pointer owns the buttons until it lets go
+    showMove(NudgeSelection(m_model, m_list, direction, shift), true);
+}
+
+void DesignInteraction::Form_MouseDown(QMouseEvent* event) {
+    const std::vector<bool> before = markers();
+    const unsigned revision = m_list.revision();
+    const int sizerOn = PressOnSurface(m_model, m_list, ButtonOf(event));
+    if (m_list.revision() != revision)
+        selectionChanged(before);
+    if (sizerOn != 0)
+        m_design.MoveSizer(sizerOn);
+}
+
+void DesignInteraction::picSizer_MouseDown(int handle, QMouseEvent* event) {
+    const QPointF at = event->position();
+    PressSizer(m_sizers, handle, at.x(), at.y());
+    if (SizerHandle* sizer = m_design.picSizer(handle))
+        sizer->setTag(QString::fromLatin1(kSizerTagDown));
+}
+
+void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
+    SizerHandle* sizer = m_design.picSizer(handle);
+    if (!sizer)
+        return;
+    // Handles stand on the surface, the records count from the applet area's corner.
+    const QPoint at = sizer->pos() - QPoint(FrmDesign::kMargin, FrmDesign::kMargin);
+    const QPointF pointer = event->position();
+    const ResizeOutcome out = DragSizer(m_model, m_sizers, handle, {at.x(), at.y()}, sizer->width(),
+                                        sizer->height(), pointer.x(), pointer.y());
+    if (!out.changed)
+        return;
+    const int current = m_model.CurrentButton;
+    // A change of size paints the picture through its resize path.
+    if (ButtonPicture* picture = m_design.pButtons(current))
+        picture->setGeometry(out.rect.left, out.rect.top, out.rect.width, out.rect.height);
+    m_design.MoveSizer(current);
+    m_design.MoveLabelPositioner(current);
+}
+
+void DesignInteraction::picSizer_MouseUp(int handle, QMouseEvent*) {
+    const SizerReleaseOutcome out = ReleaseSizer(m_sizers, handle);
+    if (SizerHandle* sizer = m_design.picSizer(handle))
+        sizer->setTag(QString::fromLatin1(kSizerTagUp));
+    if (out.updateTransparentButtons)
+        m_design.UpdateTransparentBtns();
+    if (out.showGeometry)
+        m_editor.ShowGeometry(m_model.CurrentButton);
+}
+
+void DesignInteraction::picLabelPositioner_MouseDown(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    const QPointF at = event->position();
+    PressLabelPositioner(m_positioner, at.x(), at.y());
+}
+
+void DesignInteraction::picLabelPositioner_MouseMove(QMouseEvent* event) {
+    const QPointF at = event->position();
+    const LabelMoveOutcome out = DragLabelPositioner(m_model, m_list, m_positioner, at.x(), at.y());
+    if (out.buttons.empty())
+        return;
+    for (int i : out.buttons)
+        m_design.RedrawButton(i, false, false, true);
+    m_design.MoveLabelPositioner(m_model.CurrentButton);
+    // "Center Text" goes off and the position fields show the new place.
+    m_editor.ShowProp(m_model.CurrentButton);
+}
+
+void DesignInteraction::picLabelPositioner_MouseUp(QMouseEvent*) {
+    ReleaseLabelPositioner(m_positioner);
+}
+
+void DesignInteraction::mnuBringToFront_Click() {
+    const int before = m_model.CurrentButton;
+    const std::vector<bool> markersBefore = markers();
+    if (BringToFront(m_model, m_list) == 0)
+        return;
+    m_design.RedrawButton(before, false, false, false);
+    m_design.RedrawButton(m_model.CurrentButton, true, true, false);
+    selectionChanged(markersBefore, m_model.CurrentButton);
+    m_editor.ShowProp(m_model.CurrentButton);
+}
+
+void DesignInteraction::mnuSendBack_Click() {
+    const int before = m_model.CurrentButton;
+    const std::vector<bool> markersBefore = markers();
+    if (SendBack(m_model, m_list) == 0)
+        return;
+    m_design.RedrawButton(before, false, false, false);
+    m_design.RedrawButton(m_model.CurrentButton, true, true, false);
+    selectionChanged(markersBefore, m_model.CurrentButton);
+    m_editor.ShowProp(m_model.CurrentButton);
+}
+
+} // namespace orvelin

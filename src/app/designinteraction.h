@@ -1,0 +1,79 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "manipulation.h"
+#include "projectmodel.h"
+
+#include <QObject>
+#include <memory>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QMouseEvent;
+
+namespace orvelin {
+
+class FrmDesign;
+class SurfaceEditorLink;
+
+/**
+ * The mouse and keys on the design window: selecting, dragging and resizing buttons,
+ * the label positioner, the stacking menu `mnuMove` and the arrow keys. It listens to
+ * the window's input signals, lets the manipulation rules change the model and the
+ * selection, and then has the window and the main editor show the result.
+ */
+class DesignInteraction : public QObject {
+    Q_OBJECT
+
+public:
+    DesignInteraction(FrmDesign& design, ProjectModel& model, ButtonList& list,
+                      SurfaceEditorLink& editor, QObject* parent = nullptr);
+    ~DesignInteraction() override;
+
+    QMenu* mnuMove() const { return m_mnuMove.get(); }
+    QAction* mnuBringToFront() const { return m_mnuBringToFront; }
+    QAction* mnuSendBack() const { return m_mnuSendBack; }
+
+    const DragState& dragState() const { return m_drag; }
+
+    // The handlers, named after the events they answer.
+    void pButtons_MouseDown(int index, QMouseEvent* event);
+    void pButtons_MouseMove(int index, QMouseEvent* event);
+    void pButtons_MouseUp(int index, QMouseEvent* event);
+    void picSizer_MouseDown(int handle, QMouseEvent* event);
+    void picSizer_MouseMove(int handle, QMouseEvent* event);
+    void picSizer_MouseUp(int handle, QMouseEvent* event);
+    void picLabelPositioner_MouseDown(QMouseEvent* event);
+    void picLabelPositioner_MouseMove(QMouseEvent* event);
+    void picLabelPositioner_MouseUp(QMouseEvent* event);
+    void Form_MouseDown(QMouseEvent* event);
+    void mnuBringToFront_Click();
+    void mnuSendBack_Click();
+    /// An arrow key: the selection moves one pixel, ten with Shift.
+    void Nudge(NudgeDirection direction, bool shift);
+
+private:
+    void buildMenu();
+    void bindKeys();
+    /// Moves the pictures of a drag step or a nudge and shows the new position.
+    void showMove(const MoveOutcome& moved, bool repaintTransparent);
+    /// Which buttons show the multi-selection marker now.
+    std::vector<bool> markers() const;
+    /// After the selection changed: the list shows it, and every button whose marker
+    /// came or went is painted again (except `skip`, which the caller paints).
+    void selectionChanged(const std::vector<bool>& markersBefore, int skip = 0);
+
+    FrmDesign& m_design;
+    ProjectModel& m_model;
+    ButtonList& m_list;
+    SurfaceEditorLink& m_editor;
+    DragState m_drag;
+    SizerState m_sizers;
+    PositionerState m_positioner;
+    std::unique_ptr<QMenu> m_mnuMove; ///< a pop-up of its own, no parent window
+    QAction* m_mnuBringToFront = nullptr;
+    QAction* m_mnuSendBack = nullptr;
+};
+
+} // namespace orvelin

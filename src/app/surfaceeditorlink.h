@@ -1,0 +1,21 @@
+#pragma once
+
+namespace orvelin {
+
+/**
+ * What the design surface's mouse handling asks of the main editor. Every call fills
+ * controls with the model's Updating flag set, so that nothing is written back.
+ */
+class SurfaceEditorLink {
+public:
+    virtual ~SurfaceEditorLink() = default;
+
+    /// ShowProp: the property panel shows button `index` for the current state.
+    virtual void ShowProp(int index) = 0;
+    /// txtX, txtY, txtWidth and txtHeight show the record of button `index`.
+    virtual void ShowGeometry(int index) = 0;
+    /// The button list's selection changed: lstButtons shows it.
+    virtual void ShowSelection() = 0;
+};
+
+} // namespace orvelin
