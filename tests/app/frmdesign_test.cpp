@@ -21,8 +21,10 @@ QApplication& App() {
     static int argc = 1;
     static char name[] = "frmdesign_test";
     static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    // Never destroyed: the test tool's pointer device is its child, and destroying both
+    // among the exit-time statics crashes.
+    static QApplication* app = new QApplication(argc, argv);
+    return *app;
 }
 
 /// A design window over a project of `count` plain buttons side by side.
