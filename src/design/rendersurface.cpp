@@ -38,16 +38,28 @@ QImage RenderSurface(const ProjectModel& model, std::string_view state,
         const ButtonRecord& button = model.Button(index);
         if (button.Width <= 0 || button.Height <= 0)
             continue;
-        const QSize size(button.Width, button.Height);
-        if (picture.size() != size)
-            picture = NewPicture(size);
+        const QRect area(button.x, button.y, button.Width, button.Height);
+        if (button.noBackGround == 0) {
+            // A button with a colour of its own covers its whole picture, so painting it
+            // straight onto the surface, clipped to its rectangle, gives the same pixels.
+            onSurface.save();
+            onSurface.setClipRect(area);
+            onSurface.translate(area.topLeft());
+            painter.PaintButton(onSurface, index);
+            onSurface.restore();
+            continue;
+        }
+        // A transparent one may leave pixels unpainted: its own picture shows what is
+        // under them, as the window's picture does.
+        if (picture.size() != area.size())
+            picture = NewPicture(area.size());
         else
             picture.fill(Qt::transparent);
         {
             QPainter onPicture(&picture);
             painter.PaintButton(onPicture, index);
         }
-        onSurface.drawImage(QPoint(button.x, button.y), picture);
+        onSurface.drawImage(area.topLeft(), picture);
     }
     return surface;
 }
