@@ -273,12 +273,15 @@ QWidget* PropertyPanel::buildFlags() {
     return group;
 }
 
+void PropertyPanel::bindText(QLineEdit* edit, TextSetter setter) {
+    PropertyEditor* properties = &m_properties;
+    connect(edit, &QLineEdit::textChanged, this,
+            [properties, setter](const QString& text) { (properties->*setter)(Std(text)); });
+}
+
 void PropertyPanel::bindTexts() {
     PropertyEditor& p = m_properties;
-    const auto bind = [this](QLineEdit* edit, void (PropertyEditor::*setter)(const std::string&)) {
-        connect(edit, &QLineEdit::textChanged, this,
-                [this, setter](const QString& text) { (m_properties.*setter)(Std(text)); });
-    };
+    const auto bind = [this](QLineEdit* edit, TextSetter setter) { bindText(edit, setter); };
     bind(m_x, &PropertyEditor::SetX);
     bind(m_y, &PropertyEditor::SetY);
     bind(m_width, &PropertyEditor::SetWidth);

@@ -53,6 +53,8 @@ private:
     QWidget* buildImageAndSound();
     QWidget* buildLink();
     QWidget* buildFlags();
+    using TextSetter = void (PropertyEditor::*)(const std::string&);
+    void bindText(QLineEdit* edit, TextSetter setter);
     void bindTexts();
     void bindChoices();
 

@@ -2,6 +2,7 @@
 #include "fakeui.h"
 #include "frmmain.h"
 #include "mainmenus.h"
+#include "testapplication.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,11 +25,7 @@ using orvelin::testing::RecordingDesignView;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "frmmain_test";
-    static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    return orvelin::testing::TestApplication();
 }
 
 const std::string kExample = std::string(ORVELIN_SOURCE_DIR) + "/examples/navbar.orv";

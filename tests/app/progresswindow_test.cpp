@@ -2,6 +2,7 @@
 #include "frmmessage.h"
 #include "qtuserinterface.h"
 #include "startupprobe.h"
+#include "testapplication.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -14,11 +15,7 @@ using namespace orvelin;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "progresswindow_test";
-    static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    return orvelin::testing::TestApplication();
 }
 
 } // namespace
