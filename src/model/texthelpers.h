@@ -21,6 +21,11 @@ std::string EncodeLabel(std::string_view text);
 /// "&nbsp" becomes " ", then "&y01" becomes ";", then "&y02" becomes '"'.
 std::string DecodeLabel(std::string_view text);
 
+/// EncodeLabel(text) and DecodeLabel(text) appended to `out`, which keeps its storage;
+/// `text` must not lie inside `out`.
+void AppendEncodedLabel(std::string& out, std::string_view text);
+void AppendDecodedLabel(std::string& out, std::string_view text);
+
 /**
  * Replaces `search` by `replacement` in whole passes, repeated until a pass
  * leaves the length unchanged. A pass looks at the positions below the length

@@ -169,6 +169,48 @@ TEST(LabelEncoding, MatchesTheThreeReplacesOnRandomTexts) {
     }
 }
 
+TEST(LabelEncoding, LongTextsMatchTheThreeReplacesWhetherBuiltAloneOrAppended) {
+    // Long enough for the word-at-a-time scans, with escapes at every offset and
+    // cut short at every length near the end.
+    std::mt19937 rng(11);
+    for (int round = 0; round < 3000; ++round) {
+        const std::string text = RandomText(rng, "ab |\"&nbspy012;", 150);
+        std::string bars = text;
+        for (char& c : bars)
+            c = c == '|' ? 'I' : c;
+        std::string encoded = bars;
+        LiteralReplaceAll(encoded, " ", "&nbsp");
+        LiteralReplaceAll(encoded, "\"", "&y02");
+        std::string decoded = text;
+        LiteralReplaceAll(decoded, "&nbsp", " ");
+        LiteralReplaceAll(decoded, "&y01", ";");
+        LiteralReplaceAll(decoded, "&y02", "\"");
+        ASSERT_EQ(EncodeLabel(text), encoded) << text;
+        ASSERT_EQ(DecodeLabel(text), decoded) << text;
+
+        // Appending keeps what the string held, with or without room to spare.
+        std::string roomy = "head|";
+        roomy.reserve(2000);
+        AppendEncodedLabel(roomy, text);
+        ASSERT_EQ(roomy, "head|" + encoded) << text;
+        std::string tight = "head|";
+        tight.shrink_to_fit();
+        AppendDecodedLabel(tight, text);
+        ASSERT_EQ(tight, "head|" + decoded) << text;
+    }
+}
+
+TEST(LabelEncoding, TextsWithNothingToReplaceComeBackUnchanged) {
+    const std::string plain(300, 'x');
+    EXPECT_EQ(EncodeLabel(plain), plain);
+    EXPECT_EQ(DecodeLabel(plain), plain);
+    std::string out = "a";
+    AppendDecodedLabel(out, "");
+    AppendEncodedLabel(out, "");
+    EXPECT_EQ(out, "a");
+    EXPECT_EQ(EncodeLabel(std::string(100, ' ')).size(), 500u);
+}
+
 TEST(MakeIdentifier, PrefixesLeadingDigitAndReplacesPunctuation) {
     EXPECT_EQ(MakeIdentifier("3 d-menu.x"), "_3_d_menu_x");
     EXPECT_EQ(MakeIdentifier(" '\"/\\|.;?`@~&!#$%^*()+-=:{}[]"), std::string(29, '_'));
@@ -221,6 +263,33 @@ TEST(ParseWholeNumber, AcceptsBlanksSignFractionAndExponent) {
     EXPECT_EQ(ParseWholeNumber("25E-1", 0, 100).value, 2);
     EXPECT_EQ(ParseWholeNumber("000000000000000000000000012", 0, 100).value, 12);
     EXPECT_EQ(ParseWholeNumber("-0", 0, 100).error, NumberError::None);
+}
+
+TEST(ParseWholeNumber, PlainDigitsReadAsTheSameNumberWithAFraction) {
+    // "digits" and "digits.0" must agree: the second form is always read the long way.
+    std::mt19937 rng(3);
+    std::uniform_int_distribution<int> length(1, 21);
+    std::uniform_int_distribution<int> digit(0, 9);
+    std::uniform_int_distribution<int> sign(0, 2);
+    const std::int64_t bounds[] = {0, 1, 5, 32767, -32768, 2147483647, INT64_MAX, INT64_MIN};
+    std::uniform_int_distribution<std::size_t> bound(0, std::size(bounds) - 1);
+    for (int round = 0; round < 20000; ++round) {
+        std::string text = sign(rng) == 0 ? "-" : sign(rng) == 0 ? "+" : "";
+        const int digits = length(rng);
+        for (int k = 0; k < digits; ++k)
+            text += static_cast<char>('0' + (k == 0 && round % 2 ? 0 : digit(rng)));
+        std::int64_t min = bounds[bound(rng)];
+        std::int64_t max = bounds[bound(rng)];
+        if (min > max)
+            std::swap(min, max);
+        const WholeNumber direct = ParseWholeNumber(text, min, max);
+        const WholeNumber general = ParseWholeNumber(text + ".0", min, max);
+        ASSERT_EQ(direct.error, general.error) << text << " in " << min << ".." << max;
+        ASSERT_EQ(direct.value, general.value) << text << " in " << min << ".." << max;
+    }
+    EXPECT_EQ(ParseWholeNumber("0", 5, 10).error, NumberError::None) << "zero fits any range";
+    EXPECT_EQ(ParseWholeNumber("+", -100, 100).error, NumberError::TypeMismatch);
+    EXPECT_EQ(ParseWholeNumber("999999999999999999", 0, INT64_MAX).value, 999999999999999999);
 }
 
 TEST(ParseWholeNumber, RoundsHalvesToEven) {
