@@ -2,6 +2,8 @@
 
 #include "texthelpers.h"
 
+#include <algorithm>
+#include <charconv>
 #include <limits>
 #include <variant>
 
@@ -268,14 +270,70 @@ const std::array<ButtonField, kButtonFieldCount>& ButtonFields() {
     return fields;
 }
 
-std::string FieldText(const ButtonRecord& record, int pos) {
+namespace {
+
+void appendNumber(std::string& out, std::int32_t value) {
+    char digits[16];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, value);
+    out.append(digits, static_cast<std::size_t>(end.ptr - digits));
+}
+
+/// Field `pos` as stored text appended to `out`; with `encodeLabels` a label field
+/// goes through the label encoding.
+void appendFieldText(std::string& out, const ButtonRecord& record, int pos, bool encodeLabels) {
     // fieldRef only hands out pointers; reading through them does not modify.
     const FieldRef ref = fieldRef(const_cast<ButtonRecord&>(record), pos);
-    if (auto p = std::get_if<std::string*>(&ref))
-        return **p;
-    if (auto p = std::get_if<std::int16_t*>(&ref))
-        return std::to_string(**p);
-    return std::to_string(*std::get<std::int32_t*>(ref));
+    if (auto p = std::get_if<std::string*>(&ref)) {
+        if (encodeLabels && ButtonFields()[static_cast<std::size_t>(pos)].kind == FieldKind::Label)
+            AppendEncodedLabel(out, **p);
+        else
+            out += **p;
+    } else if (auto p16 = std::get_if<std::int16_t*>(&ref)) {
+        appendNumber(out, **p16);
+    } else {
+        appendNumber(out, *std::get<std::int32_t*>(ref));
+    }
+}
+
+WholeNumber parseNumber(std::string_view text, bool wide) {
+    return wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
+                                   std::numeric_limits<std::int32_t>::max())
+                : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
+                                   std::numeric_limits<std::int16_t>::max());
+}
+
+/// Sets an integer field from its text; false, with the cause, when the text holds
+/// no number in the field's range (the field is then left as it was).
+bool storeNumber(const FieldRef& ref, std::string_view text, NumberError& error) {
+    const bool wide = std::holds_alternative<std::int32_t*>(ref);
+    const WholeNumber n = parseNumber(text, wide);
+    error = n.error;
+    if (n.error != NumberError::None)
+        return false;
+    if (wide)
+        *std::get<std::int32_t*>(ref) = static_cast<std::int32_t>(n.value);
+    else
+        *std::get<std::int16_t*>(ref) = static_cast<std::int16_t>(n.value);
+    return true;
+}
+
+/// The next "|" at or after `start`, or npos. Most fields are a few characters long:
+/// looking at them directly is quicker than a search call.
+std::size_t nextBar(std::string_view line, std::size_t start) {
+    const std::size_t near = std::min(line.size(), start + 8);
+    for (std::size_t i = start; i < near; ++i) {
+        if (line[i] == '|')
+            return i;
+    }
+    return line.find('|', near);
+}
+
+} // namespace
+
+std::string FieldText(const ButtonRecord& record, int pos) {
+    std::string out;
+    appendFieldText(out, record, pos, false);
+    return out;
 }
 
 FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
@@ -284,52 +342,55 @@ FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
         (*p)->assign(text);
         return {};
     }
-    const bool wide = std::holds_alternative<std::int32_t*>(ref);
-    const WholeNumber n = wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
-                                                  std::numeric_limits<std::int32_t>::max())
-                               : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
-                                                  std::numeric_limits<std::int16_t>::max());
-    if (n.error != NumberError::None)
-        return {pos, NumberErrorText(n.error)};
-    if (wide)
-        *std::get<std::int32_t*>(ref) = static_cast<std::int32_t>(n.value);
-    else
-        *std::get<std::int16_t*>(ref) = static_cast<std::int16_t>(n.value);
+    NumberError error = NumberError::None;
+    if (!storeNumber(ref, text, error))
+        return {pos, NumberErrorText(error)};
     return {};
 }
 
 std::string SerializeButton(const ButtonRecord& record) {
     std::string out;
     out.reserve(256);
-    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
-        if (ButtonFields()[pos].kind == FieldKind::Label)
-            out += EncodeLabel(FieldText(record, pos));
-        else
-            out += FieldText(record, pos);
-        out += '|';
-    }
+    AppendSerializedButton(out, record);
     return out;
 }
 
+void AppendSerializedButton(std::string& out, const ButtonRecord& record) {
+    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
+        appendFieldText(out, record, pos, true);
+        out += '|';
+    }
+}
+
 FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPosition) {
-    int pos = 0;
+    const auto& fields = ButtonFields();
     std::size_t start = 0;
-    while (pos < kButtonFieldCount) {
-        const std::size_t bar = line.find('|', start);
+    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
+        const std::size_t bar = nextBar(line, start);
         if (bar == std::string_view::npos)
             break; // text after the last "|" is ignored; later fields stay as they were
         const std::string_view field = line.substr(start, bar - start);
         start = bar + 1;
+        NumberError error = NumberError::None;
         if (!applyPosition && pos < 2) {
-            ButtonRecord scratch;
-            if (FieldError e = SetFieldText(scratch, pos, field))
-                return e;
-        } else if (ButtonFields()[pos].kind == FieldKind::Label) {
-            SetFieldText(record, pos, DecodeLabel(field));
-        } else if (FieldError e = SetFieldText(record, pos, field)) {
-            return e;
+            // Checked as a position would be, then dropped.
+            error = parseNumber(field, false).error;
+            if (error != NumberError::None)
+                return {pos, NumberErrorText(error)};
+            continue;
         }
-        ++pos;
+        const FieldRef ref = fieldRef(record, pos);
+        if (auto p = std::get_if<std::string*>(&ref)) {
+            // Cleared and appended to rather than assigned: the strings keep their
+            // storage from one load to the next, and appending skips the overlap checks.
+            (*p)->clear();
+            if (fields[static_cast<std::size_t>(pos)].kind == FieldKind::Label)
+                AppendDecodedLabel(**p, field);
+            else
+                (*p)->append(field);
+        } else if (!storeNumber(ref, field, error)) {
+            return {pos, NumberErrorText(error)};
+        }
     }
     return {};
 }

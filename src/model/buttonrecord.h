@@ -121,6 +121,9 @@ FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text);
 /// The 50 fields each followed by "|"; labels through EncodeLabel.
 std::string SerializeButton(const ButtonRecord& record);
 
+/// SerializeButton(record) appended to `out`.
+void AppendSerializedButton(std::string& out, const ButtonRecord& record);
+
 /**
  * Fills `record` from a pipe-separated line: every "|" closes a field, text after the
  * last "|" is ignored, missing fields stay as they were. Labels go through DecodeLabel.

@@ -180,6 +180,23 @@ TEST(ButtonRecord, LabelsAreEncodedOnWriteAndDecodedOnRead) {
     EXPECT_EQ(back.LabelOVER, " ");
 }
 
+TEST(ButtonRecord, ReadingOverAButtonReplacesEveryTextItHeld) {
+    // A record read again keeps no trace of its longer earlier texts.
+    ButtonRecord record = Unusual();
+    record.LabelUP = std::string(500, 'x');
+    record.ProgramUP = std::string(500, 'y');
+    ASSERT_FALSE(ParseButton(kFactoryDefaultButton, record));
+    EXPECT_EQ(record, ButtonRecord());
+    EXPECT_EQ(SerializeButton(record), kFactoryDefaultButton);
+}
+
+TEST(ButtonRecord, AppendedLineFollowsWhatWasThere) {
+    const ButtonRecord record = Unusual();
+    std::string text = "before\r\n";
+    AppendSerializedButton(text, record);
+    EXPECT_EQ(text, "before\r\n" + SerializeButton(record));
+}
+
 TEST(ButtonRecord, PositionCanBeCheckedWithoutBeingApplied) {
     ButtonRecord record;
     record.x = 11;
