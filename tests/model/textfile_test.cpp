@@ -76,6 +76,20 @@ TEST_F(TextFileTest, ReadingDropsAByteOrderMarkAndConvertsOldText) {
     EXPECT_EQ(ReadTextFile(file("old.txt")), "naïve");
 }
 
+TEST_F(TextFileTest, ReadingTakesTheWholeFileWhateverItsSizeClaims) {
+    std::string big;
+    for (int line = 0; big.size() < 100000; ++line)
+        big += "line " + std::to_string(line) + " \xC3\xA9\r\n";
+    std::ofstream(file("big.txt"), std::ios::binary) << big;
+    EXPECT_EQ(ReadTextFile(file("big.txt")), big);
+    // The kernel's status files call themselves empty and still hold text.
+    const std::optional<std::string> status = ReadTextFile("/proc/self/status");
+    ASSERT_TRUE(status);
+    EXPECT_NE(status->find("Name:"), std::string::npos);
+    std::ofstream(file("empty.txt"), std::ios::binary).flush();
+    EXPECT_EQ(ReadTextFile(file("empty.txt")), "");
+}
+
 TEST_F(TextFileTest, ReadingSomethingThatIsNoFileFails) {
     TextFileError error;
     EXPECT_FALSE(ReadTextFile(file("missing.txt"), &error));
