@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <limits>
 #include <optional>
 #include <string_view>
@@ -113,9 +114,19 @@ std::optional<LoadError> parseAppletLine(std::string_view line, ProjectModel& mo
     return std::nullopt;
 }
 
-std::string progressText(Msg what, int i, int n) {
+void appendNumber(std::string& out, std::int32_t value) {
+    char digits[16];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, value);
+    out.append(digits, static_cast<std::size_t>(end.ptr - digits));
+}
+
+/// "... button i of n" into `text`, which keeps its storage from one button to the next.
+void setProgressText(std::string& text, Msg what, int i, int n) {
     const MessageTable& msg = Messages();
-    return msg[what] + std::to_string(i) + msg[Msg::OfWord] + std::to_string(n);
+    text.assign(msg[what]);
+    appendNumber(text, i);
+    text += msg[Msg::OfWord];
+    appendNumber(text, n);
 }
 
 int percentOf(int i, int n) {
@@ -169,12 +180,13 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
         return error;
 
     const int count = model.ButtonCount;
+    std::string progress;
     for (int i = 1; i <= count; ++i) {
         const std::size_t index = static_cast<std::size_t>(i) + 1;
         if (index >= lines.size() || !complete(index, kButtonFieldCount))
             return inputPastEnd(i);
-        ui.showProgress(Messages()[Msg::PleaseWait], progressText(Msg::LoadingButton, i, count),
-                        percentOf(i, count));
+        setProgressText(progress, Msg::LoadingButton, i, count);
+        ui.showProgress(Messages()[Msg::PleaseWait], progress, percentOf(i, count));
         if (FieldError e = ParseButton(lines[index], model.Button(i)))
             return LoadError{i, e.description};
     }
@@ -238,9 +250,10 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
         return error;
 
     const int count = model.ButtonCount;
+    std::string progress;
     for (int i = 1; i <= count; ++i) {
-        ui.showProgress(Messages()[Msg::PleaseWait], progressText(Msg::LoadingButton, i, count),
-                        percentOf(i, count));
+        setProgressText(progress, Msg::LoadingButton, i, count);
+        ui.showProgress(Messages()[Msg::PleaseWait], progress, percentOf(i, count));
         ButtonRecord& record = model.Button(i);
         const std::string suffix = "_" + std::to_string(i);
         for (const LegacyKey& key : kLegacyButtonKeys) {
@@ -275,6 +288,22 @@ void startLoad(ProjectModel& model, UserInterface& ui) {
     model.ProjectFileName.clear();
 }
 
+/// Room for the saved text, so that it is built without moving: the texts of the
+/// buttons (labels twice over, as their blanks grow when encoded) and their numbers.
+std::size_t expectedTextSize(const ProjectModel& model, int count) {
+    std::size_t size = 1024 + model.BackImg.size() + model.AppletProgramOVER.size() +
+                       model.AppletProgramDOWN.size() + model.AppletProgramOUT.size() +
+                       model.AppletProgramStart.size() + model.AppletName.size();
+    for (int i = 1; i <= count; ++i) {
+        const ButtonRecord& r = model.Button(i);
+        size += 400 + r.URL.size() + r.Status.size() + r.Target.size();
+        for (const ButtonState s : {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN})
+            size += 2 * r.Label(s).size() + r.Image(s).size() + r.Font(s).size() +
+                    r.Sound(s).size() + r.Program(s).size();
+    }
+    return size;
+}
+
 } // namespace
 
 std::string ProjectHeader() {
@@ -284,7 +313,7 @@ std::string ProjectHeader() {
 std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
     const int count = std::clamp<int>(model.ButtonCount, 0, kLastButtonSlot);
     std::string text;
-    text.reserve(512 + static_cast<std::size_t>(count) * 512);
+    text.reserve(expectedTextSize(model, count));
     text += ProjectHeader();
     text += kCrLf;
     // appletField only hands out pointers; reading through them does not modify.
@@ -294,17 +323,19 @@ std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
         if (auto s = std::get_if<std::string*>(&ref))
             text += **s;
         else if (auto i16 = std::get_if<std::int16_t*>(&ref))
-            text += std::to_string(**i16);
+            appendNumber(text, **i16);
         else
-            text += std::to_string(*std::get<std::int32_t*>(ref));
+            appendNumber(text, *std::get<std::int32_t*>(ref));
         text += '|';
     }
     text += kCrLf;
+    std::string progressLine;
     for (int i = 1; i <= count; ++i) {
-        if (progress)
-            progress->showProgress(Messages()[Msg::PleaseWait],
-                                   progressText(Msg::SavingButton, i, count), percentOf(i, count));
-        text += SerializeButton(model.Button(i));
+        if (progress) {
+            setProgressText(progressLine, Msg::SavingButton, i, count);
+            progress->showProgress(Messages()[Msg::PleaseWait], progressLine, percentOf(i, count));
+        }
+        AppendSerializedButton(text, model.Button(i));
         text += kCrLf;
     }
     return text;
