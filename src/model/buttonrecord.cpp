@@ -295,11 +295,35 @@ void appendFieldText(std::string& out, const ButtonRecord& record, int pos, bool
     }
 }
 
+/// Up to nine digits with at most a minus, as the writer puts every number: read here,
+/// where the general reading would cost more than the rest of the field.
+bool plainNumber(std::string_view text, std::int64_t& value) {
+    const bool negative = !text.empty() && text.front() == '-';
+    const std::size_t first = negative ? 1 : 0;
+    if (text.size() == first || text.size() - first > 9)
+        return false;
+    std::int64_t magnitude = 0;
+    for (std::size_t p = first; p < text.size(); ++p) {
+        const unsigned digit = static_cast<unsigned char>(text[p]) - unsigned{'0'};
+        if (digit > 9)
+            return false;
+        magnitude = magnitude * 10 + digit;
+    }
+    value = negative ? -magnitude : magnitude;
+    return true;
+}
+
 WholeNumber parseNumber(std::string_view text, bool wide) {
-    return wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
-                                   std::numeric_limits<std::int32_t>::max())
-                : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
-                                   std::numeric_limits<std::int16_t>::max());
+    // A plain number in range reads as itself; anything else (out of range included)
+    // goes the general way, which gives the error.
+    const std::int64_t min =
+        wide ? std::numeric_limits<std::int32_t>::min() : std::numeric_limits<std::int16_t>::min();
+    const std::int64_t max =
+        wide ? std::numeric_limits<std::int32_t>::max() : std::numeric_limits<std::int16_t>::max();
+    std::int64_t value = 0;
+    if (plainNumber(text, value) && value >= min && value <= max)
+        return {value, NumberError::None};
+    return ParseWholeNumber(text, min, max);
 }
 
 /// Sets an integer field from its text; false, with the cause, when the text holds

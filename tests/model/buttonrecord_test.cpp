@@ -1,5 +1,6 @@
 #include "buttonrecord.h"
 #include "projectmodel.h"
+#include "texthelpers.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -151,6 +152,31 @@ TEST(ButtonRecord, ColoursTakeTheWholeThirtyTwoBitRange) {
     EXPECT_EQ(e.description, "Overflow");
     EXPECT_EQ(record.BackColorDOWN, 255);
     EXPECT_EQ(SetFieldText(record, 19, "").description, "Type mismatch");
+}
+
+TEST(ButtonRecord, FieldsReadNumbersAsTheTypedNumberConversionDoes) {
+    // Every form, plain or not, gives a field what the conversion of typed numbers gives.
+    const std::vector<std::string> texts = {
+        "0",           "-0",         "+5",         "007",
+        "-32768",      "32767",      "32768",      "-32769",
+        "999999999",   "-999999999", "1000000000", "2147483647",
+        "-2147483648", "2147483648", "12.5",       "1e3",
+        " 7",          "7 ",         "-",          "",
+        "--1",         "0x1",        "1-",         "99999999999999999999"};
+    for (const std::string& text : texts) {
+        for (const int pos : {2, 16}) {
+            const bool wide = pos == 16;
+            const WholeNumber expected = wide ? ParseWholeNumber(text, INT32_MIN, INT32_MAX)
+                                              : ParseWholeNumber(text, INT16_MIN, INT16_MAX);
+            ButtonRecord record;
+            const FieldError e = SetFieldText(record, pos, text);
+            EXPECT_EQ(e.description, NumberErrorText(expected.error)) << text;
+            const std::int64_t value = wide ? record.BackColorUP : record.Width;
+            const std::int64_t unchanged = wide ? ButtonRecord().BackColorUP : ButtonRecord().Width;
+            EXPECT_EQ(value, expected.error == NumberError::None ? expected.value : unchanged)
+                << text;
+        }
+    }
 }
 
 TEST(ButtonRecord, LabelsAreEncodedOnWriteAndDecodedOnRead) {
