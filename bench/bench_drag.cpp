@@ -24,8 +24,9 @@ QApplication& App() {
     static char* argv[] = {name, nullptr};
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(argc, argv);
-    return app;
+    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own statics.
+    static QApplication* app = new QApplication(argc, argv);
+    return *app;
 }
 
 /// The main editor's part is left out: it fills the same fields whatever the count.

@@ -19,8 +19,10 @@ QApplication& App() {
     static int argc = 1;
     static char name[] = "frmadvanced_test";
     static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own
+    // statics, and the process ends right after anyway.
+    static QApplication* app = new QApplication(argc, argv);
+    return *app;
 }
 
 struct Dialog {

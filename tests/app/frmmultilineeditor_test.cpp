@@ -16,8 +16,10 @@ QApplication& App() {
     static int argc = 1;
     static char name[] = "frmmultilineeditor_test";
     static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own
+    // statics, and the process ends right after anyway.
+    static QApplication* app = new QApplication(argc, argv);
+    return *app;
 }
 
 /// The main editor's label field, with a change handler standing in for its own.
