@@ -15,7 +15,8 @@
 namespace orvelin {
 
 /// File chooser filters for images and sounds, in Qt's form.
-inline constexpr const char* kImageFilter = "GIF , JPG (*.gif;*.jpg);; All Files (*.*)";
+/// PNG is offered beside the two formats the applet names, since the designer reads it too.
+inline constexpr const char* kImageFilter = "GIF , JPG (*.gif;*.jpg;*.png);; All Files (*.*)";
 inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);; All Files (*.*)";
 
 /// Background placement chosen automatically for a new background image while tiling
