@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstring>
 #include <limits>
-#include <variant>
 
 namespace orvelin {
 
@@ -68,111 +68,82 @@ template <typename T> T& pick(ButtonState s, T& up, T& over, T& down) {
     return up;
 }
 
-using FieldRef = std::variant<std::int16_t*, std::int32_t*, std::string*>;
+/// Where a field lives: exactly one of the three members is set.
+struct FieldSlot {
+    std::int16_t ButtonRecord::*number = nullptr;
+    std::int32_t ButtonRecord::*colour = nullptr;
+    std::string ButtonRecord::*text = nullptr;
+};
 
-FieldRef fieldRef(ButtonRecord& r, int pos) {
-    switch (pos) {
-    case 0:
-        return &r.x;
-    case 1:
-        return &r.y;
-    case 2:
-        return &r.Width;
-    case 3:
-        return &r.Height;
-    case 4:
-        return &r.LabelUP;
-    case 5:
-        return &r.LabelOVER;
-    case 6:
-        return &r.LabelDOWN;
-    case 7:
-        return &r.URL;
-    case 8:
-        return &r.Status;
-    case 9:
-        return &r.Target;
-    case 10:
-        return &r.Border;
-    case 11:
-        return &r.noBackGround;
-    case 12:
-        return &r.ShowHand;
-    case 13:
-        return &r.ImageUP;
-    case 14:
-        return &r.ImageOVER;
-    case 15:
-        return &r.ImageDOWN;
-    case 16:
-        return &r.BackColorUP;
-    case 17:
-        return &r.BackColorOVER;
-    case 18:
-        return &r.BackColorDOWN;
-    case 19:
-        return &r.FontColorUP;
-    case 20:
-        return &r.FontColorOVER;
-    case 21:
-        return &r.FontColorDOWN;
-    case 22:
-        return &r.FontUP;
-    case 23:
-        return &r.FontOVER;
-    case 24:
-        return &r.FontDOWN;
-    case 25:
-        return &r.FontStyleUP;
-    case 26:
-        return &r.FontStyleOVER;
-    case 27:
-        return &r.FontStyleDOWN;
-    case 28:
-        return &r.FontSizeUP;
-    case 29:
-        return &r.FontSizeOVER;
-    case 30:
-        return &r.FontSizeDOWN;
-    case 31:
-        return &r.SndUP;
-    case 32:
-        return &r.SndOVER;
-    case 33:
-        return &r.SndDOWN;
-    case 34:
-        return &r.ImgStyleUP;
-    case 35:
-        return &r.ImgStyleOVER;
-    case 36:
-        return &r.ImgStyleDOWN;
-    case 37:
-        return &r.PositionTextUP;
-    case 38:
-        return &r.PositionTextOVER;
-    case 39:
-        return &r.PositionTextDOWN;
-    case 40:
-        return &r.LabelPosXUP;
-    case 41:
-        return &r.LabelPosYUP;
-    case 42:
-        return &r.LabelPosXOVER;
-    case 43:
-        return &r.LabelPosYOVER;
-    case 44:
-        return &r.LabelPosXDOWN;
-    case 45:
-        return &r.LabelPosYDOWN;
-    case 46:
-        return &r.Hidden;
-    case 47:
-        return &r.ProgramUP;
-    case 48:
-        return &r.ProgramOVER;
-    default:
-        return &r.ProgramDOWN;
-    }
+constexpr FieldSlot slot(std::int16_t ButtonRecord::*member) {
+    return {member, nullptr, nullptr};
+}
+constexpr FieldSlot slot(std::int32_t ButtonRecord::*member) {
+    return {nullptr, member, nullptr};
+}
+constexpr FieldSlot slot(std::string ButtonRecord::*member) {
+    return {nullptr, nullptr, member};
+}
+
+// clang-format off
+constexpr std::array<FieldSlot, kButtonFieldCount> kFieldSlots = {{
+    slot(&ButtonRecord::x),
+    slot(&ButtonRecord::y),
+    slot(&ButtonRecord::Width),
+    slot(&ButtonRecord::Height),
+    slot(&ButtonRecord::LabelUP),
+    slot(&ButtonRecord::LabelOVER),
+    slot(&ButtonRecord::LabelDOWN),
+    slot(&ButtonRecord::URL),
+    slot(&ButtonRecord::Status),
+    slot(&ButtonRecord::Target),
+    slot(&ButtonRecord::Border),
+    slot(&ButtonRecord::noBackGround),
+    slot(&ButtonRecord::ShowHand),
+    slot(&ButtonRecord::ImageUP),
+    slot(&ButtonRecord::ImageOVER),
+    slot(&ButtonRecord::ImageDOWN),
+    slot(&ButtonRecord::BackColorUP),
+    slot(&ButtonRecord::BackColorOVER),
+    slot(&ButtonRecord::BackColorDOWN),
+    slot(&ButtonRecord::FontColorUP),
+    slot(&ButtonRecord::FontColorOVER),
+    slot(&ButtonRecord::FontColorDOWN),
+    slot(&ButtonRecord::FontUP),
+    slot(&ButtonRecord::FontOVER),
+    slot(&ButtonRecord::FontDOWN),
+    slot(&ButtonRecord::FontStyleUP),
+    slot(&ButtonRecord::FontStyleOVER),
+    slot(&ButtonRecord::FontStyleDOWN),
+    slot(&ButtonRecord::FontSizeUP),
+    slot(&ButtonRecord::FontSizeOVER),
+    slot(&ButtonRecord::FontSizeDOWN),
+    slot(&ButtonRecord::SndUP),
+    slot(&ButtonRecord::SndOVER),
+    slot(&ButtonRecord::SndDOWN),
+    slot(&ButtonRecord::ImgStyleUP),
+    slot(&ButtonRecord::ImgStyleOVER),
+    slot(&ButtonRecord::ImgStyleDOWN),
+    slot(&ButtonRecord::PositionTextUP),
+    slot(&ButtonRecord::PositionTextOVER),
+    slot(&ButtonRecord::PositionTextDOWN),
+    slot(&ButtonRecord::LabelPosXUP),
+    slot(&ButtonRecord::LabelPosYUP),
+    slot(&ButtonRecord::LabelPosXOVER),
+    slot(&ButtonRecord::LabelPosYOVER),
+    slot(&ButtonRecord::LabelPosXDOWN),
+    slot(&ButtonRecord::LabelPosYDOWN),
+    slot(&ButtonRecord::Hidden),
+    slot(&ButtonRecord::ProgramUP),
+    slot(&ButtonRecord::ProgramOVER),
+    slot(&ButtonRecord::ProgramDOWN),
+}};
+// clang-format on
+
+/// The slot of field `pos`; any position past the table is the last field.
+const FieldSlot& fieldSlot(int pos) {
+    return kFieldSlots[static_cast<std::size_t>(
+        pos >= 0 && pos < kButtonFieldCount ? pos : kButtonFieldCount - 1)];
 }
 
 } // namespace
@@ -272,29 +243,6 @@ const std::array<ButtonField, kButtonFieldCount>& ButtonFields() {
 
 namespace {
 
-void appendNumber(std::string& out, std::int32_t value) {
-    char digits[16];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, value);
-    out.append(digits, static_cast<std::size_t>(end.ptr - digits));
-}
-
-/// Field `pos` as stored text appended to `out`; with `encodeLabels` a label field
-/// goes through the label encoding.
-void appendFieldText(std::string& out, const ButtonRecord& record, int pos, bool encodeLabels) {
-    // fieldRef only hands out pointers; reading through them does not modify.
-    const FieldRef ref = fieldRef(const_cast<ButtonRecord&>(record), pos);
-    if (auto p = std::get_if<std::string*>(&ref)) {
-        if (encodeLabels && ButtonFields()[static_cast<std::size_t>(pos)].kind == FieldKind::Label)
-            AppendEncodedLabel(out, **p);
-        else
-            out += **p;
-    } else if (auto p16 = std::get_if<std::int16_t*>(&ref)) {
-        appendNumber(out, **p16);
-    } else {
-        appendNumber(out, *std::get<std::int32_t*>(ref));
-    }
-}
-
 /// Up to nine digits with at most a minus, as the writer puts every number: read here,
 /// where the general reading would cost more than the rest of the field.
 bool plainNumber(std::string_view text, std::int64_t& value) {
@@ -326,19 +274,52 @@ WholeNumber parseNumber(std::string_view text, bool wide) {
     return ParseWholeNumber(text, min, max);
 }
 
-/// Sets an integer field from its text; false, with the cause, when the text holds
-/// no number in the field's range (the field is then left as it was).
-bool storeNumber(const FieldRef& ref, std::string_view text, NumberError& error) {
-    const bool wide = std::holds_alternative<std::int32_t*>(ref);
-    const WholeNumber n = parseNumber(text, wide);
+/// Sets the integer field of `slot` from its text; false, with the cause, when the
+/// text holds no number in the field's range (the field is then left as it was).
+bool storeNumber(ButtonRecord& record, const FieldSlot& slot, std::string_view text,
+                 NumberError& error) {
+    const WholeNumber n = parseNumber(text, slot.colour != nullptr);
     error = n.error;
     if (n.error != NumberError::None)
         return false;
-    if (wide)
-        *std::get<std::int32_t*>(ref) = static_cast<std::int32_t>(n.value);
+    if (slot.colour)
+        record.*slot.colour = static_cast<std::int32_t>(n.value);
     else
-        *std::get<std::int16_t*>(ref) = static_cast<std::int16_t>(n.value);
+        record.*slot.number = static_cast<std::int16_t>(n.value);
     return true;
+}
+
+/// The longest decimal text of a field's number, "-2147483648".
+constexpr std::size_t kLongestNumber = 11;
+
+/// Writes field `slot` of `record` at `to` as stored text; returns the end.
+char* writeField(char* to, const ButtonRecord& record, const FieldSlot& slot) {
+    if (slot.text) {
+        const std::string& text = record.*slot.text;
+        std::memcpy(to, text.data(), text.size());
+        return to + text.size();
+    }
+    const std::int32_t value = slot.colour ? record.*slot.colour : record.*slot.number;
+    return std::to_chars(to, to + kLongestNumber, value).ptr;
+}
+
+/// Fields [first, last) each followed by "|", written through a pointer into room
+/// made for all of them at once.
+void appendFields(std::string& out, const ButtonRecord& record, int first, int last) {
+    std::size_t room = 0;
+    for (int pos = first; pos < last; ++pos) {
+        const FieldSlot& slot = fieldSlot(pos);
+        room += 1 + (slot.text ? (record.*slot.text).size() : kLongestNumber);
+    }
+    const std::size_t start = out.size();
+    out.resize(start + room);
+    char* const begin = out.data();
+    char* to = begin + start;
+    for (int pos = first; pos < last; ++pos) {
+        to = writeField(to, record, fieldSlot(pos));
+        *to++ = '|';
+    }
+    out.resize(static_cast<std::size_t>(to - begin));
 }
 
 /// The next "|" at or after `start`, or npos. Most fields are a few characters long:
@@ -355,19 +336,21 @@ std::size_t nextBar(std::string_view line, std::size_t start) {
 } // namespace
 
 std::string FieldText(const ButtonRecord& record, int pos) {
-    std::string out;
-    appendFieldText(out, record, pos, false);
-    return out;
+    const FieldSlot& slot = fieldSlot(pos);
+    if (slot.text)
+        return record.*slot.text;
+    char digits[kLongestNumber];
+    return std::string(digits, writeField(digits, record, slot));
 }
 
 FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
-    const FieldRef ref = fieldRef(record, pos);
-    if (auto p = std::get_if<std::string*>(&ref)) {
-        (*p)->assign(text);
+    const FieldSlot& slot = fieldSlot(pos);
+    if (slot.text) {
+        (record.*slot.text).assign(text);
         return {};
     }
     NumberError error = NumberError::None;
-    if (!storeNumber(ref, text, error))
+    if (!storeNumber(record, slot, text, error))
         return {pos, NumberErrorText(error)};
     return {};
 }
@@ -380,9 +363,21 @@ std::string SerializeButton(const ButtonRecord& record) {
 }
 
 void AppendSerializedButton(std::string& out, const ButtonRecord& record) {
-    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
-        appendFieldText(out, record, pos, true);
-        out += '|';
+    // Runs of fields between the labels go in one piece each; labels are encoded.
+    const auto& fields = ButtonFields();
+    for (int pos = 0; pos < kButtonFieldCount;) {
+        if (fields[static_cast<std::size_t>(pos)].kind == FieldKind::Label) {
+            AppendEncodedLabel(out, record.*fieldSlot(pos).text);
+            out += '|';
+            ++pos;
+            continue;
+        }
+        int end = pos + 1;
+        while (end < kButtonFieldCount &&
+               fields[static_cast<std::size_t>(end)].kind != FieldKind::Label)
+            ++end;
+        appendFields(out, record, pos, end);
+        pos = end;
     }
 }
 
@@ -403,16 +398,17 @@ FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPo
                 return {pos, NumberErrorText(error)};
             continue;
         }
-        const FieldRef ref = fieldRef(record, pos);
-        if (auto p = std::get_if<std::string*>(&ref)) {
+        const FieldSlot& slot = fieldSlot(pos);
+        if (slot.text) {
             // Cleared and appended to rather than assigned: the strings keep their
             // storage from one load to the next, and appending skips the overlap checks.
-            (*p)->clear();
+            std::string& text = record.*slot.text;
+            text.clear();
             if (fields[static_cast<std::size_t>(pos)].kind == FieldKind::Label)
-                AppendDecodedLabel(**p, field);
+                AppendDecodedLabel(text, field);
             else
-                (*p)->append(field);
-        } else if (!storeNumber(ref, field, error)) {
+                text.append(field);
+        } else if (!storeNumber(record, slot, field, error)) {
             return {pos, NumberErrorText(error)};
         }
     }
