@@ -5,6 +5,7 @@
 #include "labelpositioner.h"
 #include "sizerhandle.h"
 #include "surfaceeditorlink.h"
+#include "testapplication.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -16,13 +17,7 @@ using namespace orvelin;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "designinteraction_test";
-    static char* argv[] = {name, nullptr};
-    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own
-    // statics, and the process ends right after anyway.
-    static QApplication* app = new QApplication(argc, argv);
-    return *app;
+    return orvelin::testing::TestApplication();
 }
 
 /// The main editor as the surface sees it: every request is written down.

@@ -2,6 +2,7 @@
 #include "fakeui.h"
 #include "frmadvanced.h"
 #include "settings.h"
+#include "testapplication.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -16,13 +17,7 @@ using Answer = UserInterface::Answer;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "frmadvanced_test";
-    static char* argv[] = {name, nullptr};
-    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own
-    // statics, and the process ends right after anyway.
-    static QApplication* app = new QApplication(argc, argv);
-    return *app;
+    return orvelin::testing::TestApplication();
 }
 
 struct Dialog {

@@ -4,6 +4,7 @@
 #include "frmdesign.h"
 #include "labelpositioner.h"
 #include "sizerhandle.h"
+#include "testapplication.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -18,13 +19,7 @@ using namespace orvelin;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "frmdesign_test";
-    static char* argv[] = {name, nullptr};
-    // Never destroyed: the test tool's pointer device is its child, and destroying both
-    // among the exit-time statics crashes.
-    static QApplication* app = new QApplication(argc, argv);
-    return *app;
+    return orvelin::testing::TestApplication();
 }
 
 /// A design window over a project of `count` plain buttons side by side.

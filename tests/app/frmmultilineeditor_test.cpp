@@ -1,4 +1,5 @@
 #include "frmmultilineeditor.h"
+#include "testapplication.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -13,13 +14,7 @@ using namespace orvelin;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "frmmultilineeditor_test";
-    static char* argv[] = {name, nullptr};
-    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own
-    // statics, and the process ends right after anyway.
-    static QApplication* app = new QApplication(argc, argv);
-    return *app;
+    return orvelin::testing::TestApplication();
 }
 
 /// The main editor's label field, with a change handler standing in for its own.

@@ -2,6 +2,7 @@
 #include "frmsetaction.h"
 #include "programbuffer.h"
 #include "projectmodel.h"
+#include "testapplication.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>
@@ -20,11 +21,7 @@ using orvelin::testing::FakeUserInterface;
 namespace {
 
 QApplication& App() {
-    static int argc = 1;
-    static char name[] = "frmsetaction_test";
-    static char* argv[] = {name, nullptr};
-    static QApplication app(argc, argv);
-    return app;
+    return orvelin::testing::TestApplication();
 }
 
 class FrmSetActionTest : public ::testing::Test {
