@@ -21,7 +21,7 @@ log="$scratch/stderr"
 # offscreen platform the unit tests use is dropped: this test wants a real display.
 # In a sanitizer build, leaks of the desktop libraries a real display brings in are
 # not the designer's.
-suppressions="$(dirname "$0")/lsan.supp"
+suppressions="$(dirname "$0")/../lsan.supp"
 env -u QT_QPA_PLATFORM \
     LSAN_OPTIONS="${LSAN_OPTIONS:+$LSAN_OPTIONS:}suppressions=$suppressions" \
     XDG_CONFIG_HOME="$scratch/config" \
