@@ -199,10 +199,12 @@ void FrmDesign::RedrawButton(int index, bool placeHandles, bool placePositioner,
 void FrmDesign::RedrawAll() {
     for (int index = 1; index <= pictureCount(); ++index)
         RedrawButton(index, false, false, false);
+    // The handles always belong to the current button: after a load or a click in the
+    // button list they come back around it, not only where a drag left them.
     const int current = m_model.CurrentButton;
-    if (current >= 1 && current <= pictureCount()) {
-        if (m_sizers[0]->isVisible())
-            MoveSizer(current);
+    if (current >= 1 && current <= pictureCount() && current <= m_model.ButtonCount) {
+        MoveSizer(current);
+        ShowSizers();
         MoveLabelPositioner(current);
     }
 }
