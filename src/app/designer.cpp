@@ -3,6 +3,7 @@
 #include "designinteraction.h"
 #include "editorsurfacelink.h"
 #include "frmdesign.h"
+#include "frmhtml.h"
 #include "frmmain.h"
 #include "globalini.h"
 #include "mainmenus.h"
@@ -11,7 +12,6 @@
 
 #include <QCoreApplication>
 #include <QLayout>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <algorithm>
@@ -43,9 +43,8 @@ void Designer::connectWindows() {
             [&editor] { editor.DuplicateButton(); });
     connect(m_design.get(), &FrmDesign::btnRemoveClicked, this,
             [&editor] { editor.RemoveButton(); });
-    // The HTML window is not part of the designer yet.
-    if (auto* viewHtml = m_design->findChild<QPushButton*>(QStringLiteral("btnViewHtml")))
-        viewHtml->setEnabled(false);
+    connect(m_design.get(), &FrmDesign::btnViewHtmlClicked, this, [this] { showHtml(); });
+    connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         if (!GlobalIni::ForProgram().SetNoBackGround(on))
             m_ui.showMessage(Messages()[Msg::IniWriteFailed], {});
@@ -61,10 +60,19 @@ void Designer::connectWindows() {
     connect(m_main.get(), &FrmMain::closed, this, [this] {
         m_design->setForceUnload(true);
         m_design->close();
+        if (m_html)
+            m_html->close();
         QCoreApplication::quit();
     });
     // The file keys and the button commands work in the design window too.
     m_design->addActions(m_main->menus().sharedActions());
+}
+
+void Designer::showHtml() {
+    // Made on first use: most sessions never look at the code.
+    if (!m_html)
+        m_html = std::make_unique<FrmHTML>(m_model, m_ui);
+    m_html->showAndGenerate();
 }
 
 void Designer::placeWindows() {

@@ -17,6 +17,7 @@ namespace orvelin {
 class DesignInteraction;
 class EditorSurfaceLink;
 class FrmDesign;
+class FrmHTML;
 class FrmMain;
 
 /**
@@ -44,6 +45,8 @@ public:
 private:
     void connectWindows();
     void placeWindows();
+    /// Shows the HTML window with freshly generated code.
+    void showHtml();
     /// Sizes the design window to show the whole applet, within the screen.
     void fitDesignWindow();
 
@@ -59,6 +62,7 @@ private:
     // The mouse on the design window; it refers to both windows, so it goes before them.
     std::unique_ptr<EditorSurfaceLink> m_surfaceLink;
     std::unique_ptr<DesignInteraction> m_interaction;
+    std::unique_ptr<FrmHTML> m_html;
 };
 
 } // namespace orvelin

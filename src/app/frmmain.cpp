@@ -65,8 +65,6 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     connect(m_applet, &AppletPanel::offsetRequested, this, &FrmMain::openOffset);
     connect(m_properties, &PropertyPanel::labelEditorRequested, this, &FrmMain::openLabelEditor);
     connect(m_menus, &MainMenus::advancedRequested, this, &FrmMain::openAdvanced);
-    // The windows that are not part of the designer yet leave their commands off.
-    m_menus->htmlAction()->setEnabled(false);
 }
 
 FrmMain::~FrmMain() = default;
