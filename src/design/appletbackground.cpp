@@ -44,8 +44,4 @@ QImage RenderBackground(const ProjectModel& model, ImageCache& images, bool swit
     return background;
 }
 
-int AutoBackgroundStyle(QSize image, QSize applet) {
-    return image.width() < applet.width() && image.height() < applet.height() ? 1 : 0;
-}
-
 } // namespace orvelin

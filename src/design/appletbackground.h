@@ -27,11 +27,4 @@ void DrawPlainSurface(QPainter& painter, QSize size);
 /// AppletHeight, 96 dpi): DrawBackGround, or the plain surface when `switchedOff`.
 QImage RenderBackground(const ProjectModel& model, ImageCache& images, bool switchedOff);
 
-/**
- * The placement automatic tiling gives a newly chosen background image: an image smaller
- * than the applet in both width and height is tiled (1) so that it covers the area;
- * any other image is centred (0).
- */
-int AutoBackgroundStyle(QSize image, QSize applet);
-
 } // namespace orvelin

@@ -105,15 +105,6 @@ TEST_F(AppletBackground, SwitchedOffShowsANeutralCheckerInsteadOfColourAndImage)
     }
 }
 
-TEST(AutoTile, TilesOnlyAnImageSmallerThanTheAppletBothWays) {
-    const QSize applet(510, 170);
-    EXPECT_EQ(AutoBackgroundStyle(QSize(32, 32), applet), 1);
-    EXPECT_EQ(AutoBackgroundStyle(QSize(509, 169), applet), 1);
-    EXPECT_EQ(AutoBackgroundStyle(QSize(510, 20), applet), 0);
-    EXPECT_EQ(AutoBackgroundStyle(QSize(20, 170), applet), 0);
-    EXPECT_EQ(AutoBackgroundStyle(QSize(800, 600), applet), 0);
-}
-
 TEST(ImageCacheTest, ReadsAnImageAgainWhenItsFileChanges) {
     QTemporaryDir dir;
     const QString path = dir.filePath("swap.png");
