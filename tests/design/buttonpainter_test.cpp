@@ -1,136 +1,112 @@
 #include "fakeui.h"
 #include "painttesting.h"
 
-#include <QTemporaryDir>
+#include <QDir>
 
 using namespace orvelin;
 using namespace orvelin::testing;
 
 namespace {
 
-constexpr QRgb kWhite = 0xFFFFFF;
-
 double CentreX(const QRect& box) {
     return box.left() + box.width() / 2.0;
 }
-double CentreY(const QRect& box) {
-    return box.top() + box.height() / 2.0;
-}
 
-/// The bands of rows that hold ink, top to bottom, as [first, last] pairs.
-std::vector<std::pair<int, int>> InkBands(const QImage& image, QRgb background) {
-    std::vector<std::pair<int, int>> bands;
+/// The boxes of the bands of rows that hold ink, top to bottom.
+std::vector<QRect> InkBands(const QImage& image, QRgb background) {
+    std::vector<QRect> bands;
     for (int y = 0; y < image.height(); ++y) {
-        if (!RowHasInk(image, y, background))
+        const QRect row = InkBox(image, background, QRect(0, y, image.width(), 1));
+        if (row.isEmpty())
             continue;
-        if (!bands.empty() && bands.back().second == y - 1)
-            bands.back().second = y;
+        if (!bands.empty() && bands.back().bottom() == y - 1)
+            bands.back() |= row;
         else
-            bands.emplace_back(y, y);
+            bands.push_back(row);
     }
     return bands;
+}
+
+ProjectModel WithImage(const std::string& path, int style, int width = 100, int height = 40) {
+    ButtonRecord b = PlainButton(width, height);
+    b.ImageUP = path;
+    b.ImgStyleUP = static_cast<std::int16_t>(style);
+    return OneButton(b);
 }
 
 } // namespace
 
 TEST(DrawLabel, CentredLabelInkIsCentredWhateverItsLength) {
-    for (const char* label : {"H", "HHH", "HIHIHIHIHIH"}) {
+    for (const char* label : {"H", "HHH", "HIHIHIHIHIH"})
         for (QSize size : {QSize(107, 40), QSize(200, 61)}) {
-            const QImage picture =
-                Paint(OneButton(PlainButton(size.width(), size.height(), label)));
-            const QRect ink = InkBox(picture, kWhite);
-            ASSERT_FALSE(ink.isEmpty()) << label;
-            EXPECT_NEAR(CentreX(ink), size.width() / 2.0, 1.0) << label << " in " << size.width();
-            EXPECT_NEAR(CentreY(ink), size.height() / 2.0, 2.0) << label << " in " << size.height();
+            SCOPED_TRACE(std::string(label) + " in " + std::to_string(size.width()));
+            const QRect ink =
+                InkBox(Paint(OneButton(PlainButton(size.width(), size.height(), label))), kWhite);
+            ASSERT_FALSE(ink.isEmpty());
+            EXPECT_NEAR(CentreX(ink), size.width() / 2.0, 1.0);
+            EXPECT_NEAR(ink.top() + ink.height() / 2.0, size.height() / 2.0, 2.0);
         }
-    }
 }
 
 TEST(DrawLabel, StyleCodesSelectBoldAndItalic) {
-    auto inkOf = [](const std::string& style) {
+    auto paint = [](const std::string& style) {
         ButtonRecord b = PlainButton(200, 40, "IIIIIIII");
         b.FontStyleUP = style;
         return Paint(OneButton(b));
     };
-    const QImage regular = inkOf("0");
-    const QImage bold = inkOf("1");
-    const QImage italic = inkOf("2");
-    const QImage both = inkOf("3");
-
-    // Bold strokes are heavier, so the same letters take more room.
-    EXPECT_GT(InkBox(bold, kWhite).width(), InkBox(regular, kWhite).width());
-    EXPECT_GT(InkBox(both, kWhite).width(), InkBox(italic, kWhite).width());
-
     // An italic upright stroke leans: its top row starts further right than its bottom row.
     auto lean = [](const QImage& image) {
         const QRect box = InkBox(image, kWhite);
-        const QRect top = InkBox(image, kWhite, QRect(0, box.top(), image.width(), 1));
-        const QRect bottom = InkBox(image, kWhite, QRect(0, box.bottom(), image.width(), 1));
-        return top.left() - bottom.left();
+        return InkBox(image, kWhite, QRect(0, box.top(), image.width(), 1)).left() -
+               InkBox(image, kWhite, QRect(0, box.bottom(), image.width(), 1)).left();
     };
+    const QImage regular = paint("0"), bold = paint("1"), italic = paint("2"), both = paint("3");
+    // Bold strokes are heavier, so the same letters take more room.
+    EXPECT_GT(InkBox(bold, kWhite).width(), InkBox(regular, kWhite).width());
+    EXPECT_GT(InkBox(both, kWhite).width(), InkBox(italic, kWhite).width());
     EXPECT_GT(lean(italic), 0);
     EXPECT_GT(lean(both), 0);
     EXPECT_EQ(lean(regular), 0);
     EXPECT_EQ(lean(bold), 0);
-
-    // Any other code is regular.
-    EXPECT_EQ(inkOf("7"), regular);
-    EXPECT_EQ(inkOf("x"), regular);
-    EXPECT_EQ(inkOf(""), regular);
+    for (const char* other : {"7", "x", ""})
+        EXPECT_EQ(paint(other), regular) << other;
 }
 
-TEST(DrawLabel, SplitsAtBackslashNIntoSeparateLinesFollowingDownwards) {
-    const QImage one = Paint(OneButton(PlainButton(120, 60, "FIRST")));
-    EXPECT_EQ(InkBands(one, kWhite).size(), 1u);
+TEST(DrawLabel, SplitsAtBackslashNIntoLinesEachCentredOnItsOwn) {
+    EXPECT_EQ(InkBands(Paint(OneButton(PlainButton(120, 60, "FIRST"))), kWhite).size(), 1u);
+    EXPECT_EQ(InkBands(Paint(OneButton(PlainButton(120, 80, "A\\nB\\nC"))), kWhite).size(), 3u);
 
     const QImage two = Paint(OneButton(PlainButton(120, 60, "FIRST\\nSECOND")));
     const auto bands = InkBands(two, kWhite);
     ASSERT_EQ(bands.size(), 2u);
-    EXPECT_LT(bands[0].second + 1, bands[1].first);
-
-    // The block as a whole stays centred.
+    EXPECT_LT(bands[0].bottom() + 1, bands[1].top());
     const QRect ink = InkBox(two, kWhite);
-    EXPECT_NEAR(CentreY(ink), 30.0, 2.0);
-    // Each line is centred on its own: the longer second line starts further left.
-    const QRect first =
-        InkBox(two, kWhite, QRect(0, bands[0].first, 120, 1 + bands[0].second - bands[0].first));
-    const QRect second =
-        InkBox(two, kWhite, QRect(0, bands[1].first, 120, 1 + bands[1].second - bands[1].first));
-    EXPECT_LT(second.left(), first.left());
-    EXPECT_NEAR(CentreX(first), 60.0, 1.0);
-    EXPECT_NEAR(CentreX(second), 60.0, 1.0);
-
-    const QImage three = Paint(OneButton(PlainButton(120, 80, "A\\nB\\nC")));
-    EXPECT_EQ(InkBands(three, kWhite).size(), 3u);
+    EXPECT_NEAR(ink.top() + ink.height() / 2.0, 30.0, 2.0); // the block stays centred
+    EXPECT_LT(bands[1].left(), bands[0].left());            // the longer line starts left
+    EXPECT_NEAR(CentreX(bands[0]), 60.0, 1.0);
+    EXPECT_NEAR(CentreX(bands[1]), 60.0, 1.0);
 }
 
-TEST(DrawLabel, PositionedLabelStartsAtTheLabelPositionOnItsBaseline) {
+TEST(DrawLabel, PositionedLabelSitsOnItsBaselineAndIsClippedByThePicture) {
     ButtonRecord b = PlainButton(107, 40, "HH");
     b.PositionTextUP = 1;
     b.LabelPosXUP = 10;
     b.LabelPosYUP = 20;
     const QRect ink = InkBox(Paint(OneButton(b)), kWhite);
-    ASSERT_FALSE(ink.isEmpty());
     EXPECT_NEAR(ink.left(), 10, 2);
     EXPECT_EQ(ink.bottom(), 19); // capitals sit on the baseline
 
-    // A further line goes below the first one.
-    b.LabelUP = "HH\\nHH";
+    b.LabelUP = "HH\\nHH"; // a further line goes below the first one
     const auto bands = InkBands(Paint(OneButton(b)), kWhite);
     ASSERT_EQ(bands.size(), 2u);
-    EXPECT_EQ(bands[0].second, 19);
-    EXPECT_GT(bands[1].first, 20);
-}
+    EXPECT_EQ(bands[0].bottom(), 19);
+    EXPECT_GT(bands[1].top(), 20);
 
-TEST(DrawLabel, PositionedLabelOutsideTheButtonIsClippedByThePicture) {
-    ButtonRecord b = PlainButton(60, 30, "HHHHHHHHHHHH");
+    b = PlainButton(60, 30, "HHHHHHHHHHHH");
     b.PositionTextUP = 1;
     b.LabelPosXUP = -40; // starts left of the button: only the tail shows
     b.LabelPosYUP = 20;
-    const QRect ink = InkBox(Paint(OneButton(b)), kWhite);
-    ASSERT_FALSE(ink.isEmpty());
-    EXPECT_EQ(ink.left(), 0);
-
+    EXPECT_EQ(InkBox(Paint(OneButton(b)), kWhite).left(), 0);
     b.LabelPosXUP = 70; // wholly right of the button
     EXPECT_TRUE(InkBox(Paint(OneButton(b)), kWhite).isEmpty());
 }
@@ -138,87 +114,163 @@ TEST(DrawLabel, PositionedLabelOutsideTheButtonIsClippedByThePicture) {
 TEST(DrawLabel, OnlyTheEditedStateIsDrawnAndAnUnknownStateDrawsNoLabel) {
     ButtonRecord b = PlainButton(107, 40, "UP");
     b.BackColorOVER = 0xFFFFFF;
-    b.FontColorOVER = 0;
-    b.LabelOVER = "";
     ProjectModel model = OneButton(b);
     EXPECT_FALSE(InkBox(Paint(model), kWhite).isEmpty());
-    model.CurrentState = "OVER";
-    EXPECT_TRUE(InkBox(Paint(model), kWhite).isEmpty());
-    model.CurrentState = "HOVER";
-    EXPECT_TRUE(InkBox(Paint(model), kWhite).isEmpty());
+    for (const char* state : {"OVER", "HOVER"}) {
+        model.CurrentState = state;
+        EXPECT_TRUE(InkBox(Paint(model), kWhite).isEmpty()) << state;
+    }
 }
 
-TEST(DrawLabel, AnInvalidFontSizeIsReportedOnceAndTheRestIsStillPainted) {
+TEST(DrawLabel, FailuresAreReportedWithTheButtonNumberAndTheBorderIsStillPainted) {
     ButtonRecord b = PlainButton(107, 40, "Go");
     b.FontSizeUP = 0;
     b.Border = 1;
     FakeUserInterface ui;
     const QImage picture = Paint(OneButton(b), 1, nullptr, nullptr, &ui);
-    ASSERT_EQ(ui.messages().size(), 1u);
-    EXPECT_EQ(ui.messages()[0], "Something wrong\r\nOn DrawLabel(1) \r\nInvalid property value");
+    ASSERT_EQ(ui.messages(),
+              std::vector<std::string>(
+                  {"Something wrong\r\nOn DrawLabel(1) \r\nInvalid property value"}));
     EXPECT_EQ(ui.shown[0].title, "");
-    // No label, but the border after it is there.
     EXPECT_TRUE(InkBox(picture, kWhite, QRect(2, 2, 103, 36)).isEmpty());
     EXPECT_NE(Pixel(picture, 106, 39), kWhite);
-}
 
-TEST(DrawLabel, AButtonNumberOutsideTheTableIsReported) {
     ProjectModel model = OneButton(PlainButton(10, 10, "x"));
     ImageCache images;
     ButtonPainter painter(model, images);
-    painter.setUserInterface(nullptr);
-    FakeUserInterface ui;
     painter.setUserInterface(&ui);
-    QImage picture = NewPicture(QSize(10, 10));
-    QPainter p(&picture);
+    QImage small = NewPicture(QSize(10, 10));
+    QPainter p(&small);
     EXPECT_FALSE(painter.DrawLabel(p, 103));
-    ASSERT_EQ(ui.messages().size(), 1u);
-    EXPECT_EQ(ui.messages()[0], "Something wrong\r\nOn DrawLabel(103) \r\nSubscript out of range");
+    EXPECT_EQ(ui.messages().back(),
+              "Something wrong\r\nOn DrawLabel(103) \r\nSubscript out of range");
 }
 
-TEST(DrawPix, FillsWithTheStateColourRedInTheLowByte) {
-    ButtonRecord b = PlainButton(20, 10, "");
-    b.BackColorUP = 255;        // red
-    b.BackColorOVER = 0xFF0000; // blue
-    b.BackColorDOWN = 0x00FF00; // green
+TEST(DrawPix, CenterClipsAnOversizedImageEvenlyAndCentresASmallOne) {
+    QTemporaryDir dir;
+    const QString big = dir.filePath("big.png"), small = dir.filePath("small.png");
+    ASSERT_TRUE(Coordinates(140, 60).save(big));
+    ASSERT_TRUE(Coordinates(10, 10).save(small));
+    // 100 by 40 out of 140 by 60: 20 columns and 10 rows cut on each side.
+    const QImage clipped = Paint(WithImage(big.toStdString(), 0));
+    EXPECT_EQ(Pixel(clipped, 0, 0), qRgb(20, 10, 200) & 0xFFFFFFu);
+    EXPECT_EQ(Pixel(clipped, 99, 39), qRgb(119, 49, 200) & 0xFFFFFFu);
+    const QImage centred = Paint(WithImage(small.toStdString(), 0));
+    EXPECT_EQ(Pixel(centred, 45, 15), qRgb(0, 0, 200) & 0xFFFFFFu);
+    EXPECT_EQ(Pixel(centred, 54, 24), qRgb(9, 9, 200) & 0xFFFFFFu);
+    EXPECT_EQ(InkBox(centred, kWhite), QRect(45, 15, 10, 10));
+}
+
+TEST(DrawPix, TileRepeatsAGifFromTheTopLeftCorner) {
+    const QImage tile(QString::fromStdString(kTileGif));
+    ASSERT_EQ(tile.size(), QSize(40, 40));
+    const QImage picture = Paint(WithImage(kTileGif, 1, 100, 90));
+    for (int y = 0; y < 90; ++y)
+        for (int x = 0; x < 100; ++x)
+            ASSERT_EQ(Pixel(picture, x, y), tile.pixel(x % 40, y % 40) & 0xFFFFFFu)
+                << x << "," << y;
+}
+
+TEST(DrawPix, StretchFillsThePictureWithAJpeg) {
+    QTemporaryDir dir;
+    QImage halves(20, 10, QImage::Format_RGB32);
+    halves.fill(qRgb(0, 160, 0));
+    QPainter(&halves).fillRect(10, 0, 10, 10, QColor(160, 0, 160));
+    ASSERT_TRUE(halves.save(dir.filePath("halves.jpg"), "JPEG"));
+    const QImage picture = Paint(WithImage(dir.filePath("halves.jpg").toStdString(), 2));
+    // Green left, purple right, up to the corners (JPEG shifts colours a little).
+    for (QPoint at : {QPoint(2, 2), QPoint(2, 37), QPoint(97, 2), QPoint(97, 37)}) {
+        const QRgb c = picture.pixel(at);
+        EXPECT_TRUE(at.x() < 50 ? qGreen(c) > 120 && qRed(c) < 40 : qRed(c) > 120 && qGreen(c) < 40)
+            << at.x() << "," << at.y();
+    }
+}
+
+TEST(DrawPix, AMissingOrBrokenImagePaintsTheColourWithoutAMessage) {
+    QTemporaryDir dir;
+    QFile junk(dir.filePath("junk.gif"));
+    ASSERT_TRUE(junk.open(QIODevice::WriteOnly) && junk.write("not an image") > 0);
+    junk.close();
+    for (const QString& file : {dir.filePath("nowhere.gif"), junk.fileName()}) {
+        ButtonRecord b = PlainButton(30, 20);
+        b.BackColorUP = 0x00FF00;
+        b.ImageUP = file.toStdString();
+        FakeUserInterface ui;
+        EXPECT_TRUE(InkBox(Paint(OneButton(b), 1, nullptr, nullptr, &ui), kGreen).isEmpty());
+        EXPECT_TRUE(ui.shown.empty());
+    }
+}
+
+TEST(DrawPix, RelativeAndBackslashPathsResolveBesideTheProjectFile) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(QDir(dir.path()).mkpath("art"));
+    SaveMarkedTile(dir, 4, "art/mark.png");
+    ProjectModel model = WithImage("art\\mark.png", 1, 8, 8);
+    model.ProjectFileName = dir.filePath("bar.orv").toStdString();
+    const QImage picture = Paint(model);
+    EXPECT_EQ(Pixel(picture, 4, 4), kRed);
+    EXPECT_EQ(Pixel(picture, 1, 1), kBlue);
+}
+
+TEST(DrawPix, TransparentButtonShowsTheBackgroundUnderIt) {
+    QTemporaryDir dir;
+    const QImage background =
+        Coordinates(200, 100).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    ButtonRecord b = PlainButton(50, 30);
+    b.noBackGround = 1;
+    b.x = 30;
+    b.y = 20;
+    EXPECT_EQ(Paint(OneButton(b), 1, &background).convertToFormat(QImage::Format_RGB32),
+              background.copy(30, 20, 50, 30).convertToFormat(QImage::Format_RGB32));
+
+    // The state's image is still drawn over the copied background.
+    b.ImageUP = SaveMarkedTile(dir, 2, "dot.png");
+    const QImage withImage = Paint(OneButton(b), 1, &background);
+    EXPECT_EQ(Pixel(withImage, 24, 14), kRed);
+    EXPECT_EQ(Pixel(withImage, 0, 0), Pixel(background, 30, 20));
+
+    // Partly outside the background it keeps its old picture, silently.
+    b.ImageUP.clear();
+    b.x = 170;
     ProjectModel model = OneButton(b);
-    EXPECT_EQ(Pixel(Paint(model), 5, 5), qRgb(255, 0, 0) & 0xFFFFFFu);
-    model.CurrentState = "OVER";
-    EXPECT_EQ(Pixel(Paint(model), 5, 5), qRgb(0, 0, 255) & 0xFFFFFFu);
-    model.CurrentState = "DOWN";
-    EXPECT_EQ(Pixel(Paint(model), 5, 5), qRgb(0, 255, 0) & 0xFFFFFFu);
+    ImageCache images;
+    ButtonPainter painter(model, images);
+    painter.setBackground(&background);
+    FakeUserInterface ui;
+    painter.setUserInterface(&ui);
+    QImage old = NewPicture(QSize(50, 30));
+    old.fill(qRgb(255, 0, 255));
+    QPainter p(&old);
+    EXPECT_FALSE(painter.MakeTransparent(p, 1));
+    painter.PaintButton(p, 1);
+    p.end();
+    EXPECT_TRUE(InkBox(old, qRgb(255, 0, 255)).isEmpty());
+    EXPECT_TRUE(ui.shown.empty());
 }
 
 TEST(DrawBorder, IsARaisedEdgeInShadesOfTheBackgroundAndOnlyWhenSet) {
-    ButtonRecord b = PlainButton(40, 20, "");
+    ButtonRecord b = PlainButton(40, 20);
     b.BackColorUP = 0x808080;
     b.Border = 1;
     const QImage framed = Paint(OneButton(b));
-    const QColor back(0x80, 0x80, 0x80);
     for (QPoint light : {QPoint(5, 0), QPoint(0, 5), QPoint(5, 1), QPoint(1, 5)})
-        EXPECT_GT(qGray(Pixel(framed, light.x(), light.y())), back.lightness())
-            << light.x() << "," << light.y();
+        EXPECT_GT(qGray(framed.pixel(light)), 0x80) << light.x() << "," << light.y();
     for (QPoint dark : {QPoint(5, 19), QPoint(39, 5), QPoint(5, 18), QPoint(38, 5)})
-        EXPECT_LT(qGray(Pixel(framed, dark.x(), dark.y())), back.lightness())
-            << dark.x() << "," << dark.y();
-    EXPECT_EQ(Pixel(framed, 20, 10), back.rgb() & 0xFFFFFFu);
+        EXPECT_LT(qGray(framed.pixel(dark)), 0x80) << dark.x() << "," << dark.y();
+    EXPECT_EQ(Pixel(framed, 20, 10), 0x808080u);
 
-    // The shades follow the colour: a red button gets a reddish edge.
-    b.BackColorUP = 255;
+    b.BackColorUP = 255; // the shades follow the colour: a red button gets a reddish edge
     const QImage red = Paint(OneButton(b));
-    EXPECT_GT(qRed(Pixel(red, 5, 19)), qGreen(Pixel(red, 5, 19)));
-
+    EXPECT_GT(qRed(red.pixel(5, 19)), qGreen(red.pixel(5, 19)));
     b.Border = 0;
-    const QImage plain = Paint(OneButton(b));
-    EXPECT_EQ(Pixel(plain, 0, 0), qRgb(255, 0, 0) & 0xFFFFFFu);
-    EXPECT_EQ(Pixel(plain, 39, 19), qRgb(255, 0, 0) & 0xFFFFFFu);
+    EXPECT_TRUE(InkBox(Paint(OneButton(b)), kRed).isEmpty());
 }
 
 TEST(DrawMultiSelector, MarksEveryButtonOfAGroupButNotASingleSelection) {
     ProjectModel model;
     ButtonList list;
     for (int i = 1; i <= 3; ++i) {
-        model.Button(i) = PlainButton(40, 20, "");
+        model.Button(i) = PlainButton(40, 20);
         list.append();
     }
     model.ButtonCount = 3;
@@ -226,17 +278,16 @@ TEST(DrawMultiSelector, MarksEveryButtonOfAGroupButNotASingleSelection) {
         for (int i = 1; i <= 3; ++i)
             model.Button(i).BackColorUP = static_cast<std::int32_t>(colour);
         const QRgb back = ColorFromRef(static_cast<std::int32_t>(colour)).rgb() & 0xFFFFFFu;
-
         list.selectOnly(1);
         EXPECT_TRUE(InkBox(Paint(model, 1, nullptr, &list), back).isEmpty());
-
         list.addSelection(2);
         for (int i : {1, 2}) {
-            const QImage marked = Paint(model, i, nullptr, &list);
             // Each corner shows both a dark and a light pixel, so it stands out on any colour.
-            const std::pair<QPoint, QPoint> corners[] = {
-                {{0, 0}, {2, 2}}, {{39, 0}, {37, 2}}, {{0, 19}, {2, 17}}, {{39, 19}, {37, 17}}};
-            for (const auto& [outer, inner] : corners) {
+            const QImage marked = Paint(model, i, nullptr, &list);
+            for (const auto& [outer, inner] : {std::pair{QPoint(0, 0), QPoint(2, 2)},
+                                               {QPoint(39, 0), QPoint(37, 2)},
+                                               {QPoint(0, 19), QPoint(2, 17)},
+                                               {QPoint(39, 19), QPoint(37, 17)}}) {
                 EXPECT_EQ(Pixel(marked, outer.x(), outer.y()), 0u);
                 EXPECT_EQ(Pixel(marked, inner.x(), inner.y()), 0xFFFFFFu);
             }

@@ -1,22 +1,21 @@
 #pragma once
 
-// Shared by the painting tests: a QGuiApplication for fonts and image readers, and small
-// pixel probes.
+// Shared by the painting tests: a QGuiApplication for fonts and image readers, test
+// buttons and images, and pixel probes.
 
 #include "buttonpainter.h"
 #include "imagecache.h"
 #include "paintsupport.h"
 #include "projectmodel.h"
 
-#include <QColor>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QRect>
-#include <QString>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
+#include <string>
 
 namespace orvelin::testing {
 
@@ -36,13 +35,16 @@ private:
     std::unique_ptr<QGuiApplication> m_app;
 };
 
-inline const bool kGuiEnvironmentRegistered = [] {
-    ::testing::AddGlobalTestEnvironment(new GuiEnvironment);
-    return true;
-}();
+inline const bool kGuiEnvironmentRegistered =
+    (::testing::AddGlobalTestEnvironment(new GuiEnvironment), true);
 
-/// A plain button: white background, black label, no border, at (0, 0).
-inline ButtonRecord PlainButton(int width, int height, const std::string& label) {
+/// The example project's GIF tile, 40 by 40 pixels of several colours.
+inline const std::string kTileGif = std::string(ORVELIN_SOURCE_DIR) + "/examples/images/tile.gif";
+
+inline constexpr QRgb kWhite = 0xFFFFFF, kRed = 0xFF0000, kGreen = 0x00FF00, kBlue = 0x0000FF;
+
+/// A plain button at (0, 0): white background, black label, no border.
+inline ButtonRecord PlainButton(int width, int height, const std::string& label = {}) {
     ButtonRecord b;
     b.Width = static_cast<std::int16_t>(width);
     b.Height = static_cast<std::int16_t>(height);
@@ -53,7 +55,7 @@ inline ButtonRecord PlainButton(int width, int height, const std::string& label)
     return b;
 }
 
-/// A model holding `button` as its only button.
+/// A model holding `button` as its only, current button.
 inline ProjectModel OneButton(const ButtonRecord& button) {
     ProjectModel model;
     model.Button(1) = button;
@@ -62,7 +64,7 @@ inline ProjectModel OneButton(const ButtonRecord& button) {
     return model;
 }
 
-/// Paints button `index` of `model` through PaintButton into a fresh picture.
+/// Button `index` of `model` painted through PaintButton into a fresh picture.
 inline QImage Paint(const ProjectModel& model, int index = 1, const QImage* background = nullptr,
                     const ButtonList* selection = nullptr, UserInterface* ui = nullptr) {
     ImageCache images;
@@ -72,8 +74,7 @@ inline QImage Paint(const ProjectModel& model, int index = 1, const QImage* back
     painter.setBackground(background);
     painter.setSelection(selection);
     painter.setUserInterface(ui);
-    const ButtonRecord& b = model.Button(index);
-    QImage picture = NewPicture(QSize(b.Width, b.Height));
+    QImage picture = NewPicture(QSize(model.Button(index).Width, model.Button(index).Height));
     QPainter p(&picture);
     painter.PaintButton(p, index);
     p.end();
@@ -84,7 +85,7 @@ inline QRgb Pixel(const QImage& image, int x, int y) {
     return image.pixel(x, y) & 0xFFFFFFu;
 }
 
-/// The box of every pixel within `area` that differs from `background`; empty when none.
+/// The box of every pixel within `area` (default: all) that differs from `background`.
 inline QRect InkBox(const QImage& image, QRgb background, QRect area = {}) {
     if (area.isNull())
         area = image.rect();
@@ -96,87 +97,23 @@ inline QRect InkBox(const QImage& image, QRgb background, QRect area = {}) {
     return box;
 }
 
-/// Whether row `y` holds any pixel other than `background`.
-inline bool RowHasInk(const QImage& image, int y, QRgb background) {
-    for (int x = 0; x < image.width(); ++x)
-        if (Pixel(image, x, y) != (background & 0xFFFFFFu))
-            return true;
-    return false;
+/// An image whose every pixel tells its place: red = x, green = y.
+inline QImage Coordinates(int width, int height) {
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y, qRgb(x, y, 200));
+    return image;
 }
 
-inline bool SameColour(QRgb a, QRgb b, int tolerance = 0) {
-    return std::abs(qRed(a) - qRed(b)) <= tolerance &&
-           std::abs(qGreen(a) - qGreen(b)) <= tolerance &&
-           std::abs(qBlue(a) - qBlue(b)) <= tolerance;
-}
-
-/**
- * Writes `image` as a GIF (Qt reads GIFs but does not write them). The pixels go out as
- * plain 9-bit codes with a clear code every 250 of them, so the code table never grows:
- * valid for every reader, just not compressed. At most 256 colours.
- */
-inline bool SaveGif(const QImage& image, const QString& path) {
-    const QImage indexed = image.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither);
-    QByteArray out("GIF89a");
-    auto word = [&out](int v) {
-        out.append(static_cast<char>(v & 0xFF));
-        out.append(static_cast<char>((v >> 8) & 0xFF));
-    };
-    word(indexed.width());
-    word(indexed.height());
-    out.append(static_cast<char>(0xF7)); // global table of 256 entries
-    out.append('\0');
-    out.append('\0');
-    for (int i = 0; i < 256; ++i) {
-        const QRgb c = i < indexed.colorCount() ? indexed.color(i) : 0;
-        out.append(static_cast<char>(qRed(c)));
-        out.append(static_cast<char>(qGreen(c)));
-        out.append(static_cast<char>(qBlue(c)));
-    }
-    out.append(',');
-    word(0);
-    word(0);
-    word(indexed.width());
-    word(indexed.height());
-    out.append('\0');
-    out.append(static_cast<char>(8)); // minimum code size
-
-    QByteArray data;
-    quint32 bits = 0;
-    int bitCount = 0;
-    auto put = [&](int code) {
-        bits |= static_cast<quint32>(code) << bitCount;
-        bitCount += 9;
-        while (bitCount >= 8) {
-            data.append(static_cast<char>(bits & 0xFF));
-            bits >>= 8;
-            bitCount -= 8;
-        }
-    };
-    put(256);
-    int sinceClear = 0;
-    for (int y = 0; y < indexed.height(); ++y)
-        for (int x = 0; x < indexed.width(); ++x) {
-            if (sinceClear == 250) {
-                put(256);
-                sinceClear = 0;
-            }
-            put(indexed.pixelIndex(x, y));
-            ++sinceClear;
-        }
-    put(257);
-    if (bitCount > 0)
-        data.append(static_cast<char>(bits & 0xFF));
-    for (qsizetype at = 0; at < data.size(); at += 255) {
-        const qsizetype n = std::min<qsizetype>(255, data.size() - at);
-        out.append(static_cast<char>(n));
-        out.append(data.mid(at, n));
-    }
-    out.append('\0');
-    out.append(';');
-
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(out) == out.size();
+/// Saves a blue square with a red top left pixel as `name` in `dir`; gives its path.
+inline std::string SaveMarkedTile(const QTemporaryDir& dir, int side, const char* name) {
+    QImage tile(side, side, QImage::Format_RGB32);
+    tile.fill(qRgb(0, 0, 255));
+    tile.setPixel(0, 0, qRgb(255, 0, 0));
+    const QString path = dir.filePath(QString::fromLatin1(name));
+    EXPECT_TRUE(tile.save(path)) << name;
+    return path.toStdString();
 }
 
 } // namespace orvelin::testing

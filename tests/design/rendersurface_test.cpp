@@ -2,66 +2,149 @@
 #include "painttesting.h"
 #include "rendersurface.h"
 
-#include <QTemporaryDir>
+#include <QFile>
 
 using namespace orvelin;
 using namespace orvelin::testing;
 
 namespace {
 
-/// An applet of 120 by 60 on a black background with `count` plain buttons.
+class AppletBackground : public ::testing::Test {
+protected:
+    QTemporaryDir dir;
+    ProjectModel model;
+    ImageCache images;
+
+    void SetUp() override {
+        model.AppletWidth = 60;
+        model.AppletHeight = 40;
+        model.BackGround = 0x00FF00;
+    }
+    QImage render(bool switchedOff = false) { return RenderBackground(model, images, switchedOff); }
+};
+
+/// An applet of 120 by 60 on a black background with `count` plain buttons of 30 by 20.
 ProjectModel Applet(int count) {
     ProjectModel model;
     model.AppletWidth = 120;
     model.AppletHeight = 60;
     model.BackGround = 0;
     for (int i = 1; i <= count; ++i)
-        model.Button(i) = PlainButton(30, 20, "");
+        model.Button(i) = PlainButton(30, 20);
     model.ButtonCount = static_cast<std::int16_t>(count);
     return model;
 }
 
 } // namespace
 
-TEST(RenderSurface, PaintsTheBackgroundThenTheButtonsInZOrder) {
+TEST_F(AppletBackground, CenterPlacesTheImageInTheMiddleShiftedByTheOffsetOverTheColour) {
+    model.BackImg = dir.filePath("gone.jpg").toStdString(); // missing: the plain colour
+    EXPECT_EQ(render().size(), QSize(60, 40));
+    EXPECT_TRUE(InkBox(render(), kGreen).isEmpty());
+    model.BackImg = SaveMarkedTile(dir, 10, "c.png");
+    EXPECT_EQ(Pixel(render(), 25, 15), kRed);
+    EXPECT_EQ(InkBox(render(), kGreen), QRect(25, 15, 10, 10));
+    model.BgOffsetX = -7;
+    model.BgOffsetY = 4;
+    EXPECT_EQ(InkBox(render(), kGreen), QRect(18, 19, 10, 10));
+}
+
+TEST_F(AppletBackground, TileCoversTheWholeAreaWithTheGridAnchoredAtTheOffset) {
+    const QImage tile(QString::fromStdString(kTileGif));
+    model.AppletWidth = 100;
+    model.AppletHeight = 90;
+    model.BackImg = kTileGif;
+    model.BackImgStyle = 1;
+    model.BgOffsetX = 3;
+    model.BgOffsetY = 5;
+    const QImage background = render();
+    // Left of and above the offset too.
+    for (int y = 0; y < 90; ++y)
+        for (int x = 0; x < 100; ++x)
+            ASSERT_EQ(Pixel(background, x, y), tile.pixel((x + 37) % 40, (y + 35) % 40) & 0xFFFFFF)
+                << x << "," << y;
+}
+
+TEST_F(AppletBackground, StretchScalesTheImageToTheAreaFromTheOffset) {
+    model.BackImg = SaveMarkedTile(dir, 4, "s.png");
+    model.BackImgStyle = 2;
+    // The red pixel of a 4 by 4 image becomes the top left quarter's corner block.
+    const QImage background = render();
+    EXPECT_EQ(Pixel(background, 0, 0), kRed);
+    EXPECT_EQ(Pixel(background, 14, 9), kRed);
+    EXPECT_EQ(Pixel(background, 15, 10), kBlue);
+    EXPECT_EQ(Pixel(background, 59, 39), kBlue);
+    model.BgOffsetX = 20;
+    EXPECT_EQ(Pixel(render(), 19, 0), kGreen);
+    EXPECT_EQ(Pixel(render(), 20, 0), kRed);
+}
+
+TEST_F(AppletBackground, SwitchedOffShowsANeutralCheckerInsteadOfColourAndImage) {
+    model.BackImg = SaveMarkedTile(dir, 10, "off.png");
+    const QImage off = render(true);
+    const QRgb a = Pixel(off, 0, 0), b = Pixel(off, 8, 0);
+    EXPECT_NE(a, b);
+    EXPECT_EQ(Pixel(off, 8, 8), a);
+    for (QRgb c : {a, b})
+        EXPECT_TRUE(qRed(c) == qGreen(c) && qGreen(c) == qBlue(c)) << std::hex << c;
+}
+
+TEST(ImageCacheTest, ReadsAnImageAgainWhenItsFileChangesOnTheNextPass) {
+    QTemporaryDir dir;
+    const std::string path = SaveMarkedTile(dir, 4, "swap.png");
+    ImageCache images;
+    EXPECT_EQ(images.image(path).size(), QSize(4, 4));
+
+    QImage second(6, 6, QImage::Format_RGB32);
+    second.fill(Qt::blue);
+    ASSERT_TRUE(second.save(QString::fromStdString(path)));
+    QFile touched(QString::fromStdString(path));
+    ASSERT_TRUE(touched.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(touched.setFileTime(QDateTime::currentDateTime().addSecs(5),
+                                    QFileDevice::FileModificationTime));
+    touched.close();
+    EXPECT_EQ(images.image(path).size(), QSize(4, 4)); // once per pass
+    images.newPass();
+    EXPECT_EQ(images.image(path).size(), QSize(6, 6));
+    EXPECT_EQ(Pixel(images.image(path), 0, 0), kBlue);
+    EXPECT_TRUE(images.image("").isNull());
+    EXPECT_TRUE(images.image(dir.filePath("none.png").toStdString()).isNull());
+}
+
+TEST(RenderSurface, PaintsTheBackgroundThenTheButtonsInZOrderEachInItsState) {
     ProjectModel model = Applet(2);
     model.Button(1).x = 10;
     model.Button(1).y = 10;
-    model.Button(1).BackColorUP = 255; // red
+    model.Button(1).BackColorUP = 255;
     model.Button(2).x = 30;
     model.Button(2).y = 20;
-    model.Button(2).BackColorUP = 0xFF0000; // blue, later, so on top
+    model.Button(2).BackColorUP = 0xFF0000; // later, so on top
+    model.Button(2).BackColorOVER = 0x00FF00;
     const QImage surface = RenderSurface(model, "UP");
     EXPECT_EQ(surface.size(), QSize(120, 60));
     EXPECT_EQ(Pixel(surface, 0, 0), 0u);
-    EXPECT_EQ(Pixel(surface, 15, 15), 0xFF0000u);
-    EXPECT_EQ(Pixel(surface, 35, 25), 0x0000FFu); // the overlap belongs to button 2
-    EXPECT_EQ(Pixel(surface, 59, 39), 0x0000FFu);
+    EXPECT_EQ(Pixel(surface, 15, 15), kRed);
+    EXPECT_EQ(Pixel(surface, 35, 25), kBlue);
+    EXPECT_EQ(Pixel(surface, 59, 39), kBlue);
     EXPECT_EQ(Pixel(surface, 60, 40), 0u);
+    EXPECT_EQ(Pixel(RenderSurface(model, "OVER"), 35, 25), kGreen);
 }
 
-TEST(RenderSurface, PaintsTheRequestedStateAndClipsEachButtonToItsRectangle) {
+TEST(RenderSurface, ClipsEachButtonToItsRectangle) {
     ProjectModel model = Applet(1);
-    ButtonRecord& b = model.Button(1);
-    b.x = 40;
-    b.y = 20;
-    b.BackColorOVER = 0x00FF00;
-    b.LabelOVER = "WWWWWWWWWWWWWWWWWWWW"; // far wider than the button
-    b.FontColorOVER = 0xFFFFFF;
-    const QImage over = RenderSurface(model, "OVER");
-    EXPECT_EQ(Pixel(over, 45, 22), 0x00FF00u);
-    EXPECT_TRUE(InkBox(over, 0, QRect(0, 0, 40, 60)).isEmpty());
-    EXPECT_TRUE(InkBox(over, 0, QRect(70, 0, 50, 60)).isEmpty());
-    EXPECT_EQ(Pixel(RenderSurface(model, "UP"), 45, 22), 0xFFFFFFu);
+    model.Button(1).x = 40;
+    model.Button(1).y = 20;
+    model.Button(1).LabelUP = "WWWWWWWWWWWWWWWWWWWW"; // far wider than the button
+    model.Button(1).BackColorUP = 0x00FF00;
+    const QImage surface = RenderSurface(model, "UP");
+    EXPECT_EQ(Pixel(surface, 45, 22), kGreen);
+    EXPECT_TRUE(InkBox(surface, 0, QRect(0, 0, 40, 60)).isEmpty());
+    EXPECT_TRUE(InkBox(surface, 0, QRect(70, 0, 50, 60)).isEmpty());
 }
 
 TEST(RenderSurface, ATransparentButtonShowsTheBackgroundButNotTheButtonsBelow) {
     QTemporaryDir dir;
-    QImage tile(7, 5, QImage::Format_RGB32);
-    for (int y = 0; y < 5; ++y)
-        for (int x = 0; x < 7; ++x)
-            tile.setPixel(x, y, qRgb(30 * x, 40 * y, 90));
-    ASSERT_TRUE(tile.save(dir.filePath("bg.png")));
+    ASSERT_TRUE(Coordinates(7, 5).save(dir.filePath("bg.png")));
     ProjectModel model = Applet(2);
     model.ProjectFileName = dir.filePath("t.orv").toStdString();
     model.BackImg = "bg.png";
@@ -72,15 +155,20 @@ TEST(RenderSurface, ATransparentButtonShowsTheBackgroundButNotTheButtonsBelow) {
     model.Button(2).x = 25;
     model.Button(2).y = 15;
     model.Button(2).noBackGround = 1;
-
     const QImage surface = RenderSurface(model, "UP");
     ImageCache images;
     images.setProjectFile(model.ProjectFileName);
-    const QImage background = RenderBackground(model, images, false);
-    for (int y = 15; y < 35; ++y)
-        for (int x = 25; x < 55; ++x)
-            ASSERT_EQ(Pixel(surface, x, y), Pixel(background, x, y)) << x << "," << y;
-    EXPECT_EQ(Pixel(surface, 22, 12), 0xFF0000u);
+    EXPECT_EQ(surface.copy(25, 15, 30, 20).convertToFormat(QImage::Format_RGB32),
+              RenderBackground(model, images, false)
+                  .copy(25, 15, 30, 20)
+                  .convertToFormat(QImage::Format_RGB32));
+    EXPECT_EQ(Pixel(surface, 22, 12), kRed);
+
+    // With the background switched off they show the checker, under the button too.
+    RenderOptions options;
+    options.noBackGround = true;
+    const QImage off = RenderSurface(model, "UP", options);
+    EXPECT_NE(Pixel(off, 30, 20), Pixel(off, 38, 20));
 }
 
 TEST(RenderSurface, DrawsTheMultiSelectionMarkerOnlyForAGroup) {
@@ -98,16 +186,4 @@ TEST(RenderSurface, DrawsTheMultiSelectionMarkerOnlyForAGroup) {
     EXPECT_EQ(Pixel(group, 0, 0), 0u);
     EXPECT_EQ(Pixel(group, 2, 2), 0xFFFFFFu);
     EXPECT_EQ(Pixel(group, 62, 2), 0xFFFFFFu);
-    EXPECT_NE(group, RenderSurface(model, "UP"));
-}
-
-TEST(RenderSurface, ABackgroundSwitchedOffIsWhatTransparentButtonsShow) {
-    ProjectModel model = Applet(1);
-    model.BackGround = 0x00FF00;
-    model.Button(1).noBackGround = 1;
-    RenderOptions options;
-    options.noBackGround = true;
-    const QImage surface = RenderSurface(model, "UP", options);
-    EXPECT_NE(Pixel(surface, 5, 5), 0x00FF00u);
-    EXPECT_NE(Pixel(surface, 0, 0), Pixel(surface, 8, 0)); // the checker, under the button too
 }
