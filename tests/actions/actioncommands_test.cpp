@@ -7,127 +7,104 @@ using Outcome = CommandResult::Outcome;
 
 namespace {
 
-CommandInputs WithButtons(int button = 1, int state = 1) {
+/// What a build came to, in one text: the line, or the kind of refusal.
+std::string Built(const CommandResult& r) {
+    switch (r.outcome) {
+    case Outcome::Line:
+        return r.line;
+    case Outcome::Silent:
+        return "<silent>";
+    case Outcome::NoButtons:
+        return "<no buttons>";
+    case Outcome::WrongParameters:
+        return "<wrong: " + r.error + ">";
+    }
+    return "<?>";
+}
+
+CommandInputs Button(int button, int state = 1, const char* label = "") {
     CommandInputs in;
     in.haveButtons = true;
     in.button = button;
     in.state = state;
+    in.label = label;
     return in;
 }
-
-CommandResult Move(const char* x, const char* y, const char* w, const char* h) {
-    CommandInputs in = WithButtons(2);
+CommandInputs Move(const char* x, const char* y, const char* w, const char* h) {
+    CommandInputs in = Button(2);
     in.x = x;
     in.y = y;
     in.width = w;
     in.height = h;
-    return BuildMove(in);
+    return in;
+}
+/// No buttons, and the given milliseconds and script.
+CommandInputs Typed(const char* milliseconds, const char* javaScript = "") {
+    CommandInputs in;
+    in.milliseconds = milliseconds;
+    in.javaScript = javaScript;
+    return in;
 }
 
 } // namespace
 
-TEST(BuildCommands, ButtonCommandsNeedAButton) {
-    CommandInputs none;
+TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
+    CommandInputs none = Typed("300", "go()");
     none.label = "FF8000";
-    EXPECT_EQ(BuildShowHide(ActionCommand::Show, none).outcome, Outcome::NoButtons);
-    EXPECT_EQ(BuildShowHide(ActionCommand::Hide, none).outcome, Outcome::NoButtons);
-    EXPECT_EQ(BuildMove(none).outcome, Outcome::NoButtons);
-    EXPECT_EQ(BuildSetColor(none).outcome, Outcome::NoButtons);
-    CommandInputs emptyLabel;
-    EXPECT_EQ(BuildSetLabel(emptyLabel).outcome, Outcome::NoButtons);
-    EXPECT_EQ(emptyLabel.label, "") << "a refused label keeps its box";
-}
-
-TEST(BuildCommands, WaitAndJavaScriptNeedNoButton) {
-    CommandInputs none;
-    none.milliseconds = "300";
-    none.javaScript = "go()";
-    EXPECT_EQ(BuildWait(none).line, "6 300");
-    EXPECT_EQ(BuildCallJavaScript(none).line, "7 0 go()");
-}
-
-TEST(BuildCommands, ShowAndHideNameTheButton) {
-    EXPECT_EQ(BuildShowHide(ActionCommand::Show, WithButtons(2)).line, "1 2");
-    EXPECT_EQ(BuildShowHide(ActionCommand::Hide, WithButtons(7)).line, "2 7");
-}
-
-TEST(BuildCommands, MoveWritesEmptyBoxesAsLeftAsTheyAre) {
-    EXPECT_EQ(Move("10", "", "", "").line, "3 2 10 -999 -999 -999");
-    EXPECT_EQ(Move("", "", "", "").line, "3 2 -999 -999 -999 -999");
-    EXPECT_EQ(Move("-999", "-32768", "32767", " 7 ").line, "3 2 -999 -32768 32767 7");
-}
-
-TEST(BuildCommands, MoveRoundsHalvesToTheEvenNumber) {
-    EXPECT_EQ(Move("2.5", "3.5", "-0.5", "1.6").line, "3 2 2 4 0 2");
-}
-
-TEST(BuildCommands, MoveRefusesWhatIsNoSixteenBitNumber) {
-    const CommandResult mismatch = Move("10", "", "abc", "40000");
-    EXPECT_EQ(mismatch.outcome, Outcome::WrongParameters);
-    EXPECT_EQ(mismatch.error, "Type mismatch") << "the first bad box is the one reported";
-    EXPECT_TRUE(mismatch.line.empty());
-    const CommandResult overflow = Move("32768", "", "", "");
-    EXPECT_EQ(overflow.outcome, Outcome::WrongParameters);
-    EXPECT_EQ(overflow.error, "Overflow");
-    EXPECT_EQ(Move("", "", "", "-32769").error, "Overflow");
-    EXPECT_EQ(Move(" ", "", "", "").error, "Type mismatch");
-}
-
-TEST(BuildCommands, EmptyLabelBecomesOneBlankInTheBox) {
-    CommandInputs in = WithButtons(1, 2);
-    const CommandResult r = BuildSetLabel(in);
-    EXPECT_EQ(r.line, "4 1 2 &nbsp");
-    EXPECT_EQ(in.label, " ");
-}
-
-TEST(BuildCommands, LabelIsEncodedButKeepsItsSemicolon) {
-    CommandInputs in = WithButtons(3, 3);
-    in.label = "Hi there|\"x\";y";
-    EXPECT_EQ(BuildSetLabel(in).line, "4 3 3 Hi&nbspthereI&y02x&y02;y");
-    EXPECT_EQ(in.label, "Hi there|\"x\";y");
-}
-
-TEST(BuildCommands, ColourNeedsExactlySixCharacters) {
-    CommandInputs in = WithButtons(1, 2);
-    for (const char* text : {"", "12345", "1234567"}) {
-        in.label = text;
-        const CommandResult r = BuildSetColor(in);
-        EXPECT_EQ(r.outcome, Outcome::Silent) << text;
-        EXPECT_TRUE(r.error.empty());
-    }
-    in.label = "FF8000";
-    EXPECT_EQ(BuildSetColor(in).line, "5 1 2 FF8000");
-    in.label = "zzzzzz"; // not checked to be hexadecimal
-    EXPECT_EQ(BuildSetColor(in).line, "5 1 2 zzzzzz");
-    in.label = "äöüÄÖÜ"; // six characters in twelve bytes
-    EXPECT_TRUE(BuildSetColor(in).added());
-}
-
-TEST(BuildCommands, WaitStoresThePositiveNumberOrFive) {
-    CommandInputs in;
-    const std::pair<const char*, const char*> cases[] = {
-        {"-250", "6 250"}, {"abc", "6 5"}, {"", "6 5"}, {"2.50", "6 2.5"}, {"100", "6 100"}};
-    for (const auto& [typed, line] : cases) {
-        in.milliseconds = typed;
-        EXPECT_EQ(BuildWait(in).line, line) << typed;
+    const std::vector<std::tuple<int, CommandInputs, std::string>> cases = {
+        {1, none, "<no buttons>"},
+        {2, none, "<no buttons>"},
+        {3, none, "<no buttons>"},
+        {4, Typed(""), "<no buttons>"},
+        {5, none, "<no buttons>"},
+        {6, none, "6 300"},
+        {7, none, "7 0 go()"},
+        {0, Button(1), "<silent>"},
+        {8, Button(1), "<silent>"},
+        {1, Button(2), "1 2"},
+        {2, Button(7), "2 7"},
+        // Empty boxes leave a value as it is; halves round to the even number.
+        {3, Move("10", "", "", ""), "3 2 10 -999 -999 -999"},
+        {3, Move("", "", "", ""), "3 2 -999 -999 -999 -999"},
+        {3, Move("-999", "-32768", "32767", " 7 "), "3 2 -999 -32768 32767 7"},
+        {3, Move("2.5", "3.5", "-0.5", "1.6"), "3 2 2 4 0 2"},
+        // The first bad box is the one reported.
+        {3, Move("10", "", "abc", "40000"), "<wrong: Type mismatch>"},
+        {3, Move("32768", "", "", ""), "<wrong: Overflow>"},
+        {3, Move("", "", "", "-32769"), "<wrong: Overflow>"},
+        {3, Move(" ", "", "", ""), "<wrong: Type mismatch>"},
+        {4, Button(1, 2, ""), "4 1 2 &nbsp"},
+        {4, Button(3, 3, "Hi there|\"x\";y"), "4 3 3 Hi&nbspthereI&y02x&y02;y"},
+        // A colour needs exactly six characters, not checked to be hexadecimal.
+        {5, Button(1, 2, ""), "<silent>"},
+        {5, Button(1, 2, "12345"), "<silent>"},
+        {5, Button(1, 2, "1234567"), "<silent>"},
+        {5, Button(1, 2, "FF8000"), "5 1 2 FF8000"},
+        {5, Button(1, 2, "zzzzzz"), "5 1 2 zzzzzz"},
+        {5, Button(1, 2, "äöüÄÖÜ"), "5 1 2 äöüÄÖÜ"}, // six characters in twelve bytes
+        // Wait stores the positive number, or 5.
+        {6, Typed("-250"), "6 250"},
+        {6, Typed("abc"), "6 5"},
+        {6, Typed(""), "6 5"},
+        {6, Typed("2.50"), "6 2.5"},
+        {7, Typed("", ""), "<silent>"},
+        {7, Typed("", "alert('Hi; there')"), "7 0 alert('Hi&y01&nbspthere')"},
+        {7, Typed("", "f(\"a|b\");"), "7 0 f(&y02aIb&y02)&y01"},
+    };
+    for (auto [command, inputs, expected] : cases) {
+        SCOPED_TRACE(std::to_string(command) + " " + inputs.label + inputs.x + inputs.milliseconds);
+        EXPECT_EQ(Built(BuildCommand(command, inputs)), expected);
     }
 }
 
-TEST(BuildCommands, JavaScriptEscapesBlanksQuotesAndSemicolons) {
-    CommandInputs in;
-    EXPECT_EQ(BuildCallJavaScript(in).outcome, Outcome::Silent);
-    in.javaScript = "alert('Hi; there')";
-    EXPECT_EQ(BuildCallJavaScript(in).line, "7 0 alert('Hi&y01&nbspthere')");
-    in.javaScript = "f(\"a|b\");";
-    EXPECT_EQ(BuildCallJavaScript(in).line, "7 0 f(&y02aIb&y02)&y01");
-}
-
-TEST(BuildCommands, DispatchOnTheCommandNumber) {
-    CommandInputs in = WithButtons(1);
-    in.milliseconds = "10";
-    EXPECT_EQ(BuildCommand(1, in).line, "1 1");
-    EXPECT_EQ(BuildCommand(6, in).line, "6 10");
-    EXPECT_EQ(BuildCommand(4, in).line, "4 1 1 &nbsp");
-    EXPECT_EQ(BuildCommand(0, in).outcome, Outcome::Silent);
-    EXPECT_EQ(BuildCommand(8, in).outcome, Outcome::Silent);
+TEST(BuildCommand, AnEmptyLabelPutsOneBlankIntoItsBoxOtherLabelsStayAsTyped) {
+    CommandInputs empty = Button(1, 2, "");
+    BuildCommand(4, empty);
+    EXPECT_EQ(empty.label, " ");
+    CommandInputs typed = Button(1, 2, "Hi there|;");
+    BuildCommand(4, typed);
+    EXPECT_EQ(typed.label, "Hi there|;");
+    CommandInputs refused;
+    BuildCommand(4, refused);
+    EXPECT_EQ(refused.label, "") << "a refused label keeps its box";
 }

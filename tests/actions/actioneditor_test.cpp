@@ -7,11 +7,13 @@
 
 using namespace orvelin;
 using orvelin::testing::FakeUserInterface;
+using Lines = std::vector<std::string>;
 
 namespace {
 
 enum Command { Show, Hide, Move, SetLabel, SetColor, Wait, CallJavaScript };
 
+/// Three buttons, button 2 current, ProgramOVER of button 2 "2 1;6 500;".
 class ActionEditorTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -20,12 +22,14 @@ protected:
         model.CurrentButton = 2;
         model.Button(1).ProgramOVER = "1 1;";
         model.Button(2).ProgramOVER = "2 1;6 500;";
-        model.Button(3).ProgramOVER = "";
     }
     void TearDown() override { ProgramBuffer().clear(); }
 
-    // Adds one command with the given inputs already typed.
-    bool Add(Command command, int button = 0) {
+    void open(const std::string& program) {
+        model.Button(2).ProgramOVER = program;
+        editor.open("ProgramOVER");
+    }
+    bool add(int command, int button = 0) {
         editor.setCommand(command);
         editor.setButton(button);
         return editor.add();
@@ -40,24 +44,25 @@ protected:
 
 TEST_F(ActionEditorTest, OpeningFillsTheListsAndLoadsTheCurrentButtonsProgram) {
     editor.open("ProgramOVER");
-    EXPECT_EQ(editor.buttonTexts(), (std::vector<std::string>{"Button 1", "Button 2", "Button 3"}));
-    EXPECT_EQ(editor.stateTexts(),
-              (std::vector<std::string>{"Up State", "Mouse-Over", "Down State"}));
+    EXPECT_EQ(editor.buttonTexts(), Lines({"Button 1", "Button 2", "Button 3"}));
+    EXPECT_EQ(editor.stateTexts(), Lines({"Up State", "Mouse-Over", "Down State"}));
     EXPECT_EQ(editor.commandTexts().size(), 7u);
-    EXPECT_EQ(editor.button(), 0);
-    EXPECT_EQ(editor.command(), Show);
-    EXPECT_EQ(editor.state(), 0);
-    EXPECT_EQ(editor.commandLines(), (std::vector<std::string>{"2 1", "6 500"}));
-    EXPECT_EQ(editor.readableLines(), (std::vector<std::string>{"Hide Button 1", "Wait: 500 ms"}));
+    EXPECT_EQ(editor.button() + editor.command() + editor.state(), 0);
+    EXPECT_EQ(editor.commandLines(), Lines({"2 1", "6 500"}));
+    EXPECT_EQ(editor.readableLines(), Lines({"Hide Button 1", "Wait: 500 ms"}));
     EXPECT_EQ(editor.selection(), -1);
     EXPECT_EQ(editor.inputs().milliseconds, "100");
+
+    model.CurrentButton = 0;
+    editor.open("ProgramOVER");
+    EXPECT_TRUE(editor.commandLines().empty());
     EXPECT_TRUE(ui.shown.empty());
 }
 
-TEST_F(ActionEditorTest, OkCopiesTheCurrentButtonsProgramToEverySelectedButton) {
+TEST_F(ActionEditorTest, OkCopiesTheProgramToEverySelectedButtonOnly) {
     editor.open("ProgramOVER");
     editor.inputs().milliseconds = "250";
-    ASSERT_TRUE(Add(Wait));
+    ASSERT_TRUE(add(Wait));
     editor.ok({false, true, true});
     EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;6 250;");
     EXPECT_EQ(model.Button(3).ProgramOVER, "2 1;6 500;6 250;");
@@ -69,26 +74,18 @@ TEST_F(ActionEditorTest, OkCopiesTheCurrentButtonsProgramToEverySelectedButton) 
 TEST_F(ActionEditorTest, AppletKindsUseTheProjectsSlot) {
     model.AppletProgramOUT = "7 0 bye();";
     editor.open("AppletProgramOUT");
-    EXPECT_EQ(editor.readableLines(), (std::vector<std::string>{"Call JavaScript: bye()"}));
-    ASSERT_TRUE(Add(Show, 2));
+    EXPECT_EQ(editor.readableLines(), Lines({"Call JavaScript: bye()"}));
+    ASSERT_TRUE(add(Show, 2));
     editor.ok({true, true, true});
     EXPECT_EQ(model.AppletProgramOUT, "7 0 bye();1 3;");
     EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
 }
 
-TEST_F(ActionEditorTest, WithoutACurrentButtonTheProgramStartsEmpty) {
-    model.CurrentButton = 0;
-    editor.open("ProgramOVER");
-    EXPECT_TRUE(editor.commandLines().empty());
-    EXPECT_TRUE(ui.shown.empty());
-}
-
 TEST_F(ActionEditorTest, UnknownKindIsReportedAndStoresNothing) {
     editor.open("ProgramLEFT");
-    ASSERT_EQ(ui.messages(), (std::vector<std::string>{"Wrong Return Parameters"}));
-    EXPECT_TRUE(editor.commandLines().empty());
-    EXPECT_TRUE(editor.readableLines().empty());
-    ASSERT_TRUE(Add(Show));
+    ASSERT_EQ(ui.messages(), Lines({"Wrong Return Parameters"}));
+    EXPECT_TRUE(editor.commandLines().empty() && editor.readableLines().empty());
+    ASSERT_TRUE(add(Show));
     editor.ok({true, true, true});
     EXPECT_EQ(model.Button(1).ProgramOVER, "1 1;");
     EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
@@ -103,7 +100,6 @@ TEST_F(ActionEditorTest, CancellingWritesNothing) {
         scratch.add();
         scratch.select(0);
         scratch.remove();
-        scratch.copy();
         scratch.paste();
     } // closed without OK
     EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
@@ -117,51 +113,50 @@ TEST_F(ActionEditorTest, ButtonCommandsAreRefusedWithoutButtonsButWaitIsAdded) {
     EXPECT_EQ(editor.button(), -1);
     for (Command c : {Show, Hide, Move, SetLabel, SetColor}) {
         editor.inputs().label = "FF0000";
-        EXPECT_FALSE(Add(c, -1));
+        EXPECT_FALSE(add(c, -1)) << c;
     }
     ASSERT_EQ(ui.shown.size(), 5u);
     EXPECT_EQ(ui.shown[0].text, "No Buttons on the Applet");
     EXPECT_EQ(ui.shown[0].title, "");
     EXPECT_TRUE(editor.commandLines().empty());
-    EXPECT_TRUE(Add(Wait, -1));
-    EXPECT_EQ(editor.commandLines(), (std::vector<std::string>{"6 100"}));
+    EXPECT_TRUE(add(Wait, -1));
+    EXPECT_EQ(editor.commandLines(), Lines({"6 100"}));
 }
 
 TEST_F(ActionEditorTest, EmptyLabelIsAddedAsABlankThatStaysInTheBox) {
     editor.open("ProgramOVER");
     editor.setState(2);
-    ASSERT_TRUE(Add(SetLabel, 1));
+    ASSERT_TRUE(add(SetLabel, 1));
     EXPECT_EQ(editor.commandLines().back(), "4 2 3 &nbsp");
     EXPECT_EQ(editor.inputs().label, " ");
     EXPECT_EQ(editor.selection(), 2);
 }
 
-TEST_F(ActionEditorTest, ColourOfFiveCharactersDoesNothing) {
+TEST_F(ActionEditorTest, ColourOfFiveCharactersOrNoCommandAddsNothing) {
     editor.open("ProgramOVER");
-    editor.select(1);
-    editor.setCommand(SetColor);
+    editor.setCommand(SetLabel);
+    editor.inputs().label = "Hello";
+    editor.setCommand(SetColor); // empties the label box
+    EXPECT_EQ(editor.inputs().label, "");
+    editor.select(0);
     editor.inputs().label = "12345";
     EXPECT_FALSE(editor.add());
     EXPECT_TRUE(ui.shown.empty());
     EXPECT_EQ(editor.commandLines().size(), 2u);
-    EXPECT_EQ(editor.selection(), 1);
-}
+    EXPECT_EQ(editor.selection(), 0);
 
-TEST_F(ActionEditorTest, ChoosingSetColorEmptiesTheLabelBox) {
-    editor.open("ProgramOVER");
-    editor.setCommand(SetLabel);
-    editor.inputs().label = "Hello";
-    editor.setCommand(SetColor);
-    EXPECT_EQ(editor.inputs().label, "");
+    editor.setCommand(-1); // no command: the list is rebuilt with the last line selected
+    EXPECT_FALSE(editor.add());
+    EXPECT_EQ(editor.commandLines().size(), 2u);
+    EXPECT_EQ(editor.selection(), 1);
 }
 
 TEST_F(ActionEditorTest, MoveWithAWrongBoxShowsTheConversionErrorAndAddsNothing) {
     editor.open("ProgramOVER");
     editor.select(0);
     editor.inputs().x = "10";
-    editor.inputs().y = "";
     editor.inputs().width = "abc";
-    EXPECT_FALSE(Add(Move));
+    EXPECT_FALSE(add(Move));
     ASSERT_EQ(ui.shown.size(), 1u);
     EXPECT_EQ(ui.shown[0].text, "Type mismatch");
     EXPECT_EQ(ui.shown[0].title, "Wrong Parameters");
@@ -169,27 +164,20 @@ TEST_F(ActionEditorTest, MoveWithAWrongBoxShowsTheConversionErrorAndAddsNothing)
     EXPECT_EQ(editor.selection(), 0);
 }
 
-TEST_F(ActionEditorTest, AddingWithNoCommandOnlyRebuildsAndSelectsTheLast) {
+TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgramAndTheBufferOutlivesTheDialog) {
     editor.open("ProgramOVER");
-    editor.setCommand(-1);
-    EXPECT_FALSE(editor.add());
+    editor.select(1);
+    editor.paste(); // an empty buffer: nothing
     EXPECT_EQ(editor.commandLines().size(), 2u);
     EXPECT_EQ(editor.selection(), 1);
-}
 
-TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgram) {
-    editor.open("ProgramOVER");
     editor.copy();
     EXPECT_EQ(ProgramBuffer(), "2 1;6 500;");
     editor.paste();
     EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;");
     EXPECT_EQ(editor.readableLines().size(), 4u);
-    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;") << "copying leaves the model alone";
-}
+    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
 
-TEST_F(ActionEditorTest, TheBufferOutlivesTheDialogAndCrossesKinds) {
-    editor.open("ProgramOVER");
-    editor.copy();
     ActionEditor other(model, ui);
     other.open("AppletProgramDOWN");
     other.paste();
@@ -197,88 +185,61 @@ TEST_F(ActionEditorTest, TheBufferOutlivesTheDialogAndCrossesKinds) {
     EXPECT_EQ(model.AppletProgramDOWN, "2 1;6 500;");
 }
 
-TEST_F(ActionEditorTest, PasteOfAnEmptyBufferDoesNothing) {
-    editor.open("ProgramOVER");
-    editor.select(1);
-    editor.paste();
-    EXPECT_EQ(editor.commandLines().size(), 2u);
-    EXPECT_EQ(editor.selection(), 1);
-}
-
 TEST_F(ActionEditorTest, PastedTextWithoutItsFinalSemicolonLosesItsLastCommand) {
     ProgramBuffer() = "1 3;2 3";
     editor.open("ProgramOVER");
     editor.paste();
-    EXPECT_EQ(editor.commandLines(), (std::vector<std::string>{"2 1", "6 500", "1 3"}));
+    EXPECT_EQ(editor.commandLines(), Lines({"2 1", "6 500", "1 3"}));
 }
 
 TEST_F(ActionEditorTest, LabelWithASemicolonPutsTheListsOutOfStep) {
-    model.Button(2).ProgramOVER = "4 1 1 a;b;1 1;";
-    editor.open("ProgramOVER");
+    open("4 1 1 a;b;1 1;");
     EXPECT_EQ(editor.commandLines().size(), 3u);
     EXPECT_EQ(editor.readableLines(),
-              (std::vector<std::string>{"Set Label Button 1 Up State  ->  a", "Show Button 1"}));
+              Lines({"Set Label Button 1 Up State  ->  a", "Show Button 1"}));
     // Removing "Show Button 1" takes the command line at index 1, which is "b".
     editor.select(1);
     editor.remove();
-    EXPECT_EQ(editor.commandLines(), (std::vector<std::string>{"4 1 1 a", "1 1"}));
-    EXPECT_EQ(editor.readableLines(),
-              (std::vector<std::string>{"Set Label Button 1 Up State  ->  a"}));
+    EXPECT_EQ(editor.commandLines(), Lines({"4 1 1 a", "1 1"}));
+    EXPECT_EQ(editor.readableLines(), Lines({"Set Label Button 1 Up State  ->  a"}));
     EXPECT_EQ(editor.selection(), -1);
     editor.refreshActionList();
     EXPECT_EQ(editor.readableLines().size(), 2u);
 }
 
 TEST_F(ActionEditorTest, RemovingSelectsTheFollowingLineOrNothingAfterTheLast) {
-    model.Button(2).ProgramOVER = "1 1;1 2;1 3;";
-    editor.open("ProgramOVER");
+    open("1 1;1 2;1 3;");
     editor.remove(); // no selection: nothing happens
     EXPECT_EQ(editor.commandLines().size(), 3u);
     editor.select(1);
     editor.remove();
-    EXPECT_EQ(editor.commandLines(), (std::vector<std::string>{"1 1", "1 3"}));
+    EXPECT_EQ(editor.commandLines(), Lines({"1 1", "1 3"}));
     EXPECT_EQ(editor.selection(), 1);
     EXPECT_EQ(editor.listToolTip(), "Show Button 3");
     editor.remove();
-    EXPECT_EQ(editor.commandLines(), (std::vector<std::string>{"1 1"}));
+    EXPECT_EQ(editor.commandLines(), Lines({"1 1"}));
     EXPECT_EQ(editor.selection(), -1);
     EXPECT_EQ(editor.listToolTip(), "");
 }
 
-TEST_F(ActionEditorTest, MovingStopsAtTheEnds) {
-    model.Button(2).ProgramOVER = "1 1;1 2;1 3;";
-    editor.open("ProgramOVER");
-    editor.select(0);
-    editor.moveUp();
-    EXPECT_EQ(editor.storeProgram(), "1 1;1 2;1 3;");
-    EXPECT_EQ(editor.selection(), 0);
-    editor.select(2);
-    editor.moveDown();
-    EXPECT_EQ(editor.storeProgram(), "1 1;1 2;1 3;");
-    EXPECT_EQ(editor.selection(), 2);
-    editor.select(-1);
-    editor.moveUp();
-    editor.moveDown();
-    EXPECT_EQ(editor.storeProgram(), "1 1;1 2;1 3;");
-}
-
-TEST_F(ActionEditorTest, MovingSwapsWithTheNeighbourAndFollowsTheLine) {
-    model.Button(2).ProgramOVER = "1 1;1 2;1 3;";
-    editor.open("ProgramOVER");
-    editor.select(2);
-    editor.moveUp();
-    EXPECT_EQ(editor.storeProgram(), "1 1;1 3;1 2;");
-    EXPECT_EQ(editor.selection(), 1);
-    editor.select(0);
-    editor.moveDown();
-    EXPECT_EQ(editor.storeProgram(), "1 3;1 1;1 2;");
-    EXPECT_EQ(editor.selection(), 1);
-}
-
-TEST_F(ActionEditorTest, MovingActsOnTheCommandLineAtTheReadableIndex) {
-    model.Button(2).ProgramOVER = ";1 1;1 2;";
-    editor.open("ProgramOVER");
-    ASSERT_EQ(editor.readableLines(), (std::vector<std::string>{"Show Button 1", "Show Button 2"}));
+TEST_F(ActionEditorTest, MovingSwapsWithTheNeighbourFollowsTheLineAndStopsAtTheEnds) {
+    open("1 1;1 2;1 3;");
+    struct Step {
+        int select;
+        bool up;
+        const char* program;
+        int selection;
+    };
+    for (const Step& s : {Step{0, true, "1 1;1 2;1 3;", 0}, Step{2, false, "1 1;1 2;1 3;", 2},
+                          Step{-1, true, "1 1;1 2;1 3;", -1}, Step{-1, false, "1 1;1 2;1 3;", -1},
+                          Step{2, true, "1 1;1 3;1 2;", 1}, Step{0, false, "1 3;1 1;1 2;", 1}}) {
+        editor.select(s.select);
+        s.up ? editor.moveUp() : editor.moveDown();
+        EXPECT_EQ(editor.storeProgram(), s.program) << s.select << s.up;
+        EXPECT_EQ(editor.selection(), s.selection) << s.select << s.up;
+    }
+    // It acts on the command line at the readable index.
+    open(";1 1;1 2;");
     editor.select(1);
     editor.moveUp();
     EXPECT_EQ(editor.storeProgram(), "1 1;;1 2;");
@@ -286,8 +247,7 @@ TEST_F(ActionEditorTest, MovingActsOnTheCommandLineAtTheReadableIndex) {
 }
 
 TEST_F(ActionEditorTest, DraggingMovesALineToItsNewPlace) {
-    model.Button(2).ProgramOVER = "1 1;1 2;1 3;6 10;";
-    editor.open("ProgramOVER");
+    open("1 1;1 2;1 3;6 10;");
     editor.moveLine(0, 2);
     EXPECT_EQ(editor.storeProgram(), "1 2;1 3;1 1;6 10;");
     EXPECT_EQ(editor.selection(), 2);
@@ -301,71 +261,64 @@ TEST_F(ActionEditorTest, DraggingMovesALineToItsNewPlace) {
 
 TEST_F(ActionEditorTest, PanelsFollowTheCommand) {
     editor.open("ProgramOVER");
-    const auto panels = [&](Command c) {
-        editor.setCommand(c);
+    const std::pair<Command, const char*> cases[] = {
+        {Show, "B"},       {Hide, "B"}, {Move, "BM"},          {SetLabel, "BL"},
+        {SetColor, "BLC"}, {Wait, "T"}, {CallJavaScript, "BJ"}};
+    for (const auto& [command, shown] : cases) {
+        editor.setCommand(command);
         const ActionPanels p = editor.panels();
-        return std::string() + (p.buttonList ? "B" : "") + (p.movePanel ? "M" : "") +
-               (p.labelPanel ? "L" : "") + (p.colorButton ? "C" : "") + (p.timerPanel ? "T" : "") +
-               (p.javaScript ? "J" : "");
-    };
-    EXPECT_EQ(panels(Show), "B");
-    EXPECT_EQ(panels(Hide), "B");
-    EXPECT_EQ(panels(Move), "BM");
-    EXPECT_EQ(panels(SetLabel), "BL");
-    EXPECT_EQ(panels(SetColor), "BLC");
-    EXPECT_EQ(panels(Wait), "T");
-    EXPECT_EQ(panels(CallJavaScript), "BJ");
+        EXPECT_EQ(std::string() + (p.buttonList ? "B" : "") + (p.movePanel ? "M" : "") +
+                      (p.labelPanel ? "L" : "") + (p.colorButton ? "C" : "") +
+                      (p.timerPanel ? "T" : "") + (p.javaScript ? "J" : ""),
+                  shown)
+            << command;
+    }
 }
 
 TEST_F(ActionEditorTest, DoubleClickLoadsALineBackIntoTheInputs) {
-    model.Button(2).ProgramOVER =
-        "3 3 10 -999 -5 -999;4 2 2 Hi&nbspthere;5 1 3 FF8000;6 2.5;7 0 f(1)&y01&nbspg();x;";
-    editor.open("ProgramOVER");
+    open("3 3 10 -999 -5 -999;4 2 2 Hi&nbspthere;5 1 3 FF8000;6 2.5;7 0 f(1)&y01&nbspg();x;");
     ASSERT_TRUE(editor.loadLine(0));
     EXPECT_EQ(editor.command(), Move);
     EXPECT_EQ(editor.button(), 2);
-    EXPECT_EQ(editor.inputs().x, "10");
-    EXPECT_EQ(editor.inputs().y, "");
-    EXPECT_EQ(editor.inputs().width, "-5");
-    EXPECT_EQ(editor.inputs().height, "");
+    const ActionInputs& in = editor.inputs();
+    EXPECT_EQ(in.x + "|" + in.y + "|" + in.width + "|" + in.height, "10||-5|");
     ASSERT_TRUE(editor.loadLine(1));
     EXPECT_EQ(editor.command(), SetLabel);
     EXPECT_EQ(editor.button(), 1);
     EXPECT_EQ(editor.state(), 1);
-    EXPECT_EQ(editor.inputs().label, "Hi there");
+    EXPECT_EQ(in.label, "Hi there");
     ASSERT_TRUE(editor.loadLine(2));
     EXPECT_EQ(editor.command(), SetColor);
     EXPECT_EQ(editor.state(), 2);
-    EXPECT_EQ(editor.inputs().label, "FF8000");
+    EXPECT_EQ(in.label, "FF8000");
     ASSERT_TRUE(editor.loadLine(3));
-    EXPECT_EQ(editor.inputs().milliseconds, "2.5");
+    EXPECT_EQ(editor.command(), Wait);
+    EXPECT_EQ(in.milliseconds, "2.5");
     ASSERT_TRUE(editor.loadLine(4));
     EXPECT_EQ(editor.command(), CallJavaScript);
-    EXPECT_EQ(editor.inputs().javaScript, "f(1); g()");
+    EXPECT_EQ(in.javaScript, "f(1); g()");
     EXPECT_FALSE(editor.loadLine(5));
     // Adding the loaded line again gives the same command line.
     ASSERT_TRUE(editor.loadLine(1));
     ASSERT_TRUE(editor.add());
     EXPECT_EQ(editor.commandLines().back(), "4 2 2 Hi&nbspthere");
-}
 
-TEST_F(ActionEditorTest, DoubleClickFollowsTheLineItWasBuiltFrom) {
-    model.Button(2).ProgramOVER = "4 1 1 a;b;6 300;";
-    editor.open("ProgramOVER");
+    // A line follows the command line it was built from, also out of step.
+    open("4 1 1 a;b;6 300;");
     ASSERT_TRUE(editor.loadLine(1));
     EXPECT_EQ(editor.command(), Wait);
-    EXPECT_EQ(editor.inputs().milliseconds, "300");
+    EXPECT_EQ(in.milliseconds, "300");
 }
 
 TEST_F(ActionEditorTest, PickedColourIsWrittenAsRedGreenBlue) {
     editor.open("ProgramOVER");
     editor.setCommand(SetColor);
-    editor.takeColor(0x0080FF); // orange, red in the low byte
-    EXPECT_EQ(editor.inputs().label, "FF8000");
-    editor.takeColor(0x050000); // five hexadecimal digits: nothing usable
-    EXPECT_EQ(editor.inputs().label, "");
-    editor.takeColor(0x00000A);
-    EXPECT_EQ(editor.inputs().label, "000000");
+    const std::pair<std::int32_t, const char*> cases[] = {
+        {0x0080FF, "FF8000"}, {0x050000, ""}, {0x00000A, "000000"}}; // red in the low byte
+    for (const auto& [colour, label] : cases) {
+        editor.takeColor(colour);
+        EXPECT_EQ(editor.inputs().label, label) << colour;
+    }
 }
 
 TEST_F(ActionEditorTest, ReplacedTextsShowInTheLists) {
@@ -375,18 +328,7 @@ TEST_F(ActionEditorTest, ReplacedTextsShowInTheLists) {
     ActionEditor german(model, ui, texts, {"Oben", "Über", "Unten"});
     model.Button(2).ProgramOVER = "1 2;3 1 1 2 3 4;4 1 2 x;";
     german.open("ProgramOVER");
-    EXPECT_EQ(
-        german.readableLines(),
-        (std::vector<std::string>{"Zeigen Button 2", "Move Button 1  ->  x:1 y:2 width:3 Höhe:4",
-                                  "Set Label Button 1 Über  ->  x"}));
-}
-
-TEST(ActionEditorTexts, PositionsFollowTheDocumentedOrder) {
-    ActionEditorTexts t;
-    EXPECT_EQ(t.at(0), "&Add");
-    EXPECT_EQ(t.at(7), "Append Program from Buffer to Current Program");
-    EXPECT_EQ(t.at(12), "Time in miliseconds:");
-    EXPECT_EQ(t.at(14), "Select Color");
-    EXPECT_EQ(t.at(21), "Call JavaScript");
-    EXPECT_THROW(t.at(22), std::out_of_range);
+    EXPECT_EQ(german.readableLines(),
+              Lines({"Zeigen Button 2", "Move Button 1  ->  x:1 y:2 width:3 Höhe:4",
+                     "Set Label Button 1 Über  ->  x"}));
 }
