@@ -1,13 +1,15 @@
 #include "appletarea.h"
 #include "buttonpicture.h"
+#include "designinteraction.h"
 #include "frmbgoffset.h"
 #include "frmdesign.h"
 #include "labelpositioner.h"
 #include "sizerhandle.h"
+#include "surfaceeditorlink.h"
 #include "testapplication.h"
 
-#include <QApplication>
 #include <QCheckBox>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -18,180 +20,180 @@ using namespace orvelin;
 
 namespace {
 
-QApplication& App() {
-    return orvelin::testing::TestApplication();
-}
+/// The main editor as the surface sees it: every request is written down.
+struct RecordingEditor : SurfaceEditorLink {
+    QStringList calls;
+    void ShowProp(int index) override { calls << QStringLiteral("prop %1").arg(index); }
+    void ShowGeometry(int index) override { calls << QStringLiteral("geometry %1").arg(index); }
+    void ShowSelection() override { calls << QStringLiteral("selection"); }
+};
 
-/// A design window over a project of `count` plain buttons side by side.
+/// A design window on a green applet with buttons 1..n of 100 by 30 in a row at
+/// x = 10, 130, 250 ..., y = 20; button 1 current and selected.
 struct Window {
+    QApplication& app = orvelin::testing::TestApplication();
     ProjectModel model;
     ButtonList list;
-    std::unique_ptr<FrmDesign> form;
+    RecordingEditor editor;
+    FrmDesign design{model, list};
+    DesignInteraction interaction{design, model, list, editor};
 
     explicit Window(int count) {
-        App();
-        model.AppletWidth = 300;
-        model.AppletHeight = 100;
         model.BackGround = 0x00FF00;
         for (int i = 1; i <= count; ++i) {
-            ButtonRecord& b = model.Button(i);
-            b.x = static_cast<std::int16_t>(10 + 60 * (i - 1));
-            b.y = 10;
-            b.Width = 50;
-            b.Height = 30;
+            model.Button(i).x = static_cast<std::int16_t>(10 + 120 * (i - 1));
+            model.Button(i).y = 20;
+            model.Button(i).Width = 100;
+            model.Button(i).Height = 30;
             list.append();
         }
         model.ButtonCount = static_cast<std::int16_t>(count);
         model.CurrentButton = count > 0 ? 1 : 0;
-        form = std::make_unique<FrmDesign>(model, list);
+        list.selectOnly(1);
+        design.AppletChanged();
         for (int i = 1; i <= count; ++i)
-            form->LoadButton(i);
-        form->show();
+            design.LoadButton(i);
+        design.show();
+        if (count > 0)
+            design.MoveSizer(1);
         QCoreApplication::processEvents();
     }
 
-    QRgb pixel(int index, int x, int y) { return form->pButtons(index)->picture().pixel(x, y); }
+    ButtonPicture* picture(int i) const { return design.pButtons(i); }
+    QPoint pictureAt(int i) const { return picture(i)->pos(); }
+    QPoint recordAt(int i) const { return {model.Button(i).x, model.Button(i).y}; }
+    QRgb pixel(int i, int x, int y) const { return picture(i)->picture().pixel(x, y); }
+
+    void click(int i, Qt::KeyboardModifiers keys = {}, Qt::MouseButton b = Qt::LeftButton) {
+        QTest::mouseClick(picture(i), b, keys, QPoint(5, 5));
+    }
+    /// Presses `w` at `grab` and drags the pointer by `delta` in `steps`, always aiming
+    /// at the widget where it is at that moment.
+    static void drag(QWidget* w, QPoint grab, QPoint delta, int steps = 1) {
+        const QPoint start = w->pos() + grab; // in the parent
+        QTest::mousePress(w, Qt::LeftButton, {}, grab);
+        for (int s = 1; s <= steps; ++s)
+            QTest::mouseMove(w, start + delta * s / steps - w->pos());
+        QTest::mouseRelease(w, Qt::LeftButton, {}, start + delta - w->pos());
+    }
 };
 
 } // namespace
 
 TEST(FrmDesign, ShowsOnePicturePerButtonPlacedFromItsRecordInZOrder) {
     Window w(3);
-    EXPECT_EQ(w.form->objectName(), "frmDesign");
-    ASSERT_EQ(w.form->pictureCount(), 3);
-    EXPECT_EQ(w.form->pButtons(2)->objectName(), "pButtons2");
-    EXPECT_EQ(w.form->pButtons(2)->geometry(), QRect(70, 10, 50, 30));
-    EXPECT_EQ(w.form->appletArea()->size(), QSize(300, 100));
-    // The UP colour (yellow, red in the low byte) is what the picture shows.
-    EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 255, 0));
+    EXPECT_EQ(w.design.objectName(), "frmDesign");
+    ASSERT_EQ(w.design.pictureCount(), 3);
+    EXPECT_EQ(w.picture(2)->objectName(), "pButtons2");
+    EXPECT_EQ(w.picture(2)->geometry(), QRect(130, 20, 100, 30));
+    EXPECT_EQ(w.design.appletArea()->size(), QSize(510, 170));
+    EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 255, 0)); // UP colour 65535, red in the low byte
 
-    w.model.Button(3).x = 75; // now overlaps button 2 and lies above it
-    w.form->RedrawButton(3, false, false, false);
-    EXPECT_EQ(w.form->appletArea()->childAt(100, 20), w.form->pButtons(3));
-
-    w.form->HideLastButton(3);
-    EXPECT_EQ(w.form->pictureCount(), 2);
-    w.form->ClearButtons();
-    EXPECT_EQ(w.form->pictureCount(), 0);
+    w.model.Button(3).x = 135; // now overlaps button 2 and lies above it
+    w.design.RedrawButton(3, false, false, false);
+    EXPECT_EQ(w.design.appletArea()->childAt(200, 30), w.picture(3));
+    w.design.HideLastButton(3);
+    EXPECT_EQ(w.design.pictureCount(), 2);
+    w.design.ClearButtons();
+    EXPECT_EQ(w.design.pictureCount(), 0);
 }
 
 TEST(FrmDesign, MovingAButtonThroughRedrawButtonPaintsItOnce) {
     Window w(1);
-    const int before = w.form->paintCount();
+    const int before = w.design.paintCount();
     w.model.Button(1).x = 40;
     w.model.Button(1).Width = 70;
-    w.form->RedrawButton(1, false, false, false);
+    w.design.RedrawButton(1, false, false, false);
     QCoreApplication::processEvents();
-    EXPECT_EQ(w.form->paintCount(), before + 1);
-    EXPECT_EQ(w.form->pButtons(1)->geometry(), QRect(40, 10, 70, 30));
+    EXPECT_EQ(w.design.paintCount(), before + 1);
+    EXPECT_EQ(w.picture(1)->geometry(), QRect(40, 20, 70, 30));
 
     // A resize by any other cause paints through the resize path, unless suppressed.
-    w.form->pButtons(1)->resize(80, 30);
-    EXPECT_EQ(w.form->paintCount(), before + 2);
-    w.form->setNoRedrawOnResize(true);
-    w.form->pButtons(1)->resize(90, 30);
-    w.form->setNoRedrawOnResize(false);
-    EXPECT_EQ(w.form->paintCount(), before + 2);
+    w.picture(1)->resize(80, 30);
+    EXPECT_EQ(w.design.paintCount(), before + 2);
+    w.design.setNoRedrawOnResize(true);
+    w.picture(1)->resize(90, 30);
+    w.design.setNoRedrawOnResize(false);
+    EXPECT_EQ(w.design.paintCount(), before + 2);
 }
 
 TEST(FrmDesign, RedrawFollowsTheEditedStateAndTheSelection) {
     Window w(2);
     w.model.CurrentState = "DOWN";
-    w.form->RedrawAll();
-    EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 0, 0));
-
-    w.list.selectOnly(1);
     w.list.addSelection(2);
-    w.form->RedrawAll();
+    w.design.RedrawAll();
+    EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 0, 0));
     EXPECT_EQ(w.pixel(1, 0, 0), qRgb(0, 0, 0));
     EXPECT_EQ(w.pixel(2, 2, 2), qRgb(255, 255, 255));
 }
 
-TEST(FrmDesign, HandlesStandTwoPixelsOutsideEachEdgeCentredOnIt) {
+TEST(FrmDesign, HandlesAndThePositionerStandWhereTheRecordSays) {
     Window w(1);
-    w.form->RedrawButton(1, true, false, false);
-    const int m = FrmDesign::kMargin;
-    const int s = SizerHandle::kSide;
-    const QRect b(m + 10, m + 10, 50, 30);
-    ASSERT_TRUE(w.form->picSizer(0)->isVisible());
-    EXPECT_EQ(w.form->picSizer(0)->objectName(), "picSizer0");
-    EXPECT_EQ(w.form->picSizer(0)->pos(), QPoint(b.x() + 25 - s / 2, b.y() + 30 + 2));
-    EXPECT_EQ(w.form->picSizer(1)->pos(), QPoint(b.x() + 50 + 2, b.y() + 15 - s / 2));
-    EXPECT_EQ(w.form->picSizer(2)->pos(), QPoint(b.x() + 25 - s / 2, b.y() - s - 2));
-    EXPECT_EQ(w.form->picSizer(3)->pos(), QPoint(b.x() - s - 2, b.y() + 15 - s / 2));
-    w.form->HideMarks();
-    EXPECT_FALSE(w.form->picSizer(0)->isVisible());
-}
+    const int m = FrmDesign::kMargin, s = SizerHandle::kSide;
+    const QRect b(m + 10, m + 20, 100, 30);
+    const QPoint handles[] = {{b.x() + 50 - s / 2, b.y() + 30 + 2},
+                              {b.x() + 100 + 2, b.y() + 15 - s / 2},
+                              {b.x() + 50 - s / 2, b.y() - s - 2},
+                              {b.x() - s - 2, b.y() + 15 - s / 2}};
+    for (int h = 0; h < 4; ++h) {
+        EXPECT_TRUE(w.design.picSizer(h)->isVisible());
+        EXPECT_EQ(w.design.picSizer(h)->objectName(), QStringLiteral("picSizer%1").arg(h));
+        EXPECT_EQ(w.design.picSizer(h)->pos(), handles[h]) << h;
+    }
+    w.design.HideMarks();
+    EXPECT_FALSE(w.design.picSizer(0)->isVisible());
 
-TEST(FrmDesign, TheLabelPositionerShowsOnlyForAPositionedLabel) {
-    Window w(1);
-    w.form->RedrawButton(1, false, true, false);
-    EXPECT_FALSE(w.form->labelPositioner()->isVisible());
+    // The label positioner shows only for a positioned label.
+    w.design.RedrawButton(1, false, true, false);
+    EXPECT_FALSE(w.design.labelPositioner()->isVisible());
     w.model.Button(1).PositionTextUP = 1;
     w.model.Button(1).LabelPosXUP = 7;
-    w.model.Button(1).LabelPosYUP = 20;
-    w.form->RedrawButton(1, false, true, false);
-    EXPECT_TRUE(w.form->labelPositioner()->isVisible());
-    const int m = FrmDesign::kMargin;
-    EXPECT_EQ(w.form->labelPositioner()->centre(), QPoint(m + 10 + 7, m + 10 + 20));
+    w.design.RedrawButton(1, false, true, false);
+    EXPECT_TRUE(w.design.labelPositioner()->isVisible());
+    EXPECT_EQ(w.design.labelPositioner()->centre(), b.topLeft() + QPoint(7, 25));
 }
 
 TEST(FrmDesign, TransparentButtonsShowTheBackgroundAndFollowTheSwitch) {
     Window w(1);
     w.model.Button(1).noBackGround = 1;
-    w.form->UpdateTransparentBtns();
+    w.design.UpdateTransparentBtns();
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(0, 255, 0));
 
-    QSignalSpy clicked(w.form.get(), &FrmDesign::noBackGroundClicked);
-    auto* box = w.form->findChild<QCheckBox*>("chkNoBackGround");
-    ASSERT_NE(box, nullptr);
-    box->click();
+    QSignalSpy clicked(&w.design, &FrmDesign::noBackGroundClicked);
+    w.design.findChild<QCheckBox*>("chkNoBackGround")->click();
     ASSERT_EQ(clicked.count(), 1);
     EXPECT_TRUE(clicked[0][0].toBool());
     EXPECT_NE(w.pixel(1, 25, 15), qRgb(0, 255, 0));
-    EXPECT_EQ(w.pixel(1, 25, 15), w.form->appletArea()->background().pixel(35, 25));
-
-    w.form->setNoBackGround(false);
+    EXPECT_EQ(w.pixel(1, 25, 15), w.design.appletArea()->background().pixel(35, 35));
+    w.design.setNoBackGround(false);
     EXPECT_EQ(clicked.count(), 1);
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(0, 255, 0));
 }
 
-TEST(FrmDesign, CommandsAreAnnouncedAsSignals) {
+TEST(FrmDesign, CommandsAreAnnouncedAsSignalsAndClosingOnlyHides) {
     Window w(1);
-    QSignalSpy add(w.form.get(), &FrmDesign::btnAddBtnClicked);
-    QSignalSpy duplicate(w.form.get(), &FrmDesign::btnDuplicateClicked);
-    QSignalSpy remove(w.form.get(), &FrmDesign::btnRemoveClicked);
-    QSignalSpy html(w.form.get(), &FrmDesign::btnViewHtmlClicked);
+    QSignalSpy html(&w.design, &FrmDesign::btnViewHtmlClicked);
+    QSignalSpy add(&w.design, &FrmDesign::btnAddBtnClicked);
+    QSignalSpy duplicate(&w.design, &FrmDesign::btnDuplicateClicked);
+    QSignalSpy remove(&w.design, &FrmDesign::btnRemoveClicked);
     for (const char* name : {"btnAddBtn", "btnDuplicate", "btnRemove", "btnViewHtml"})
-        w.form->findChild<QPushButton*>(name)->click();
-    EXPECT_EQ(add.count() + duplicate.count() + remove.count() + html.count(), 4);
+        w.design.findChild<QPushButton*>(name)->click();
+    EXPECT_EQ(html.count() + add.count() + duplicate.count() + remove.count(), 4);
     EXPECT_EQ(html.count(), 1);
 
-    QSignalSpy pressed(w.form.get(), &FrmDesign::buttonMouseDown);
-    QTest::mousePress(w.form->pButtons(1), Qt::LeftButton, {}, QPoint(5, 6));
-    ASSERT_EQ(pressed.count(), 1);
-    EXPECT_EQ(pressed[0][0].toInt(), 1);
-}
-
-TEST(FrmDesign, ClosingHidesTheWindowUnlessForced) {
-    Window w(0);
-    QSignalSpy unloading(w.form.get(), &FrmDesign::unloading);
-    EXPECT_TRUE(w.form->isVisible());
-    EXPECT_FALSE(w.form->close());
-    EXPECT_FALSE(w.form->isVisible());
-    EXPECT_EQ(unloading.count(), 1);
-
-    w.form->show();
-    w.form->setForceUnload(true);
-    EXPECT_TRUE(w.form->close());
+    QSignalSpy unloading(&w.design, &FrmDesign::unloading);
+    EXPECT_FALSE(w.design.close());
+    EXPECT_FALSE(w.design.isVisible());
+    w.design.show();
+    w.design.setForceUnload(true);
+    EXPECT_TRUE(w.design.close());
     EXPECT_EQ(unloading.count(), 2);
 }
 
 TEST(FrmBgOffset, PreviewsLiveAndCancelPutsTheOldOffsetBack) {
     Window w(0);
     w.model.BgOffsetX = 3;
-    w.model.Saved = true;
-    FrmBgOffset dialog(w.model, w.form.get());
+    FrmBgOffset dialog(w.model, &w.design);
     dialog.txtOffsetX()->setValue(-20);
     dialog.txtOffsetY()->setValue(8);
     EXPECT_EQ(w.model.BgOffsetX, -20);
@@ -201,9 +203,121 @@ TEST(FrmBgOffset, PreviewsLiveAndCancelPutsTheOldOffsetBack) {
     EXPECT_EQ(w.model.BgOffsetY, 0);
     EXPECT_TRUE(w.model.Saved);
 
-    FrmBgOffset again(w.model, w.form.get());
+    FrmBgOffset again(w.model, &w.design);
     again.txtOffsetY()->setValue(12);
     again.accept();
     EXPECT_EQ(w.model.BgOffsetY, 12);
     EXPECT_FALSE(w.model.Saved);
+}
+
+TEST(DesignInteraction, CtrlClicksMakeAGroupThatOneDragMovesTogether) {
+    Window w(4);
+    w.click(2, Qt::ControlModifier);
+    w.click(4, Qt::ControlModifier);
+    ASSERT_EQ(w.list.selectedButtons(), std::vector<int>({1, 2, 4}));
+    EXPECT_TRUE(w.editor.calls.contains(QStringLiteral("selection")));
+    const QPoint one = w.pictureAt(1), two = w.pictureAt(2), three = w.pictureAt(3),
+                 four = w.pictureAt(4), moved(37, 51);
+    w.editor.calls.clear();
+    Window::drag(w.picture(2), QPoint(5, 5), moved, 4);
+    EXPECT_EQ(w.pictureAt(1), one + moved);
+    EXPECT_EQ(w.pictureAt(2), two + moved);
+    EXPECT_EQ(w.pictureAt(4), four + moved);
+    EXPECT_EQ(w.pictureAt(3), three);
+    for (int i = 1; i <= 4; ++i)
+        EXPECT_EQ(w.recordAt(i), w.pictureAt(i)) << i;
+    EXPECT_EQ(w.model.CurrentButton, 2);
+    EXPECT_FALSE(w.model.Saved);
+    EXPECT_EQ(w.editor.calls.count(QStringLiteral("geometry 2")), 4); // every step
+    // The handles follow the dragged button.
+    EXPECT_EQ(w.design.picSizer(SizerBottom)->pos().y(),
+              w.pictureAt(2).y() + FrmDesign::kMargin + 30 + 2);
+}
+
+TEST(DesignInteraction, RightClickOffersOnlyTheStackingCommandsThatApply) {
+    Window w(3);
+    w.click(1, {}, Qt::RightButton);
+    EXPECT_TRUE(w.interaction.mnuMove()->isVisible());
+    EXPECT_TRUE(w.interaction.mnuBringToFront()->isEnabled());
+    EXPECT_FALSE(w.interaction.mnuSendBack()->isEnabled());
+    w.interaction.mnuMove()->hide();
+    w.click(3, {}, Qt::RightButton);
+    EXPECT_FALSE(w.interaction.mnuBringToFront()->isEnabled());
+    EXPECT_TRUE(w.interaction.mnuSendBack()->isEnabled());
+    EXPECT_FALSE(w.interaction.dragState().dragging);
+
+    // Send back: records change places, the pictures stay where the records say.
+    w.model.Button(3).LabelUP = "third";
+    const QPoint placeOfThree = w.pictureAt(3);
+    w.interaction.mnuSendBack()->trigger();
+    EXPECT_EQ(w.model.CurrentButton, 2);
+    EXPECT_EQ(w.model.Button(2).LabelUP, "third");
+    EXPECT_EQ(w.pictureAt(2), placeOfThree);
+    EXPECT_EQ(w.list.selectedButtons(), std::vector<int>({2}));
+    EXPECT_EQ(w.editor.calls.last(), QStringLiteral("prop 2"));
+}
+
+TEST(DesignInteraction, AClickOnTheEmptySurfaceCollapsesTheGroup) {
+    Window w(3);
+    w.click(2, Qt::ControlModifier);
+    w.click(3, Qt::ControlModifier);
+    ASSERT_EQ(w.list.selectedCount(), 3);
+    const int paintsBefore = w.design.paintCount();
+    QTest::mouseClick(w.design.appletArea(), Qt::RightButton, {}, QPoint(400, 120));
+    EXPECT_EQ(w.list.selectedCount(), 3);
+    QTest::mouseClick(w.design.appletArea(), Qt::LeftButton, {}, QPoint(400, 120));
+    EXPECT_EQ(w.list.selectedButtons(), std::vector<int>({3}));
+    // The two buttons that left the group lose their marker, the current one too.
+    EXPECT_EQ(w.design.paintCount() - paintsBefore, 3);
+}
+
+TEST(DesignInteraction, HandlesResizeTheCurrentButtonAndRepaintTransparentOnes) {
+    Window w(2);
+    w.model.Button(1).noBackGround = 1;
+    int paints = w.design.paintCount();
+    Window::drag(w.picture(1), QPoint(5, 5), QPoint(15, 0), 4);
+    EXPECT_EQ(w.design.paintCount() - paints, 1); // on release, not on every step
+
+    w.click(2);
+    w.editor.calls.clear();
+    paints = w.design.paintCount();
+    Window::drag(w.design.picSizer(SizerBottom), QPoint(3, 3), QPoint(0, 10));
+    EXPECT_EQ(w.picture(2)->geometry(), QRect(130, 20, 100, 44)); // 30 + 10 + 4
+    EXPECT_EQ(w.model.Button(2).Height, 44);
+    EXPECT_EQ(w.design.picSizer(SizerBottom)->tag(), QStringLiteral("Up"));
+    EXPECT_EQ(w.editor.calls, QStringList({QStringLiteral("geometry 2")}));
+    EXPECT_EQ(w.design.paintCount() - paints, 1); // the resized button only
+
+    paints = w.design.paintCount();
+    Window::drag(w.design.picSizer(SizerLeft), QPoint(3, 3), QPoint(-20, 0));
+    EXPECT_EQ(w.picture(2)->geometry(), QRect(110, 20, 120, 44));
+    EXPECT_EQ(w.design.paintCount() - paints, 2); // resized, then the transparent one
+    Window::drag(w.design.picSizer(SizerTop), QPoint(3, 3), QPoint(0, 40)); // height 4
+    EXPECT_EQ(w.picture(2)->geometry(), QRect(110, 20, 120, 44));
+}
+
+TEST(DesignInteraction, ArrowKeysMoveTheSelectionAndThePositionerPlacesTheLabel) {
+    Window w(3);
+    w.click(3, Qt::ControlModifier);
+    const QPoint one = w.pictureAt(1), two = w.pictureAt(2), three = w.pictureAt(3);
+    w.design.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w.design));
+    QTest::keyClick(&w.design, Qt::Key_Right);
+    QTest::keyClick(&w.design, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(w.pictureAt(1), one + QPoint(1, 10));
+    EXPECT_EQ(w.pictureAt(3), three + QPoint(1, 10));
+    EXPECT_EQ(w.pictureAt(2), two);
+    EXPECT_EQ(w.recordAt(3), w.pictureAt(3));
+
+    w.click(1);
+    w.model.Button(1).PositionTextUP = 1;
+    w.design.MoveLabelPositioner(1);
+    LabelPositioner* p = w.design.labelPositioner();
+    ASSERT_TRUE(p->isVisible());
+    Window::drag(p, QPoint(5, 5), QPoint(-20, -10));
+    EXPECT_EQ(w.model.Button(1).LabelPosXUP, 33);
+    EXPECT_EQ(w.model.Button(1).LabelPosYUP, 15);
+    EXPECT_EQ(p->centre(),
+              w.pictureAt(1) + QPoint(FrmDesign::kMargin + 33, FrmDesign::kMargin + 15));
+    EXPECT_EQ(w.editor.calls.last(), QStringLiteral("prop 1"));
 }

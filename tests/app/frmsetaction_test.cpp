@@ -5,7 +5,6 @@
 #include "testapplication.h"
 
 #include <QAbstractItemModel>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,18 +15,14 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
-using orvelin::testing::FakeUserInterface;
 
 namespace {
 
-QApplication& App() {
-    return orvelin::testing::TestApplication();
-}
-
+/// The dialog on ProgramDOWN of button 2 ("2 1;6 500;"), buttons 2 and 3 selected.
 class FrmSetActionTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        App();
+        orvelin::testing::TestApplication();
         ProgramBuffer().clear();
         model.ButtonCount = 3;
         model.CurrentButton = 2;
@@ -36,43 +31,45 @@ protected:
         dialog->load("ProgramDOWN", "Set Action: On Button Press...");
     }
 
-    template <typename T> T* child(const char* name) {
+    template <typename T = QWidget> T* child(const char* name) {
         T* widget = dialog->findChild<T*>(QString::fromLatin1(name));
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
     QStringList listed() {
         QStringList lines;
-        auto* list = child<QListWidget>("lstActions");
-        for (int i = 0; i < list->count(); ++i)
-            lines << list->item(i)->text();
+        for (int i = 0; i < list()->count(); ++i)
+            lines << list()->item(i)->text();
         return lines;
     }
-    void chooseCommand(int index) { child<QComboBox>("cmbAction")->setCurrentIndex(index); }
+    QListWidget* list() { return child<QListWidget>("lstActions"); }
+    void choose(int command) { child<QComboBox>("cmbAction")->setCurrentIndex(command); }
     void click(const char* name) {
         QTest::mouseClick(child<QAbstractButton>(name), Qt::LeftButton);
     }
 
     ProjectModel model;
-    FakeUserInterface ui;
+    orvelin::testing::FakeUserInterface ui;
     std::unique_ptr<FrmSetAction> dialog;
 };
 
 } // namespace
 
-TEST_F(FrmSetActionTest, ControlsCarryTheirNamesAndTexts) {
+TEST_F(FrmSetActionTest, ControlsCarryTheirNamesAndTextsAndTheProgramIsListed) {
     EXPECT_EQ(dialog->objectName(), "frmSetAction");
     EXPECT_EQ(dialog->windowTitle(), "Set Action: On Button Press...");
-    EXPECT_EQ(child<QPushButton>("btnAdd")->text(), "&Add");
-    EXPECT_EQ(child<QPushButton>("btnRemove")->text(), "&Remove");
-    EXPECT_EQ(child<QToolButton>("btnUP")->toolTip(), "Move Command Up");
-    EXPECT_EQ(child<QToolButton>("btnDown")->toolTip(), "Move Command Down");
-    EXPECT_EQ(child<QPushButton>("btnCopyProg")->toolTip(), "Copy Whole Program to Buffer");
-    EXPECT_EQ(child<QPushButton>("btnPasteProg")->toolTip(),
-              "Append Program from Buffer to Current Program");
-    EXPECT_EQ(child<QPushButton>("btnOk")->text(), "&Ok");
-    EXPECT_EQ(child<QPushButton>("btnCancel")->text(), "&Cancel");
-    EXPECT_EQ(child<QToolButton>("btnGetHexColor")->toolTip(), "Select Color");
+    const std::pair<const char*, const char*> texts[] = {
+        {"btnAdd", "&Add"}, {"btnRemove", "&Remove"}, {"btnOk", "&Ok"}, {"btnCancel", "&Cancel"}};
+    for (const auto& [name, text] : texts)
+        EXPECT_EQ(child<QAbstractButton>(name)->text(), text);
+    const std::pair<const char*, const char*> tips[] = {
+        {"btnUP", "Move Command Up"},
+        {"btnDown", "Move Command Down"},
+        {"btnCopyProg", "Copy Whole Program to Buffer"},
+        {"btnPasteProg", "Append Program from Buffer to Current Program"},
+        {"btnGetHexColor", "Select Color"}};
+    for (const auto& [name, tip] : tips)
+        EXPECT_EQ(child(name)->toolTip(), tip);
     EXPECT_EQ(child<QLabel>("lblMiliseconds")->text(), "Time in miliseconds:");
     EXPECT_EQ(child<QLabel>("lblWidth")->text(), "width:");
     auto* ms = child<QComboBox>("lsMiliseconds");
@@ -87,88 +84,79 @@ TEST_F(FrmSetActionTest, ControlsCarryTheirNamesAndTexts) {
 
 TEST_F(FrmSetActionTest, PanelsFollowTheChosenCommand) {
     dialog->show();
-    chooseCommand(2);
-    EXPECT_TRUE(child<QWidget>("picActionMove")->isVisible());
-    EXPECT_FALSE(child<QWidget>("picSetLabel")->isVisible());
-    chooseCommand(3);
-    EXPECT_TRUE(child<QWidget>("picSetLabel")->isVisible());
-    EXPECT_FALSE(child<QWidget>("btnGetHexColor")->isVisible());
+    const char* const panels[] = {"picActionMove", "picSetLabel", "btnGetHexColor", "picSetTimer",
+                                  "txtJavaScript"};
+    // Commands 0 to 6; Set Color shows the label panel with its colour button.
+    const char* const shown[] = {"",
+                                 "",
+                                 "picActionMove",
+                                 "picSetLabel",
+                                 "picSetLabel btnGetHexColor",
+                                 "picSetTimer",
+                                 "txtJavaScript"};
+    for (int command = 0; command < 7; ++command) {
+        choose(command);
+        for (const char* panel : panels)
+            EXPECT_EQ(child(panel)->isVisible(),
+                      std::string(shown[command]).find(panel) != std::string::npos)
+                << command << " " << panel;
+        EXPECT_EQ(child<QComboBox>("cmbButtonNumber")->isEnabled(), command != 5) << command;
+    }
+    choose(3);
     child<QLineEdit>("txtLabel")->setText("Hello");
-    chooseCommand(4);
-    EXPECT_TRUE(child<QWidget>("btnGetHexColor")->isVisible());
+    choose(4); // Set Color empties the label box
     EXPECT_EQ(child<QLineEdit>("txtLabel")->text(), "");
-    chooseCommand(5);
-    EXPECT_TRUE(child<QWidget>("picSetTimer")->isVisible());
-    EXPECT_FALSE(child<QComboBox>("cmbButtonNumber")->isEnabled());
-    chooseCommand(6);
-    EXPECT_TRUE(child<QWidget>("txtJavaScript")->isVisible());
-    EXPECT_TRUE(child<QComboBox>("cmbButtonNumber")->isEnabled());
 }
 
 TEST_F(FrmSetActionTest, AddTakesTheTypedInputsAndShowsWhatTheEditorChanged) {
-    chooseCommand(5);
+    choose(5);
     child<QComboBox>("lsMiliseconds")->setCurrentText("-250");
     click("btnAdd");
-    chooseCommand(3);
+    choose(3);
     child<QComboBox>("cmbButtonNumber")->setCurrentIndex(2);
     click("btnAdd");
     EXPECT_EQ(child<QLineEdit>("txtLabel")->text(), " ");
     EXPECT_EQ(listed(), (QStringList{"Hide Button 1", "Wait: 500 ms", "Wait: 250 ms",
                                      "Set Label Button 3 Up State  ->   "}));
-    auto* list = child<QListWidget>("lstActions");
-    EXPECT_EQ(list->currentRow(), 3);
-    EXPECT_EQ(list->toolTip(), "Set Label Button 3 Up State  ->   ");
-}
+    EXPECT_EQ(list()->currentRow(), 3);
+    EXPECT_EQ(list()->toolTip(), "Set Label Button 3 Up State  ->   ");
 
-TEST_F(FrmSetActionTest, WrongMoveBoxIsReportedThroughTheUserInterface) {
-    chooseCommand(2);
+    choose(2);
     child<QLineEdit>("txtX")->setText("10");
     child<QLineEdit>("txtWidth")->setText("abc");
     click("btnAdd");
     ASSERT_EQ(ui.shown.size(), 1u);
     EXPECT_EQ(ui.shown[0].text, "Type mismatch");
     EXPECT_EQ(ui.shown[0].title, "Wrong Parameters");
-    EXPECT_EQ(listed().size(), 2);
+    EXPECT_EQ(listed().size(), 4);
 }
 
-TEST_F(FrmSetActionTest, ListButtonsActOnTheSelectedLine) {
-    auto* list = child<QListWidget>("lstActions");
-    list->setCurrentRow(1);
+TEST_F(FrmSetActionTest, ListButtonsDragAndDoubleClickActOnTheSelectedLine) {
+    list()->setCurrentRow(1);
     click("btnUP");
     EXPECT_EQ(listed(), (QStringList{"Wait: 500 ms", "Hide Button 1"}));
-    EXPECT_EQ(list->currentRow(), 0);
+    EXPECT_EQ(list()->currentRow(), 0);
+    ASSERT_TRUE(list()->model()->moveRows(QModelIndex(), 0, 1, QModelIndex(), 2));
+    EXPECT_EQ(dialog->editor().storeProgram(), "2 1;6 500;");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(listed(), (QStringList{"Hide Button 1", "Wait: 500 ms"}));
+    EXPECT_EQ(list()->currentRow(), 1);
+
+    emit list()->itemDoubleClicked(list()->item(0));
+    EXPECT_EQ(child<QComboBox>("cmbAction")->currentIndex(), 1);
+    EXPECT_EQ(child<QComboBox>("cmbButtonNumber")->currentIndex(), 0);
+
     click("btnCopyProg");
     click("btnPasteProg");
     EXPECT_EQ(listed().size(), 4);
-    list->setCurrentRow(3);
+    list()->setCurrentRow(3);
     click("btnRemove");
     EXPECT_EQ(listed().size(), 3);
-    EXPECT_EQ(list->currentRow(), -1);
-}
-
-TEST_F(FrmSetActionTest, DraggingALineReordersTheProgram) {
-    auto* list = child<QListWidget>("lstActions");
-    ASSERT_TRUE(list->model()->moveRows(QModelIndex(), 0, 1, QModelIndex(), 2));
-    EXPECT_EQ(dialog->editor().storeProgram(), "6 500;2 1;");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(listed(), (QStringList{"Wait: 500 ms", "Hide Button 1"}));
-    EXPECT_EQ(list->currentRow(), 1);
-}
-
-TEST_F(FrmSetActionTest, DoubleClickPutsTheLineBackIntoTheControls) {
-    model.Button(2).ProgramDOWN = "3 2 10 -999 40 -999;";
-    dialog->load("ProgramDOWN", "again");
-    auto* list = child<QListWidget>("lstActions");
-    emit list->itemDoubleClicked(list->item(0));
-    EXPECT_EQ(child<QComboBox>("cmbAction")->currentIndex(), 2);
-    EXPECT_EQ(child<QComboBox>("cmbButtonNumber")->currentIndex(), 1);
-    EXPECT_EQ(child<QLineEdit>("txtX")->text(), "10");
-    EXPECT_EQ(child<QLineEdit>("txtY")->text(), "");
-    EXPECT_EQ(child<QLineEdit>("txtWidth")->text(), "40");
+    EXPECT_EQ(list()->currentRow(), -1);
 }
 
 TEST_F(FrmSetActionTest, OkWritesEverySelectedButtonAndCancelNothing) {
-    chooseCommand(0);
+    choose(0);
     click("btnAdd");
     click("btnCancel");
     EXPECT_EQ(dialog->result(), QDialog::Rejected);

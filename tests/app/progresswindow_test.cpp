@@ -4,7 +4,6 @@
 #include "startupprobe.h"
 #include "testapplication.h"
 
-#include <QApplication>
 #include <QMainWindow>
 #include <QSignalSpy>
 #include <QTest>
@@ -12,17 +11,11 @@
 
 using namespace orvelin;
 
-namespace {
-
-QApplication& App() {
-    return orvelin::testing::TestApplication();
-}
-
-} // namespace
-
-TEST(ProgressWindow, ShowsTitleTextAndPercentWithTheBusyPointer) {
-    App();
+TEST(ProgressWindow, ShowsTitleTextAndPercentWithOneBusyPointer) {
+    orvelin::testing::TestApplication();
     QtUserInterface ui;
+    ui.hideProgress(); // before any showing: leaves the pointer alone
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     ui.showProgress("Please Wait...", "Loading Button # 3 of 4", 75);
     FrmMessage& window = ui.progressWindow();
     EXPECT_EQ(window.objectName(), QStringLiteral("frmMessage"));
@@ -35,26 +28,10 @@ TEST(ProgressWindow, ShowsTitleTextAndPercentWithTheBusyPointer) {
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
 
     // Updates while shown keep one busy pointer, so one hide gives the normal one back.
-    ui.showProgress("Please Wait...", "Loading Button # 4 of 4", 100);
-    EXPECT_EQ(window.percent(), 100);
+    ui.showProgress("Please Wait...", "Loading Project...", -1);
+    EXPECT_EQ(window.percent(), -1); // no bar
     ui.hideProgress();
     EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST(ProgressWindow, WithoutAPercentShowsNoBar) {
-    App();
-    FrmMessage window;
-    window.showProgress(QStringLiteral("Please Wait..."), QStringLiteral("Loading Project..."), -1);
-    EXPECT_EQ(window.percent(), -1);
-    window.hideProgress();
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST(ProgressWindow, HidingBeforeShowingLeavesThePointerAlone) {
-    App();
-    QtUserInterface ui;
-    ui.hideProgress();
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
@@ -65,16 +42,13 @@ TEST(QtUserInterface, MessagesGetTheProgramTitleAndSingleLineBreaks) {
               QStringLiteral("Error loading project.\nFile not found"));
 }
 
-TEST(ColorButton, ModelColoursKeepRedInTheLowByte) {
+TEST(ColorButton, ModelColoursKeepRedInTheLowByteAndSettingOneDoesNotReportIt) {
     EXPECT_EQ(ColorButton::ToQColor(255), QColor(255, 0, 0));
     EXPECT_EQ(ColorButton::ToQColor(16711680), QColor(0, 0, 255));
     EXPECT_EQ(ColorButton::ToQColor(65535), QColor(255, 255, 0));
     EXPECT_EQ(ColorButton::FromQColor(QColor(0x12, 0x34, 0x56)), 0x563412);
-    EXPECT_EQ(ColorButton::FromQColor(ColorButton::ToQColor(16776960)), 16776960);
-}
 
-TEST(ColorButton, SettingAColourDoesNotReportIt) {
-    App();
+    orvelin::testing::TestApplication();
     ColorButton button(QStringLiteral("picFontColor"));
     QSignalSpy chosen(&button, &ColorButton::colourChosen);
     button.setColour(255);
@@ -83,10 +57,9 @@ TEST(ColorButton, SettingAColourDoesNotReportIt) {
 }
 
 TEST(StartupProbe, GoesIdleOnceEveryWatchedWindowIsShown) {
-    App();
-    QMainWindow first;
+    orvelin::testing::TestApplication();
+    QMainWindow first, second;
     first.setObjectName(QStringLiteral("first"));
-    QMainWindow second;
     second.setObjectName(QStringLiteral("second"));
     StartupProbe probe;
     probe.watch(&first);
