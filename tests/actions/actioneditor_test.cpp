@@ -45,9 +45,6 @@ protected:
 TEST_F(ActionEditorTest, OpeningFillsTheListsAndLoadsTheCurrentButtonsProgram) {
     editor.open("ProgramOVER");
     EXPECT_EQ(editor.buttonTexts(), Lines({"Button 1", "Button 2", "Button 3"}));
-    EXPECT_EQ(editor.stateTexts(), Lines({"Up State", "Mouse-Over", "Down State"}));
-    EXPECT_EQ(editor.commandTexts().size(), 7u);
-    EXPECT_EQ(editor.button() + editor.command() + editor.state(), 0);
     EXPECT_EQ(editor.commandLines(), Lines({"2 1", "6 500"}));
     EXPECT_EQ(editor.readableLines(), Lines({"Hide Button 1", "Wait: 500 ms"}));
     EXPECT_EQ(editor.selection(), -1);
@@ -257,22 +254,6 @@ TEST_F(ActionEditorTest, DraggingMovesALineToItsNewPlace) {
     editor.moveLine(1, 4);
     editor.moveLine(-1, 0);
     EXPECT_EQ(editor.storeProgram(), "6 10;1 2;1 3;1 1;");
-}
-
-TEST_F(ActionEditorTest, PanelsFollowTheCommand) {
-    editor.open("ProgramOVER");
-    const std::pair<Command, const char*> cases[] = {
-        {Show, "B"},       {Hide, "B"}, {Move, "BM"},          {SetLabel, "BL"},
-        {SetColor, "BLC"}, {Wait, "T"}, {CallJavaScript, "BJ"}};
-    for (const auto& [command, shown] : cases) {
-        editor.setCommand(command);
-        const ActionPanels p = editor.panels();
-        EXPECT_EQ(std::string() + (p.buttonList ? "B" : "") + (p.movePanel ? "M" : "") +
-                      (p.labelPanel ? "L" : "") + (p.colorButton ? "C" : "") +
-                      (p.timerPanel ? "T" : "") + (p.javaScript ? "J" : ""),
-                  shown)
-            << command;
-    }
 }
 
 TEST_F(ActionEditorTest, DoubleClickLoadsALineBackIntoTheInputs) {

@@ -92,17 +92,3 @@ TEST(ReadableLines, UseTheTextsTheyAreGiven) {
     t.heightCaption = "Höhe:";
     EXPECT_EQ(ReadableLine("3 2 1 2 3 4", t), "Verschieben Knopf 2  ->  x:1 y:2 Breite:3 Höhe:4");
 }
-
-TEST(ProgramKinds, AreTitledByTheirMoment) {
-    const std::pair<const char*, const char*> titles[] = {
-        {"ProgramUP", "Set Action: On Leaving Button..."},
-        {"ProgramOVER", "Set Action: On Entering Button..."},
-        {"ProgramDOWN", "Set Action: On Button Press..."},
-        {"AppletProgramStart", "On Applet Start"},
-        {"AppletProgramOVER", "On Mouse Moving above the Applet"},
-        {"AppletProgramDOWN", "On Mouse Clicking the Applet"},
-        {"AppletProgramOUT", "On Mouse Exiting the Applet"},
-        {"programup", ""}};
-    for (const auto& [kind, title] : titles)
-        EXPECT_EQ(ProgramKindTitle(kind), title) << kind;
-}

@@ -122,7 +122,7 @@ TEST(DrawLabel, OnlyTheEditedStateIsDrawnAndAnUnknownStateDrawsNoLabel) {
     }
 }
 
-TEST(DrawLabel, FailuresAreReportedWithTheButtonNumberAndTheBorderIsStillPainted) {
+TEST(DrawLabel, AnInvalidFontSizeIsReportedOnceAndTheBorderIsStillPainted) {
     ButtonRecord b = PlainButton(107, 40, "Go");
     b.FontSizeUP = 0;
     b.Border = 1;
@@ -134,16 +134,6 @@ TEST(DrawLabel, FailuresAreReportedWithTheButtonNumberAndTheBorderIsStillPainted
     EXPECT_EQ(ui.shown[0].title, "");
     EXPECT_TRUE(InkBox(picture, kWhite, QRect(2, 2, 103, 36)).isEmpty());
     EXPECT_NE(Pixel(picture, 106, 39), kWhite);
-
-    ProjectModel model = OneButton(PlainButton(10, 10, "x"));
-    ImageCache images;
-    ButtonPainter painter(model, images);
-    painter.setUserInterface(&ui);
-    QImage small = NewPicture(QSize(10, 10));
-    QPainter p(&small);
-    EXPECT_FALSE(painter.DrawLabel(p, 103));
-    EXPECT_EQ(ui.messages().back(),
-              "Something wrong\r\nOn DrawLabel(103) \r\nSubscript out of range");
 }
 
 TEST(DrawPix, CenterClipsAnOversizedImageEvenlyAndCentresASmallOne) {

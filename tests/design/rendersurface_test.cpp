@@ -163,27 +163,4 @@ TEST(RenderSurface, ATransparentButtonShowsTheBackgroundButNotTheButtonsBelow) {
                   .copy(25, 15, 30, 20)
                   .convertToFormat(QImage::Format_RGB32));
     EXPECT_EQ(Pixel(surface, 22, 12), kRed);
-
-    // With the background switched off they show the checker, under the button too.
-    RenderOptions options;
-    options.noBackGround = true;
-    const QImage off = RenderSurface(model, "UP", options);
-    EXPECT_NE(Pixel(off, 30, 20), Pixel(off, 38, 20));
-}
-
-TEST(RenderSurface, DrawsTheMultiSelectionMarkerOnlyForAGroup) {
-    ProjectModel model = Applet(2);
-    model.Button(2).x = 60;
-    ButtonList list;
-    list.append();
-    list.append();
-    list.selectOnly(1);
-    RenderOptions options;
-    options.selection = &list;
-    EXPECT_EQ(RenderSurface(model, "UP", options), RenderSurface(model, "UP"));
-    list.addSelection(2);
-    const QImage group = RenderSurface(model, "UP", options);
-    EXPECT_EQ(Pixel(group, 0, 0), 0u);
-    EXPECT_EQ(Pixel(group, 2, 2), 0xFFFFFFu);
-    EXPECT_EQ(Pixel(group, 62, 2), 0xFFFFFFu);
 }
