@@ -6,13 +6,13 @@
 #include "frmbgoffset.h"
 #include "frmmultilineeditor.h"
 #include "frmsetaction.h"
+#include "imagefile.h"
 #include "mainmenus.h"
 #include "propertypanel.h"
 #include "windowgeometry.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QToolButton>
@@ -192,8 +192,7 @@ void FrmMain::QuitProgram() {
 }
 
 std::optional<ImageSize> FrmMain::ImageSizeOf(const std::string& path) {
-    QImageReader reader(QString::fromStdString(path));
-    const QSize size = reader.size();
+    const QSize size = ImageFileSize(QString::fromStdString(path));
     if (!size.isValid())
         return std::nullopt;
     return ImageSize{size.width(), size.height()};

@@ -1,8 +1,9 @@
 #include "imagecache.h"
 
+#include "imagefile.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 
 namespace orvelin {
 
@@ -61,10 +62,8 @@ QImage ImageCache::image(const std::string& path) {
     const QFileInfo info(lookup.file);
     Entry& entry = m_entries[lookup.file];
     if (entry.size != info.size() || entry.modified != info.lastModified()) {
-        QImageReader reader(lookup.file);
         // A GIF or JPEG saved under another extension is still read by its content.
-        reader.setDecideFormatFromContent(true);
-        const QImage read = reader.read();
+        const QImage read = ReadImageFile(lookup.file);
         // Indexed GIFs would be converted on every paint; convert them once here.
         entry.image = read.convertToFormat(
             read.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
