@@ -2,12 +2,12 @@
 
 #include "colorbutton.h"
 #include "editor.h"
+#include "fontfamilybox.h"
 #include "panelwidgets.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -177,8 +177,10 @@ QWidget* PropertyPanel::buildLabel() {
     place->addStretch(1);
     grid->addLayout(place, 1, 1, 1, 4);
 
-    m_font = panel::ComboBox(QStringLiteral("lsFont"), true, group);
-    m_font->addItems(QFontDatabase::families());
+    m_font = new FontFamilyBox(group);
+    m_font->setObjectName(QStringLiteral("lsFont"));
+    m_font->setEditable(true);
+    m_font->setInsertPolicy(QComboBox::NoInsert);
     m_font->setMinimumContentsLength(12);
     m_font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_fontSize = panel::ComboBox(QStringLiteral("lsFontSize"), true, group);

@@ -16,6 +16,7 @@ namespace orvelin {
 
 class ColorButton;
 class Editor;
+class FontFamilyBox;
 class PropertyEditor;
 
 /**
@@ -73,7 +74,7 @@ private:
     QCheckBox* m_positionText = nullptr;
     QLineEdit* m_labelPosX = nullptr;
     QLineEdit* m_labelPosY = nullptr;
-    QComboBox* m_font = nullptr;
+    FontFamilyBox* m_font = nullptr;
     QComboBox* m_fontSize = nullptr;
     QToolButton* m_bold = nullptr;
     QToolButton* m_italic = nullptr;

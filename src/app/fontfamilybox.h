@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace orvelin {
+
+/**
+ * The editable list of font families `lsFont`. Asking the font database for every
+ * family installed is left until the list is first needed (its popup, the keyboard
+ * focus, a wheel turn over it): until then the box shows the font typed or set, as it
+ * does afterwards, and the designer's start-up does not wait for the enumeration.
+ */
+class FontFamilyBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit FontFamilyBox(QWidget* parent = nullptr);
+
+    /// Fills the list with the installed families once, keeping the text shown.
+    void fillFamilies();
+    bool filled() const { return m_filled; }
+
+    void showPopup() override;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    bool m_filled = false;
+};
+
+} // namespace orvelin
