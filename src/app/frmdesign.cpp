@@ -131,7 +131,11 @@ void FrmDesign::LoadButton(int index) {
         m_pictures.emplace_back(picture);
         // A later button lies above an earlier one.
         picture->raise();
+        // Shown at the default widget size first: not worth a paint, since the redraw
+        // below sizes the picture from the project and paints it.
+        m_noRedrawOnResize = true;
         picture->show();
+        m_noRedrawOnResize = false;
     }
     RedrawButton(index, false, false, false);
 }
