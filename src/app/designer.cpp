@@ -22,12 +22,17 @@ namespace {
 
 const QString kDesignForm = QStringLiteral("frmDesign");
 
+// About when a wait starts to be noticed: a project that loads or saves quicker shows
+// no progress window, start-up's included.
+constexpr std::chrono::milliseconds kProgressDelay{300};
+
 } // namespace
 
 Designer::Designer()
     : m_design(std::make_unique<FrmDesign>(m_model, m_list, &m_ui)),
       m_main(std::make_unique<FrmMain>(m_model, m_list, m_ui, m_settings, *m_design, m_shell)) {
     m_ui.setOwner(m_main.get());
+    m_ui.setProgressDelay(kProgressDelay);
     m_design->setNoBackGround(GlobalIni::ForProgram().NoBackGround());
     connectWindows();
 }

@@ -74,12 +74,22 @@ FrmMessage& QtUserInterface::progressWindow() {
     return *m_progress;
 }
 
+void QtUserInterface::setProgressDelay(std::chrono::milliseconds delay) {
+    m_progressDelay = delay;
+}
+
 void QtUserInterface::showProgress(const std::string& title, const std::string& text, int percent) {
+    if (!m_operation.isValid())
+        m_operation.start();
+    const bool shown = m_progress && m_progress->isVisible();
+    if (!shown && m_operation.elapsed() < m_progressDelay.count())
+        return;
     progressWindow().showProgress(QString::fromStdString(title), QString::fromStdString(text),
                                   percent);
 }
 
 void QtUserInterface::hideProgress() {
+    m_operation.invalidate();
     if (m_progress)
         m_progress->hideProgress();
 }

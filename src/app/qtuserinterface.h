@@ -2,9 +2,11 @@
 
 #include "userinterface.h"
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
+#include <chrono>
 
 namespace orvelin {
 
@@ -34,6 +36,15 @@ public:
     /// The progress window, created on first use.
     FrmMessage& progressWindow();
 
+    /**
+     * Keeps the progress window (and the busy pointer with it) back until an operation
+     * has gone on for `delay`, from its first progress report to hideProgress(): a load
+     * or save quicker than that is over before anyone could read the window, and showing
+     * one costs a window and a pointer. The first report after the delay shows it. No
+     * delay (the default) shows the window at the first report.
+     */
+    void setProgressDelay(std::chrono::milliseconds delay);
+
     /// The title a message box gets for `title` ("Orvelin" for an empty one).
     static QString MessageTitle(const std::string& title);
     /// The core's CR LF line breaks as the single breaks a label shows.
@@ -43,6 +54,8 @@ private:
     QPointer<QWidget> m_owner;
     // Owned by `m_owner` when there is one, so it may go before this object does.
     QPointer<FrmMessage> m_progress;
+    std::chrono::milliseconds m_progressDelay{0};
+    QElapsedTimer m_operation; ///< since the operation's first progress report
 };
 
 } // namespace orvelin
