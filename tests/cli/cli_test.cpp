@@ -233,10 +233,8 @@ TEST_F(OrvelinCli, LegacyOptionReadsTheIniFormat) {
     ProjectModel model;
     ASSERT_TRUE(LoadProject(model, path("new.orv"), ui));
     EXPECT_EQ(model.AppletWidth, 300);
-    EXPECT_EQ(model.AppletHeight, 50);
     ASSERT_EQ(model.ButtonCount, 2);
     EXPECT_EQ(model.Button(1).LabelUP, "First one");
-    EXPECT_EQ(model.Button(1).URL, "a.html");
     EXPECT_EQ(model.Button(2).x, 150);
 }
 
