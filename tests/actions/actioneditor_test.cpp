@@ -161,7 +161,7 @@ TEST_F(ActionEditorTest, MoveWithAWrongBoxShowsTheConversionErrorAndAddsNothing)
     EXPECT_EQ(editor.selection(), 0);
 }
 
-TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgramAndTheBufferOutlivesTheDialog) {
+TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgramAndPastedTextNeedsItsFinalSemicolon) {
     editor.open("ProgramOVER");
     editor.select(1);
     editor.paste(); // an empty buffer: nothing
@@ -174,19 +174,14 @@ TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgramAndTheBufferOutlivesTheDi
     EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;");
     EXPECT_EQ(editor.readableLines().size(), 4u);
     EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
-
-    ActionEditor other(model, ui);
+    ProgramBuffer() = "1 3;2 3"; // without its final ";": the last command is lost
+    editor.paste();
+    EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;1 3;");
+    ActionEditor other(model, ui); // the buffer serves every program kind
     other.open("AppletProgramDOWN");
     other.paste();
     other.ok({});
-    EXPECT_EQ(model.AppletProgramDOWN, "2 1;6 500;");
-}
-
-TEST_F(ActionEditorTest, PastedTextWithoutItsFinalSemicolonLosesItsLastCommand) {
-    ProgramBuffer() = "1 3;2 3";
-    editor.open("ProgramOVER");
-    editor.paste();
-    EXPECT_EQ(editor.commandLines(), Lines({"2 1", "6 500", "1 3"}));
+    EXPECT_EQ(model.AppletProgramDOWN, "1 3;");
 }
 
 TEST_F(ActionEditorTest, LabelWithASemicolonPutsTheListsOutOfStep) {
