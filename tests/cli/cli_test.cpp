@@ -247,3 +247,32 @@ TEST_F(OrvelinCli, FailedSaveExitsWithOneAndKeepsTheOldFile) {
     EXPECT_EQ(RunCli({"resave", path("nowhere.orv"), path("keep.orv")}).status, 1);
     EXPECT_EQ(dir.read("keep.orv"), "previous content");
 }
+
+TEST_F(OrvelinCli, RenderPaintsTheAppletAreaWithoutADisplay) {
+    if (RunCli({"--help"}).err.find("render") == std::string::npos &&
+        RunCli({"--help"}).out.find("render") == std::string::npos)
+        GTEST_SKIP() << "built without the painting library";
+    const std::string png = path("over.png");
+    const CliRun run = RunCli({"render", kExample, "--state", "OVER", "-o", png},
+                              {{"DISPLAY", std::nullopt}, {"QT_QPA_PLATFORM", std::nullopt}});
+    ASSERT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "");
+    // A PNG of the applet's own size: the IHDR chunk holds width and height big-endian.
+    const std::string bytes = orvelin::testing::ReadBytes(png);
+    ASSERT_GT(bytes.size(), 24u);
+    EXPECT_EQ(bytes.substr(1, 3), "PNG");
+    auto at = [&](std::size_t i) {
+        return (static_cast<unsigned char>(bytes[i]) << 24) |
+               (static_cast<unsigned char>(bytes[i + 1]) << 16) |
+               (static_cast<unsigned char>(bytes[i + 2]) << 8) |
+               static_cast<unsigned char>(bytes[i + 3]);
+    };
+    EXPECT_EQ(at(16), 630u);
+    EXPECT_EQ(at(20), 80u);
+
+    EXPECT_EQ(RunCli({"render", kExample, "--state", "SIDEWAYS", "-o", png}).status, 2);
+    EXPECT_EQ(RunCli({"render", kExample}).status, 2);
+    const std::string missing = path("never.png");
+    EXPECT_EQ(RunCli({"render", path("none.orv"), "-o", missing}).status, 1);
+    EXPECT_FALSE(fs::exists(missing));
+}
