@@ -9,7 +9,6 @@
 #include "frmdesign.h"
 #include "frmmain.h"
 #include "startupprobe.h"
-#include "startupstyle.h"
 
 #include <QApplication>
 #include <QDir>
@@ -34,7 +33,6 @@ void SaveScreenshots(orvelin::Designer& designer, const QString& folder) {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QApplication::setStyle(new orvelin::StartupStyle);
     QApplication::setOrganizationName(QStringLiteral("Orvelin"));
     QApplication::setApplicationName(QStringLiteral("Orvelin"));
     // The design window only hides when closed; the main editor's close path ends
