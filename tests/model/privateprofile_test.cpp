@@ -24,7 +24,7 @@ TEST(PrivateProfile, NamesIgnoreCaseBlanksAreTrimmedAndTheFirstOccurrenceWins) {
         "empty=\r\nm = a = b\r\n[B]\r\nk=b\r\n[a]\r\nk=third\r\nlate=yes\r\n");
     const std::pair<const char*, const char*> keys[] = {
         {"k", "first"}, {"K", "first"}, {"late", "yes"}, {"missing", "d"}, {"novalue", "d"},
-        {"j", "d"},     {"empty", ""},  {"m", "a = b"},  {"k=x", "d"}};
+        {"j", "d"},     {"; j", "d"},   {"empty", ""},   {"m", "a = b"},   {"k=x", "d"}};
     for (const auto& [key, value] : keys)
         EXPECT_EQ(p.value(" a ", key, "d"), value) << key;
     EXPECT_EQ(p.value("B", "k", "d"), "b");

@@ -3,21 +3,18 @@
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
+#include <tuple>
 #include <vector>
 
 using namespace orvelin;
 
 namespace {
 
-/**
- * The repeated-pass replace written out step by step, positions counted from
- * 0: whole passes until one leaves the length unchanged; a pass looks at the
- * positions below the length the text had when it began and, after a
- * replacement, goes on one position further in the changed text. A
- * replacement holding the search text gets a single pass (it would never
- * end). Gives up (returns false) after `passCap` passes or once the text grows
- * past `lengthCap`, for rules that blow up.
- */
+// The repeated-pass replace written out step by step: whole passes until one leaves the
+// length unchanged; a pass looks at the positions below the length the text had when it
+// began and, after a replacement, goes on one position further in the changed text. A
+// replacement holding the search text gets one pass (it would never end). Gives up (false)
+// after `passCap` passes or past `lengthCap` characters, for rules that blow up.
 bool LiteralReplaceAll(std::string& s, const std::string& search, const std::string& replacement,
                        int passCap = 400, std::size_t lengthCap = 4000) {
     if (search.empty())
@@ -37,11 +34,6 @@ bool LiteralReplaceAll(std::string& s, const std::string& search, const std::str
     return false;
 }
 
-std::string Literal(std::string s, const std::string& search, const std::string& replacement) {
-    EXPECT_TRUE(LiteralReplaceAll(s, search, replacement));
-    return s;
-}
-
 std::string RandomText(std::mt19937& rng, std::string_view alphabet, std::size_t maxLength,
                        std::size_t minLength = 0) {
     std::uniform_int_distribution<std::size_t> length(minLength, maxLength);
@@ -54,131 +46,95 @@ std::string RandomText(std::mt19937& rng, std::string_view alphabet, std::size_t
 
 } // namespace
 
-TEST(ReplaceAll, RepeatsPassesUntilNothingShortens) {
-    EXPECT_EQ(ReplaceAll("abb", "ab", "a"), "a");
-    EXPECT_EQ(ReplaceAll("abbbbbbbbb", "ab", "a"), "a");
-    EXPECT_EQ(ReplaceAll("xabbbyabb", "ab", "a"), "xaya");
-    EXPECT_EQ(ReplaceAll("aaaa", "aa", ""), "");
-    EXPECT_EQ(ReplaceAll("aaabbb", "ab", ""), "");
-}
-
-TEST(ReplaceAll, GrowingReplacementFindsMatchesFormedBehindItInTheNextPass) {
-    // "aab": the match at 1 gives "abbc", with a new "ab" at 0 behind the scan.
-    EXPECT_EQ(Literal("aab", "ab", "bbc"), "bbcbc");
-    EXPECT_EQ(ReplaceAll("aab", "ab", "bbc"), "bbcbc");
-    // The second "ab" is pushed beyond the first pass's end and found by the second pass.
-    EXPECT_EQ(ReplaceAll("abab", "ab", "bbbb"), "bbbbbbbb");
-}
-
-TEST(ReplaceAll, EqualLengthReplacementMakesOnePass) {
-    // "aab" -> "aba" after one pass; the "ab" the pass left behind it stays.
-    EXPECT_EQ(ReplaceAll("aab", "ab", "ba"), "aba");
-    EXPECT_EQ(ReplaceAll("a-b-c", "-", "+"), "a+b+c");
-}
-
-TEST(ReplaceAll, PlainCasesReplaceEveryOccurrence) {
+TEST(ReplaceAll, RepeatsPassesAsTheDesignerDoes) {
+    // Text, search, replacement, result. A match formed behind the scan or pushed past the
+    // pass's end waits for the next pass; equal lengths make one pass; a replacement that
+    // holds the search gets one pass over the first length.
+    const char* const cases[][4] = {{"abb", "ab", "a", "a"},
+                                    {"abbbbbbbbb", "ab", "a", "a"},
+                                    {"xabbbyabb", "ab", "a", "xaya"},
+                                    {"aaaa", "aa", "", ""},
+                                    {"aaabbb", "ab", "", ""},
+                                    {"aab", "ab", "bbc", "bbcbc"},
+                                    {"abab", "ab", "bbbb", "bbbbbbbb"},
+                                    {"aab", "ab", "ba", "aba"},
+                                    {"a-b-c", "-", "+", "a+b+c"},
+                                    {"a b  c ", " ", "&nbsp", "a&nbspb&nbsp&nbspc&nbsp"},
+                                    {"aaa", "aa", "b", "ba"},
+                                    {"x-999y", "-999", "  ", "x  y"},
+                                    {"", "a", "b", ""},
+                                    {"abc", "", "x", "abc"},
+                                    {"abc", "abcd", "x", "abc"},
+                                    {"aa", "a", "aa", "aaaa"},
+                                    {"xaby", "ab", "aab", "xaaaaby"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c[0]) + " " + c[1] + " -> " + c[2]);
+        std::string literal = c[0];
+        EXPECT_TRUE(LiteralReplaceAll(literal, c[1], c[2]));
+        EXPECT_EQ(literal, c[3]);
+        EXPECT_EQ(ReplaceAll(c[0], c[1], c[2]), c[3]);
+    }
     EXPECT_EQ(ReplaceAll("a b  c ", " ", "&nbsp"), "a&nbspb&nbsp&nbspc&nbsp");
-    EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");
-    EXPECT_EQ(ReplaceAll("x-999y", "-999", "  "), "x  y");
-    EXPECT_EQ(ReplaceAll("", "a", "b"), "");
-    EXPECT_EQ(ReplaceAll("abc", "", "x"), "abc");
-    EXPECT_EQ(ReplaceAll("abc", "abcd", "x"), "abc");
-}
-
-TEST(ReplaceAll, ReplacementHoldingTheSearchGetsOnePass) {
-    // The pass looks at positions below 2 only, each time at a fresh "a".
-    EXPECT_EQ(ReplaceAll("aa", "a", "aa"), "aaaa");
-    EXPECT_EQ(ReplaceAll("xaby", "ab", "aab"), "xaaaaby");
 }
 
 TEST(ReplaceAll, AgreesWithThePassByPassReplaceOnRandomTexts) {
-    std::mt19937 rng(20240611);
-    const std::vector<std::string_view> alphabets = {"ab", "ab&n", "abc", "a"};
-    int compared = 0;
-    for (int round = 0; round < 60000; ++round) {
-        const std::string_view alphabet = alphabets[static_cast<std::size_t>(round) % 4];
-        const std::string text = RandomText(rng, alphabet, 14);
-        const std::string search = RandomText(rng, alphabet, 3, 1);
-        const std::string replacement = RandomText(rng, alphabet, 5);
-        std::string expected = text;
-        if (!LiteralReplaceAll(expected, search, replacement))
-            continue; // a rule that grows without end in reasonable time
-        ASSERT_EQ(ReplaceAll(text, search, replacement), expected)
-            << "text \"" << text << "\" search \"" << search << "\" replacement \"" << replacement
-            << '"';
-        ++compared;
+    // Short texts over four small alphabets, then longer ones with short rules.
+    struct Run {
+        unsigned seed;
+        int rounds, minCompared;
+        std::vector<std::string_view> alphabets;
+        std::string_view ruleAlphabet; // empty: the text's own
+        std::size_t textLength, searchLength, replacementLength;
+        int passCap;
+        std::size_t lengthCap;
+    };
+    const Run runs[] = {
+        {20240611, 60000, 55000, {"ab", "ab&n", "abc", "a"}, "", 14, 3, 5, 400, 4000},
+        {77, 3000, 2500, {"aab"}, "ab", 120, 4, 6, 2000, 2000}};
+    for (const Run& run : runs) {
+        std::mt19937 rng(run.seed);
+        int compared = 0;
+        for (int round = 0; round < run.rounds; ++round) {
+            const std::string_view alphabet =
+                run.alphabets[static_cast<std::size_t>(round) % run.alphabets.size()];
+            const std::string_view rules = run.ruleAlphabet.empty() ? alphabet : run.ruleAlphabet;
+            const std::string text = RandomText(rng, alphabet, run.textLength);
+            const std::string search = RandomText(rng, rules, run.searchLength, 1);
+            const std::string replacement = RandomText(rng, rules, run.replacementLength);
+            std::string expected = text;
+            if (!LiteralReplaceAll(expected, search, replacement, run.passCap, run.lengthCap))
+                continue; // a rule that grows without end in reasonable time
+            ASSERT_EQ(ReplaceAll(text, search, replacement), expected)
+                << '"' << text << "\" \"" << search << "\" -> \"" << replacement << '"';
+            ++compared;
+        }
+        EXPECT_GT(compared, run.minCompared);
     }
-    EXPECT_GT(compared, 55000);
 }
 
-TEST(ReplaceAll, AgreesWithThePassByPassReplaceOnLongerTexts) {
-    std::mt19937 rng(77);
-    int compared = 0;
-    for (int round = 0; round < 3000; ++round) {
-        const std::string text = RandomText(rng, "aab", 120);
-        const std::string search = RandomText(rng, "ab", 4, 1);
-        const std::string replacement = RandomText(rng, "ab", 6);
-        std::string expected = text;
-        if (!LiteralReplaceAll(expected, search, replacement, 2000, 2000))
-            continue;
-        ASSERT_EQ(ReplaceAll(text, search, replacement), expected)
-            << "text \"" << text << "\" search \"" << search << "\" replacement \"" << replacement
-            << '"';
-        ++compared;
-    }
-    EXPECT_GT(compared, 2500);
-}
-
-TEST(LabelEncoding, BarBecomesCapitalIAndBlanksAndQuotesAreEscaped) {
+TEST(LabelEncoding, BarBecomesCapitalIAndOnlySemicolonIsDecodedButNeverEncoded) {
     EXPECT_EQ(EncodeLabel("a|b c"), "aIb&nbspc");
     EXPECT_EQ(DecodeLabel("aIb&nbspc"), "aIb c");
     EXPECT_EQ(EncodeLabel("say \"hi\""), "say&nbsp&y02hi&y02");
     EXPECT_EQ(DecodeLabel("say&nbsp&y02hi&y02"), "say \"hi\"");
-}
-
-TEST(LabelEncoding, SemicolonIsDecodedButNeverEncoded) {
     EXPECT_EQ(DecodeLabel("x&y01y"), "x;y");
     EXPECT_EQ(EncodeLabel("x;y"), "x;y");
-}
-
-TEST(LabelEncoding, DecodeLeavesOtherEscapesAndLoneAmpersandsAlone) {
     EXPECT_EQ(DecodeLabel("&amp;&y03&nbs&"), "&amp;&y03&nbs&");
     EXPECT_EQ(DecodeLabel("&&nbspnbsp"), "& nbsp");
     EXPECT_EQ(DecodeLabel("&y0&y01"), "&y0;");
+    EXPECT_EQ(EncodeLabel(std::string(100, ' ')).size(), 500u);
+    const std::string plain(300, 'x'); // nothing to replace
+    EXPECT_EQ(EncodeLabel(plain) + DecodeLabel(plain), plain + plain);
 }
 
-TEST(LabelEncoding, MatchesTheThreeReplacesOnRandomTexts) {
+TEST(LabelEncoding, MatchesTheThreeReplacesWhetherBuiltAloneOrAppended) {
+    // The long texts reach the word-at-a-time scans, with escapes at every offset.
     std::mt19937 rng(5);
-    for (int round = 0; round < 20000; ++round) {
-        const std::string text = RandomText(rng, "a |\"&nbspy012;", 24);
-        std::string bars = text;
-        for (char& c : bars)
+    for (int round = 0; round < 23000; ++round) {
+        const std::string text = RandomText(rng, "ab |\"&nbspy012;", round < 20000 ? 24 : 150);
+        std::string encoded = text;
+        for (char& c : encoded)
             c = c == '|' ? 'I' : c;
-        std::string encoded = bars;
-        LiteralReplaceAll(encoded, " ", "&nbsp");
-        LiteralReplaceAll(encoded, "\"", "&y02");
-        ASSERT_EQ(EncodeLabel(text), encoded) << text;
-        std::string decoded = text;
-        LiteralReplaceAll(decoded, "&nbsp", " ");
-        LiteralReplaceAll(decoded, "&y01", ";");
-        LiteralReplaceAll(decoded, "&y02", "\"");
-        ASSERT_EQ(DecodeLabel(text), decoded) << text;
-        if (text.find_first_of("&|") == std::string::npos) {
-            ASSERT_EQ(DecodeLabel(EncodeLabel(text)), text);
-        }
-    }
-}
-
-TEST(LabelEncoding, LongTextsMatchTheThreeReplacesWhetherBuiltAloneOrAppended) {
-    // Long enough for the word-at-a-time scans, with escapes at every offset and
-    // cut short at every length near the end.
-    std::mt19937 rng(11);
-    for (int round = 0; round < 3000; ++round) {
-        const std::string text = RandomText(rng, "ab |\"&nbspy012;", 150);
-        std::string bars = text;
-        for (char& c : bars)
-            c = c == '|' ? 'I' : c;
-        std::string encoded = bars;
         LiteralReplaceAll(encoded, " ", "&nbsp");
         LiteralReplaceAll(encoded, "\"", "&y02");
         std::string decoded = text;
@@ -187,7 +143,7 @@ TEST(LabelEncoding, LongTextsMatchTheThreeReplacesWhetherBuiltAloneOrAppended) {
         LiteralReplaceAll(decoded, "&y02", "\"");
         ASSERT_EQ(EncodeLabel(text), encoded) << text;
         ASSERT_EQ(DecodeLabel(text), decoded) << text;
-
+        ASSERT_TRUE(text.find_first_of("&|") != std::string::npos || DecodeLabel(encoded) == text);
         // Appending keeps what the string held, with or without room to spare.
         std::string roomy = "head|";
         roomy.reserve(2000);
@@ -200,86 +156,79 @@ TEST(LabelEncoding, LongTextsMatchTheThreeReplacesWhetherBuiltAloneOrAppended) {
     }
 }
 
-TEST(LabelEncoding, TextsWithNothingToReplaceComeBackUnchanged) {
-    const std::string plain(300, 'x');
-    EXPECT_EQ(EncodeLabel(plain), plain);
-    EXPECT_EQ(DecodeLabel(plain), plain);
-    std::string out = "a";
-    AppendDecodedLabel(out, "");
-    AppendEncodedLabel(out, "");
-    EXPECT_EQ(out, "a");
-    EXPECT_EQ(EncodeLabel(std::string(100, ' ')).size(), 500u);
-}
-
-TEST(MakeIdentifier, PrefixesLeadingDigitAndReplacesPunctuation) {
+TEST(TextHelpers, IdentifiersTokensCountsAndNames) {
     EXPECT_EQ(MakeIdentifier("3 d-menu.x"), "_3_d_menu_x");
     EXPECT_EQ(MakeIdentifier(" '\"/\\|.;?`@~&!#$%^*()+-=:{}[]"), std::string(29, '_'));
     EXPECT_EQ(MakeIdentifier("a,b<c>"), "a,b<c>");
     EXPECT_EQ(MakeIdentifier(""), "");
-    EXPECT_EQ(MakeIdentifier("x9"), "x9");
-}
-
-TEST(GetToken, SplitsAtLineBreaks) {
-    const std::string text = "one\r\ntwo";
-    EXPECT_EQ(GetToken(text, "\r\n", 1), "one");
-    EXPECT_EQ(GetToken(text, "\r\n", 2), "two");
-    EXPECT_EQ(GetToken(text, "\r\n", 3), "");
-    EXPECT_EQ(GetToken(text, "\r\n", 0), "");
-    EXPECT_EQ(GetToken("", "\r\n", 1), "");
-    EXPECT_EQ(GetToken("a\r\n\r\nb", "\r\n", 2), "");
-    EXPECT_EQ(GetToken("a\r\n\r\nb", "\r\n", 3), "b");
-    EXPECT_EQ(GetToken("a\r\n", "\r\n", 2), "");
-}
-
-TEST(GetToken, OneCharacterSeparatorCutsTheLastCharacterOfEarlierFields) {
-    EXPECT_EQ(GetToken("abc,de,fg", ",", 1), "ab");
-    EXPECT_EQ(GetToken("abc,de,fg", ",", 2), "d");
-    EXPECT_EQ(GetToken("abc,de,fg", ",", 3), "fg");
-    EXPECT_EQ(GetToken(",x", ",", 1), "");
-}
-
-TEST(CountOccurrences, CountsOverlappingOnes) {
+    // Made for "\r\n": a one-character separator cuts the last character of earlier fields.
+    const auto tokens = [](std::string_view text, std::string_view separator, int count) {
+        std::vector<std::string> out;
+        for (int n = 0; n < count; ++n)
+            out.push_back(GetToken(text, separator, n));
+        return out;
+    };
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(tokens("one\r\ntwo", "\r\n", 4), (Texts{"", "one", "two", ""}));
+    EXPECT_EQ(tokens("a\r\n\r\nb", "\r\n", 4), (Texts{"", "a", "", "b"}));
+    EXPECT_EQ(tokens("a\r\n", "\r\n", 3), (Texts{"", "a", ""}));
+    EXPECT_EQ(tokens("", "\r\n", 2), (Texts{"", ""}));
+    EXPECT_EQ(tokens("abc,de,fg", ",", 4), (Texts{"", "ab", "d", "fg"}));
+    EXPECT_EQ(tokens(",x", ",", 2), (Texts{"", ""}));
     EXPECT_EQ(CountOccurrences("aaa", "aa"), 2);
     EXPECT_EQ(CountOccurrences("a\\nb\\nc", "\\n"), 2);
-    EXPECT_EQ(CountOccurrences("", "a"), 0);
-    EXPECT_EQ(CountOccurrences("abc", "abcd"), 0);
+    EXPECT_EQ(CountOccurrences("abc", "abcd") + CountOccurrences("", "a"), 0);
     EXPECT_EQ(CountOccurrences(std::string(40000, 'a'), "a"), 32767);
+    EXPECT_TRUE(StartsWith("abc", "") && StartsWith("abc", "abc") &&
+                StartsWith("http://x", "http://"));
+    EXPECT_FALSE(StartsWith("ab", "abc") || StartsWith("Http", "http"));
+    for (const char* path : {"C:\\img\\a.gif", "/home/u/img/a.gif", "dir\\sub/a.gif", "a.gif"})
+        EXPECT_EQ(BareFileName(path), "a.gif") << path;
+    EXPECT_EQ(BareFileName("dir/"), "");
+    EXPECT_EQ(ToUpperAscii("abZ1-\xc3\xa9"), "ABZ1-\xc3\xa9");
+    EXPECT_EQ(ToLowerAscii("ABz1-\xc3\x89"), "abz1-\xc3\x89");
 }
 
-TEST(StartsWith, ComparesTheLeadingCharacters) {
-    EXPECT_TRUE(StartsWith("http://x", "http://"));
-    EXPECT_TRUE(StartsWith("abc", ""));
-    EXPECT_FALSE(StartsWith("ab", "abc"));
-    EXPECT_FALSE(StartsWith("Http", "http"));
-}
-
-TEST(ParseWholeNumber, AcceptsBlanksSignFractionAndExponent) {
-    EXPECT_EQ(ParseWholeNumber(" 42 ", 0, 100).value, 42);
-    EXPECT_EQ(ParseWholeNumber("+7", 0, 100).value, 7);
-    EXPECT_EQ(ParseWholeNumber("-7", -100, 100).value, -7);
-    EXPECT_EQ(ParseWholeNumber("5.", 0, 100).value, 5);
-    EXPECT_EQ(ParseWholeNumber(".6", 0, 100).value, 1);
-    EXPECT_EQ(ParseWholeNumber("1e3", 0, 10000).value, 1000);
-    EXPECT_EQ(ParseWholeNumber("25E-1", 0, 100).value, 2);
-    EXPECT_EQ(ParseWholeNumber("000000000000000000000000012", 0, 100).value, 12);
+TEST(ParseWholeNumber, ReadsTypedNumbersRoundingHalvesToEven) {
+    const std::pair<std::string, std::int64_t> values[] = {
+        {" \t42 ", 42}, {"+7", 7},          {"-7", -7},         {"5.", 5},
+        {".6", 1},      {"1e3", 1000},      {"25E-1", 2},       {"000000000000000000000000012", 12},
+        {"2.5", 2},     {"3.5", 4},         {"2.5000001", 3},   {"-2.5", -2},
+        {"-3.5", -4},   {"0.5", 0},         {"0.51", 1},        {"0.05", 0},
+        {"1.49999", 1}, {"-32768", -32768}, {"32767.4", 32767}, {"1e-999999999999999999999", 0}};
+    for (const auto& [text, value] : values) {
+        const WholeNumber n = ParseWholeNumber(text, -32768, 32767);
+        EXPECT_EQ(n.error, NumberError::None) << text;
+        EXPECT_EQ(n.value, value) << text;
+    }
+    for (const std::string& text :
+         {std::string("32768"), std::string("-32769"), std::string("32767.5"),
+          std::string(5000, '9'), std::string("1e999999999999999999999")})
+        EXPECT_EQ(ParseWholeNumber(text, -32768, 32767).error, NumberError::Overflow) << text;
+    for (const char* text : {"", "   ", "abc", "12a", "1 2", "-", ".", "1e", "1e+", "0x10", "+-1",
+                             "+", "inf", "nan", "1,5"})
+        EXPECT_EQ(ParseWholeNumber(text, -100, 100).error, NumberError::TypeMismatch) << text;
     EXPECT_EQ(ParseWholeNumber("-0", 0, 100).error, NumberError::None);
+    EXPECT_EQ(ParseWholeNumber("0", 5, 10).error, NumberError::None) << "zero fits any range";
+    EXPECT_EQ(ParseWholeNumber("-5", 0, 10).error, NumberError::Overflow);
+    EXPECT_EQ(ParseWholeNumber("-9223372036854775808", INT64_MIN, INT64_MAX).value, INT64_MIN);
+    EXPECT_EQ(ParseWholeNumber("9223372036854775808", INT64_MIN, INT64_MAX).error,
+              NumberError::Overflow);
+    EXPECT_EQ(NumberErrorText(NumberError::TypeMismatch), "Type mismatch");
+    EXPECT_EQ(NumberErrorText(NumberError::Overflow), "Overflow");
+    EXPECT_EQ(NumberErrorText(NumberError::None), "");
 }
 
 TEST(ParseWholeNumber, PlainDigitsReadAsTheSameNumberWithAFraction) {
     // "digits" and "digits.0" must agree: the second form is always read the long way.
     std::mt19937 rng(3);
-    std::uniform_int_distribution<int> length(1, 21);
-    std::uniform_int_distribution<int> digit(0, 9);
-    std::uniform_int_distribution<int> sign(0, 2);
     const std::int64_t bounds[] = {0, 1, 5, 32767, -32768, 2147483647, INT64_MAX, INT64_MIN};
-    std::uniform_int_distribution<std::size_t> bound(0, std::size(bounds) - 1);
     for (int round = 0; round < 20000; ++round) {
-        std::string text = sign(rng) == 0 ? "-" : sign(rng) == 0 ? "+" : "";
-        const int digits = length(rng);
-        for (int k = 0; k < digits; ++k)
-            text += static_cast<char>('0' + (k == 0 && round % 2 ? 0 : digit(rng)));
-        std::int64_t min = bounds[bound(rng)];
-        std::int64_t max = bounds[bound(rng)];
+        std::string text = std::vector<std::string>{"-", "+", "", ""}[rng() % 4];
+        const std::size_t digits = 1 + rng() % 21;
+        for (std::size_t k = 0; k < digits; ++k)
+            text += static_cast<char>('0' + (k == 0 && round % 2 ? 0 : rng() % 10));
+        std::int64_t min = bounds[rng() % 8], max = bounds[rng() % 8];
         if (min > max)
             std::swap(min, max);
         const WholeNumber direct = ParseWholeNumber(text, min, max);
@@ -287,136 +236,35 @@ TEST(ParseWholeNumber, PlainDigitsReadAsTheSameNumberWithAFraction) {
         ASSERT_EQ(direct.error, general.error) << text << " in " << min << ".." << max;
         ASSERT_EQ(direct.value, general.value) << text << " in " << min << ".." << max;
     }
-    EXPECT_EQ(ParseWholeNumber("0", 5, 10).error, NumberError::None) << "zero fits any range";
-    EXPECT_EQ(ParseWholeNumber("+", -100, 100).error, NumberError::TypeMismatch);
-    EXPECT_EQ(ParseWholeNumber("999999999999999999", 0, INT64_MAX).value, 999999999999999999);
 }
 
-TEST(ParseWholeNumber, RoundsHalvesToEven) {
-    EXPECT_EQ(ParseWholeNumber("2.5", -100, 100).value, 2);
-    EXPECT_EQ(ParseWholeNumber("3.5", -100, 100).value, 4);
-    EXPECT_EQ(ParseWholeNumber("2.5000001", -100, 100).value, 3);
-    EXPECT_EQ(ParseWholeNumber("-2.5", -100, 100).value, -2);
-    EXPECT_EQ(ParseWholeNumber("-3.5", -100, 100).value, -4);
-    EXPECT_EQ(ParseWholeNumber("0.5", -100, 100).value, 0);
-    EXPECT_EQ(ParseWholeNumber("0.51", -100, 100).value, 1);
-    EXPECT_EQ(ParseWholeNumber("0.05", -100, 100).value, 0);
-    EXPECT_EQ(ParseWholeNumber("1.49999", -100, 100).value, 1);
+TEST(NumberFallbacks, CIntGivesZeroAndPositiveGivesFiveForWhatIsNoNumber) {
+    const std::pair<const char*, int> ints[] = {
+        {"2.5", 2},   {"3.5", 4}, {" 12 ", 12}, {"-32768", -32768},
+        {"40000", 0}, {"abc", 0}, {"", 0}};
+    for (const auto& [text, value] : ints)
+        EXPECT_EQ(MakeCInt(text), value) << text;
+    const std::pair<const char*, const char*> positives[] = {
+        {"-250", "250"}, {"2.50", "2.5"}, {" -0.125 ", "0.125"}, {"+3", "3"}, {"-0", "0"},
+        {"1e3", "1000"}, {"0.1", "0.1"},  {"-1e-400", "0"},      {"", "5"},   {"abc", "5"},
+        {"1e999", "5"},  {"2e308", "5"},  {"inf", "5"}};
+    for (const auto& [text, shortest] : positives)
+        EXPECT_EQ(MakePositive(text), shortest) << text;
 }
 
-TEST(ParseWholeNumber, NonNumbersAreTypeMismatch) {
-    for (const char* text : {"", "   ", "abc", "12a", "1 2", "-", ".", "1e", "1e+", "0x10", "+-1",
-                             "inf", "nan", "1,5"})
-        EXPECT_EQ(ParseWholeNumber(text, -100, 100).error, NumberError::TypeMismatch) << text;
-    EXPECT_EQ(NumberErrorText(NumberError::TypeMismatch), "Type mismatch");
-}
-
-TEST(ParseWholeNumber, ValuesOutsideTheRangeOverflow) {
-    EXPECT_EQ(ParseWholeNumber("32768", -32768, 32767).error, NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber("-32769", -32768, 32767).error, NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber("-32768", -32768, 32767).value, -32768);
-    EXPECT_EQ(ParseWholeNumber("32767.4", -32768, 32767).value, 32767);
-    EXPECT_EQ(ParseWholeNumber("32767.5", -32768, 32767).error, NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber(std::string(5000, '9'), -32768, 32767).error, NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber("1e999999999999999999999", 0, 10).error, NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber("1e-999999999999999999999", 0, 10).value, 0);
-    EXPECT_EQ(ParseWholeNumber("-9223372036854775808", INT64_MIN, INT64_MAX).value, INT64_MIN);
-    EXPECT_EQ(ParseWholeNumber("9223372036854775808", INT64_MIN, INT64_MAX).error,
-              NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber("-5", 0, 10).error, NumberError::Overflow);
-    EXPECT_EQ(NumberErrorText(NumberError::Overflow), "Overflow");
-    EXPECT_EQ(NumberErrorText(NumberError::None), "");
-}
-
-TEST(MakeCInt, GivesZeroForWhatItCannotConvert) {
-    EXPECT_EQ(MakeCInt("2.5"), 2);
-    EXPECT_EQ(MakeCInt("3.5"), 4);
-    EXPECT_EQ(MakeCInt(" 12 "), 12);
-    EXPECT_EQ(MakeCInt("-32768"), -32768);
-    EXPECT_EQ(MakeCInt("40000"), 0);
-    EXPECT_EQ(MakeCInt("abc"), 0);
-    EXPECT_EQ(MakeCInt(""), 0);
-}
-
-TEST(MakePositive, GivesTheShortestTextOfTheAbsoluteValue) {
-    EXPECT_EQ(MakePositive("-250"), "250");
-    EXPECT_EQ(MakePositive("2.50"), "2.5");
-    EXPECT_EQ(MakePositive(" -0.125 "), "0.125");
-    EXPECT_EQ(MakePositive("+3"), "3");
-    EXPECT_EQ(MakePositive("-0"), "0");
-    EXPECT_EQ(MakePositive("1e3"), "1000");
-    EXPECT_EQ(MakePositive("0.1"), "0.1");
-    EXPECT_EQ(MakePositive("-1e-400"), "0");
-}
-
-TEST(MakePositive, GivesFiveForWhatIsNoNumber) {
-    EXPECT_EQ(MakePositive(""), "5");
-    EXPECT_EQ(MakePositive("abc"), "5");
-    EXPECT_EQ(MakePositive("1e999"), "5");
-    EXPECT_EQ(MakePositive("2e308"), "5");
-    EXPECT_EQ(MakePositive("inf"), "5");
-}
-
-TEST(HexText, WritesTheUnsignedValueWithoutLeadingZeros) {
-    EXPECT_EQ(HexText(0), "0");
-    EXPECT_EQ(HexText(255), "FF");
-    EXPECT_EQ(HexText(256), "100");
-    EXPECT_EQ(HexText(0xABCDEF), "ABCDEF");
-    EXPECT_EQ(HexText(-1), "FFFFFFFF");
-    EXPECT_EQ(HexText(INT32_MIN), "80000000");
-}
-
-TEST(ColorToHex, SplitsTheTextByItsLength) {
-    EXPECT_EQ(ColorToHex("FF", "NORMAL"), "FF0000");
-    EXPECT_EQ(ColorToHex("5", "NORMAL"), "000000");
-    EXPECT_EQ(ColorToHex("", "normal"), "000000");
-    EXPECT_EQ(ColorToHex("ABC", "NORMAL"), "");
-    EXPECT_EQ(ColorToHex("12345", "NORMAL"), "");
-    EXPECT_EQ(ColorToHex("1234567", "NORMAL"), "");
-    EXPECT_EQ(ColorToHex("1234", "Normal"), "341200");
-    EXPECT_EQ(ColorToHex("123456", "NORMAL"), "563412");
-}
-
-TEST(ColorToHex, ModeSelectsOneComponentWithoutRegardToCase) {
-    EXPECT_EQ(ColorToHex("123456", "red"), "56");
-    EXPECT_EQ(ColorToHex("123456", "Green"), "34");
-    EXPECT_EQ(ColorToHex("123456", "BLUE"), "12");
-    EXPECT_EQ(ColorToHex("1234", "blue"), "00");
-    EXPECT_EQ(ColorToHex("ABC", "red"), "");
-    EXPECT_EQ(ColorToHex("123456", "purple"), "");
-}
-
-TEST(ColorToWeb, GivesRedGreenBlueDigits) {
-    EXPECT_EQ(ColorToWeb(0), "000000");
-    EXPECT_EQ(ColorToWeb(255), "FF0000");
-    EXPECT_EQ(ColorToWeb(65280), "00FF00");
-    EXPECT_EQ(ColorToWeb(16711680), "0000FF");
-    EXPECT_EQ(ColorToWeb(65535), "FFFF00");
-    EXPECT_EQ(ColorToWeb(16777215), "FFFFFF");
-    EXPECT_EQ(ColorToWeb(5), "000000");
-    EXPECT_EQ(ColorToWeb(256), "");
-    EXPECT_EQ(ColorToWeb(1048575), "");
-    EXPECT_EQ(ColorToWeb(-1), "");
-}
-
-TEST(BareFileName, TakesWhatFollowsTheLastSeparator) {
-    EXPECT_EQ(BareFileName("C:\\img\\a.gif"), "a.gif");
-    EXPECT_EQ(BareFileName("/home/u/img/b.jpg"), "b.jpg");
-    EXPECT_EQ(BareFileName("dir\\sub/c.au"), "c.au");
-    EXPECT_EQ(BareFileName("plain.gif"), "plain.gif");
-    EXPECT_EQ(BareFileName("dir/"), "");
-}
-
-TEST(AsciiCase, ChangesOnlyAsciiLetters) {
-    EXPECT_EQ(ToUpperAscii("abZ1-\xc3\xa9"), "ABZ1-\xc3\xa9");
-    EXPECT_EQ(ToLowerAscii("ABz1-\xc3\x89"), "abz1-\xc3\x89");
-}
-
-TEST(StringTokenizer, IsInert) {
-    StringTokenizer tokenizer;
-    tokenizer.init("a,b,c", ",", true);
-    EXPECT_EQ(tokenizer.nextToken(), "");
-    EXPECT_FALSE(tokenizer.hasMoreTokens());
-    EXPECT_FALSE(tokenizer.hasMoreElements());
-    EXPECT_EQ(tokenizer.countTokens(), 0);
+TEST(Colours, HexTextAndWebColoursSplitTheValueByItsTextsLength) {
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ((Texts{HexText(0), HexText(256), HexText(0xABCDEF), HexText(-1), HexText(INT32_MIN)}),
+              (Texts{"0", "100", "ABCDEF", "FFFFFFFF", "80000000"}));
+    const std::tuple<const char*, const char*, const char*> hex[] = {
+        {"FF", "NORMAL", "FF0000"},   {"5", "NORMAL", "000000"},      {"", "normal", "000000"},
+        {"ABC", "NORMAL", ""},        {"12345", "NORMAL", ""},        {"1234567", "NORMAL", ""},
+        {"1234", "Normal", "341200"}, {"123456", "NORMAL", "563412"}, {"123456", "red", "56"},
+        {"123456", "Green", "34"},    {"123456", "BLUE", "12"},       {"1234", "blue", "00"},
+        {"ABC", "red", ""},           {"123456", "purple", ""}};
+    for (const auto& [text, mode, expected] : hex)
+        EXPECT_EQ(ColorToHex(text, mode), expected) << text << " " << mode;
+    EXPECT_EQ((Texts{ColorToWeb(65280), ColorToWeb(16777215), ColorToWeb(5), ColorToWeb(256),
+                     ColorToWeb(1048575), ColorToWeb(-1)}),
+              (Texts{"00FF00", "FFFFFF", "000000", "", "", ""}));
 }
