@@ -1,24 +1,23 @@
 #include "editorfakes.h"
 #include "fakeui.h"
+#include "projectfile.h"
 #include "propertyeditor.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace orvelin;
-using orvelin::testing::FakeUserInterface;
-using orvelin::testing::RecordingDesignView;
-using orvelin::testing::RecordingEditorView;
 
 namespace {
 
 struct PropertyFixture : ::testing::Test {
     ProjectModel model;
     ButtonList list;
-    FakeUserInterface ui;
+    orvelin::testing::FakeUserInterface ui;
     MemorySettingsBackend backend;
     Settings settings{backend};
-    RecordingDesignView design;
-    RecordingEditorView view{model};
+    orvelin::testing::RecordingDesignView design;
+    orvelin::testing::RecordingEditorView view{model};
     PropertyEditor props{model, list, ui, settings, design, view};
 
     // Buttons 1..count, the given ones selected, `current` current, nothing unsaved.
@@ -39,21 +38,19 @@ struct PropertyFixture : ::testing::Test {
 TEST_F(PropertyFixture, FontColourInOverChangesOnlyThatFieldOfEverySelectedButton) {
     MakeButtons(4, {1, 2, 3}, 2);
     model.CurrentState = "OVER";
-    const ProjectModel before = model;
     props.SetFontColor(0x123456);
-    for (int i = 1; i <= 3; ++i) {
-        ButtonRecord expected = before.Button(i);
-        expected.FontColorOVER = 0x123456;
+    ButtonRecord expected;
+    expected.FontColorOVER = 0x123456;
+    for (int i = 1; i <= 3; ++i)
         EXPECT_EQ(model.Button(i), expected) << "button " << i;
-    }
-    EXPECT_EQ(model.Button(4), before.Button(4));
+    EXPECT_EQ(model.Button(4), ButtonRecord{});
     EXPECT_EQ(design.redrawn, (std::vector<int>{1, 2, 3}));
     EXPECT_EQ(design.calls[1], "RedrawButton 2 110") << "the current one gets its handles";
     EXPECT_FALSE(model.Saved);
 }
 
-TEST_F(PropertyFixture, PerStateFieldsGoIntoTheEditedStateOnly) {
-    MakeButtons(2, {1, 2}, 1);
+TEST_F(PropertyFixture, EverySetterWritesItsFieldOfTheSelectedButtonsInTheEditedState) {
+    MakeButtons(3, {1, 3}, 3);
     model.CurrentState = "DOWN";
     props.SetLabel("Go\\nthere");
     props.SetLabelPosX("7");
@@ -65,54 +62,6 @@ TEST_F(PropertyFixture, PerStateFieldsGoIntoTheEditedStateOnly) {
     props.SetImage("/img/a.gif");
     props.SetImgStyle(2);
     props.SetSound("/snd/a.au");
-    for (int i = 1; i <= 2; ++i) {
-        const ButtonRecord& b = model.Button(i);
-        EXPECT_EQ(b.LabelDOWN, "Go\\nthere");
-        EXPECT_EQ(b.LabelUP, "");
-        EXPECT_EQ(b.LabelPosXDOWN, 7);
-        EXPECT_EQ(b.LabelPosYDOWN, 8);
-        EXPECT_EQ(b.LabelPosYUP, 25);
-        EXPECT_EQ(b.FontDOWN, "Courier");
-        EXPECT_EQ(b.FontOVER, "Arial");
-        EXPECT_EQ(b.FontSizeDOWN, 14);
-        EXPECT_EQ(b.FontStyleDOWN, "2");
-        EXPECT_EQ(b.FontStyleUP, "0");
-        EXPECT_EQ(b.BackColorDOWN, 42);
-        EXPECT_EQ(b.BackColorUP, 65535);
-        EXPECT_EQ(b.ImageDOWN, "/img/a.gif");
-        EXPECT_EQ(b.ImgStyleDOWN, 2);
-        EXPECT_EQ(b.SndDOWN, "/snd/a.au");
-        EXPECT_EQ(b.SndUP, "");
-    }
-}
-
-TEST_F(PropertyFixture, TheStyleCodeComesFromBothToggles) {
-    MakeButtons(1, {1}, 1);
-    const std::pair<std::pair<bool, bool>, const char*> cases[] = {
-        {{false, false}, "0"}, {{true, false}, "1"}, {{false, true}, "2"}, {{true, true}, "3"}};
-    for (const auto& [flags, code] : cases) {
-        props.SetFontStyle(flags.first, flags.second);
-        EXPECT_EQ(model.Button(1).FontStyleUP, code);
-    }
-}
-
-TEST_F(PropertyFixture, GeometryTextGoesThroughTheIntegerConversion) {
-    MakeButtons(2, {1, 2}, 1);
-    props.SetX(" 40 ");
-    props.SetY("12.5");
-    props.SetWidth("abc");
-    props.SetHeight("99999");
-    for (int i = 1; i <= 2; ++i) {
-        EXPECT_EQ(model.Button(i).x, 40);
-        EXPECT_EQ(model.Button(i).y, 12) << "halves round to the even number";
-        EXPECT_EQ(model.Button(i).Width, 0);
-        EXPECT_EQ(model.Button(i).Height, 0) << "outside 16 bits gives 0";
-    }
-    EXPECT_TRUE(ui.shown.empty()) << "no message for bad numbers";
-}
-
-TEST_F(PropertyFixture, PerButtonFieldsAndFlags) {
-    MakeButtons(3, {1, 3}, 3);
     props.SetURL("http://a.b/");
     props.SetStatus("Home");
     props.SetTarget("_blank");
@@ -120,23 +69,31 @@ TEST_F(PropertyFixture, PerButtonFieldsAndFlags) {
     props.SetTransparent(true);
     props.SetShowHand(true);
     props.SetHidden(true);
-    for (int i : {1, 3}) {
-        const ButtonRecord& b = model.Button(i);
-        EXPECT_EQ(b.URL, "http://a.b/");
-        EXPECT_EQ(b.Status, "Home");
-        EXPECT_EQ(b.Target, "_blank");
-        EXPECT_EQ(b.Border, 0);
-        EXPECT_EQ(b.noBackGround, 1);
-        EXPECT_EQ(b.ShowHand, 1);
-        EXPECT_EQ(b.Hidden, 1);
-    }
+    // Geometry goes through the integer conversion: halves to even, 0 for no 16-bit number.
+    props.SetX(" 40 ");
+    props.SetY("12.5");
+    props.SetWidth("abc");
+    props.SetHeight("99999");
+    ButtonRecord expected;
+    ASSERT_FALSE(ParseButton("40|12|0|0|||Go\\nthere|http://a.b/|Home|_blank|0|1|1|||/img/a.gif|"
+                             "65535|16776960|42|0|16711680|16777215|Arial|Arial|Courier|0|0|2|"
+                             "10|10|14|||/snd/a.au|0|0|2|0|0|0|53|25|53|31|7|8|1|",
+                             expected));
+    EXPECT_EQ(model.Button(1), expected);
+    EXPECT_EQ(model.Button(3), expected);
     EXPECT_EQ(model.Button(2), ButtonRecord{});
+    EXPECT_TRUE(ui.shown.empty()) << "no message for bad numbers";
+    for (const auto& [bold, italic, code] :
+         {std::tuple{false, false, "0"}, {true, false, "1"}, {true, true, "3"}}) {
+        props.SetFontStyle(bold, italic);
+        EXPECT_EQ(model.Button(1).FontStyleDOWN, code);
+    }
 }
 
-TEST_F(PropertyFixture, NothingIsWrittenWhileUpdating) {
+TEST_F(PropertyFixture, NothingIsWrittenWhileUpdatingOrWithoutASelection) {
     MakeButtons(2, {1, 2}, 1);
     model.Updating = true;
-    const ProjectModel before = model;
+    const std::string before = ProjectText(model);
     props.SetX("5");
     props.SetLabel("x");
     props.SetPositionText(true);
@@ -153,15 +110,10 @@ TEST_F(PropertyFixture, NothingIsWrittenWhileUpdating) {
     props.SetBackImg("/b.gif");
     props.SetBackImgStyle(2);
     model.Updating = false;
-    EXPECT_EQ(model.Button(1), before.Button(1));
-    EXPECT_EQ(model.Button(2), before.Button(2));
-    EXPECT_EQ(model.AppletWidth, 510);
-    EXPECT_EQ(model.AppletHeight, 170);
-    EXPECT_EQ(model.Behaviour, 0);
-    EXPECT_EQ(model.DOWNBtn, 0);
-    EXPECT_EQ(model.BackGround, 0);
-    EXPECT_EQ(model.BackImg, "");
-    EXPECT_EQ(model.BackImgStyle, 0);
+    list.removeSelection(1);
+    list.removeSelection(2);
+    props.SetLabel("x");
+    EXPECT_EQ(ProjectText(model), before);
     EXPECT_TRUE(model.Saved);
     EXPECT_TRUE(design.calls.empty());
     EXPECT_TRUE(view.props.empty());
@@ -193,40 +145,30 @@ TEST_F(PropertyFixture, PositionTextAndCenterTextAreOneFlagAndRefreshThePanel) {
     MakeButtons(3, {2, 3}, 3);
     model.CurrentState = "OVER";
     props.SetPositionText(true);
-    EXPECT_EQ(model.Button(2).PositionTextOVER, 1);
-    EXPECT_EQ(model.Button(3).PositionTextOVER, 1);
-    EXPECT_EQ(model.Button(3).PositionTextUP, 0);
-    EXPECT_EQ(model.Button(1).PositionTextOVER, 0);
+    EXPECT_EQ((std::vector<int>{model.Button(1).PositionTextOVER, model.Button(2).PositionTextOVER,
+                                model.Button(3).PositionTextOVER, model.Button(3).PositionTextUP}),
+              (std::vector<int>{0, 1, 1, 0}));
     ASSERT_EQ(view.props.size(), 1u);
     EXPECT_EQ(view.props[0].index, 3);
     EXPECT_EQ(view.props[0].state, "OVER");
     props.SetCenterText(true);
-    EXPECT_EQ(model.Button(2).PositionTextOVER, 0);
-    EXPECT_EQ(model.Button(3).PositionTextOVER, 0);
+    EXPECT_EQ(model.Button(2).PositionTextOVER + model.Button(3).PositionTextOVER, 0);
 }
 
-TEST_F(PropertyFixture, NoSelectionMeansNoChange) {
-    MakeButtons(2, {}, 1);
-    props.SetLabel("x");
-    EXPECT_EQ(model.Button(1).LabelUP, "");
-    EXPECT_TRUE(model.Saved);
-}
-
-TEST_F(PropertyFixture, AppletControlsWriteTheModel) {
+TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsOnEnter) {
     props.SetAppletWidth("300");
     props.SetAppletHeight("x");
-    EXPECT_EQ(model.AppletWidth, 300);
-    EXPECT_EQ(model.AppletHeight, 0);
+    props.SetBehaviour(1);
+    props.SetDOWNBtn(true);
+    EXPECT_EQ(
+        (std::vector<int>{model.AppletWidth, model.AppletHeight, model.Behaviour, model.DOWNBtn}),
+        (std::vector<int>{300, 0, 1, 1}));
     EXPECT_TRUE(design.calls.empty()) << "the surface is resized on Enter only";
+    EXPECT_FALSE(model.Saved);
     props.CommitAppletSize();
     EXPECT_EQ(design.count("AppletChanged"), 1);
-    props.SetBehaviour(1);
-    EXPECT_EQ(model.Behaviour, 1);
     props.SetBehaviour(0);
     EXPECT_EQ(model.Behaviour, 0);
-    props.SetDOWNBtn(true);
-    EXPECT_EQ(model.DOWNBtn, 1);
-    EXPECT_FALSE(model.Saved);
 
     design.clear();
     props.SetBackGround(0xFF00);
@@ -238,19 +180,16 @@ TEST_F(PropertyFixture, AppletControlsWriteTheModel) {
     EXPECT_EQ(design.count("UpdateTransparentBtns"), 3);
 }
 
-TEST(AutoBackImgStyle, TilesOnlyAnImageSmallerThanTheAppletBothWays) {
+TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsOn) {
     EXPECT_EQ(AutoBackImgStyle(true, ImageSize{100, 50}, 510, 170), 1);
-    EXPECT_EQ(AutoBackImgStyle(true, ImageSize{510, 50}, 510, 170), 0);
-    EXPECT_EQ(AutoBackImgStyle(true, ImageSize{100, 170}, 510, 170), 0);
-    EXPECT_EQ(AutoBackImgStyle(true, ImageSize{800, 600}, 510, 170), 0);
-    EXPECT_EQ(AutoBackImgStyle(true, std::nullopt, 510, 170), 0);
+    for (const std::optional<ImageSize>& image :
+         {std::optional<ImageSize>{{510, 50}}, {{100, 170}}, {{800, 600}}, {}})
+        EXPECT_EQ(AutoBackImgStyle(true, image, 510, 170), 0);
     EXPECT_EQ(AutoBackImgStyle(false, ImageSize{100, 50}, 510, 170), std::nullopt);
-}
 
-TEST_F(PropertyFixture, AChosenBackgroundImageGetsItsPlacementWhenTilingIsOn) {
     view.imageSizes["/small.gif"] = {32, 32};
     view.imageSizes["/big.jpg"] = {600, 400};
-    ui.chosenFiles = {"/small.gif", "/big.jpg"};
+    ui.chosenFiles = {"/small.gif", "/big.jpg", "/small.gif", std::nullopt};
     props.BrowseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif");
     EXPECT_EQ(model.BackImgStyle, 1);
@@ -261,16 +200,12 @@ TEST_F(PropertyFixture, AChosenBackgroundImageGetsItsPlacementWhenTilingIsOn) {
     EXPECT_EQ(model.BackImgStyle, 0);
     EXPECT_EQ(view.mainParamsUpdating.size(), 2u) << "the applet controls show the choice";
     EXPECT_EQ(design.count("UpdateTransparentBtns"), 2);
-}
 
-TEST_F(PropertyFixture, WithTilingOffAChosenImageKeepsThePlacement) {
     settings.setFlag(SettingKey::AutoTile, false);
     model.BackImgStyle = 2;
-    view.imageSizes["/small.gif"] = {32, 32};
-    ui.chosenFiles = {"/small.gif", std::nullopt};
     props.BrowseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif");
-    EXPECT_EQ(model.BackImgStyle, 2);
+    EXPECT_EQ(model.BackImgStyle, 2) << "with tiling off the placement stays";
     props.BrowseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif") << "a cancelled dialog changes nothing";
 }
