@@ -187,19 +187,6 @@ TEST(ProjectModel, TheHundredAndFirstButtonIsAcceptedTheNextRefused) {
     EXPECT_EQ(model.Button(102), spare);
 }
 
-TEST(ProjectModel, NewButtonKeepsItsSlotPositionAndTakesTheRestFromTheDefault) {
-    ProjectModel model;
-    model.Button(1).x = 40;
-    model.Button(1).y = 50;
-    model.Button(1).LabelOVER = "stale";
-    ASSERT_EQ(model.AddButton("9|9|60|20|Go&nbsphome|"), ProjectModel::AddResult::Added);
-    ButtonRecord expected;
-    ASSERT_FALSE(ParseButton("40|50|60|20|Go&nbsphome|", expected));
-    EXPECT_EQ(model.Button(1), expected);
-    EXPECT_EQ(model.CurrentButton, 1);
-    EXPECT_FALSE(model.Saved);
-}
-
 TEST(ProjectModel, CorruptDefaultLeavesTheModelUnchanged) {
     ProjectModel model;
     ASSERT_EQ(model.AddButton(kFactoryDefaultButton), ProjectModel::AddResult::Added);
@@ -232,29 +219,6 @@ TEST(ProjectModel, RemoveButtonMovesTheLaterOnesDownAndIgnoresOtherIndices) {
     EXPECT_EQ(model.ButtonCount, 2);
     EXPECT_EQ(model.Button(1).LabelUP + model.Button(2).LabelUP, "b2b3");
     EXPECT_FALSE(model.Saved);
-}
-
-TEST(ProjectModel, ResetEmptiesTheProjectButKeepsTheAppletSettings) {
-    ProjectModel model;
-    model.AddButton(kFactoryDefaultButton);
-    model.AppletWidth = 300;
-    model.BackGround = 255;
-    model.Behaviour = 1;
-    model.AppletName = "menu";
-    model.BackImg = "bg.gif";
-    model.AppletProgramStart = "a;";
-    model.AppletProgramOUT = "b;";
-    model.ProjectFileName = "/tmp/p.orv";
-    model.Saved = false;
-    model.Reset();
-    EXPECT_EQ((std::vector<int>{model.ButtonCount, model.CurrentButton, model.AppletWidth,
-                                model.BackGround, model.Behaviour}),
-              (std::vector<int>{0, 0, 300, 255, 1}));
-    EXPECT_EQ(model.BackImg + model.AppletProgramStart + model.AppletProgramOUT +
-                  model.ProjectFileName,
-              "");
-    EXPECT_TRUE(model.Saved);
-    EXPECT_EQ(model.AppletName, "menu");
 }
 
 TEST(ProjectModel, ProgramSlotsNameTheSevenProgramsAndTheEditedStateFallsBackToUp) {

@@ -168,9 +168,12 @@ TEST_F(EditorFixture, AddMakesTheStoredDefaultButtonAtItsSlotsPosition) {
     Start();
     settings.SetDefaultButton("5|6|80|30|Hi&nbspthere|||||_top|");
     model.Button(2).x = 33;
+    model.Button(2).y = 44;
+    model.Button(2).ProgramDOWN = "stale"; // the rest comes from the default
+
     editor.AddButton();
     ButtonRecord expected;
-    ParseButton("33|0|80|30|Hi&nbspthere|||||_top|", expected);
+    ParseButton("33|44|80|30|Hi&nbspthere|||||_top|", expected);
     EXPECT_EQ(model.Button(2), expected);
     EXPECT_EQ(Shown(), "2 buttons, current 2, list 2 selecting 2, changed");
     EXPECT_EQ(design.calls.front(), "LoadButton 2");
@@ -308,15 +311,23 @@ TEST_F(EditorFixture, NewEmptiesTheProjectAndTheSurfaceUnlessCancelled) {
     Start(2);
     settings.setFlag(SettingKey::frmDesignOnTop, true);
     model.AppletWidth = 300;
+    model.BackGround = 255;
+    model.AppletName = "menu";
     model.BackImg = "/bg.gif";
+    model.AppletProgramStart = "a;";
+    model.AppletProgramOUT = "b;";
     model.ProjectFileName = "/old.orv";
     Unsaved({Answer::Cancel, Answer::No});
     editor.New();
     EXPECT_EQ(model.ButtonCount, 3) << "cancel stops";
     editor.New();
     EXPECT_EQ(Shown(), "0 buttons, current 0, list 0 selecting, saved");
-    EXPECT_EQ(model.AppletWidth, 300);
-    EXPECT_EQ(model.BackImg + model.ProjectFileName, "");
+    EXPECT_EQ((std::vector<int>{model.AppletWidth, model.BackGround}),
+              (std::vector<int>{300, 255}));
+    EXPECT_EQ(model.AppletName, "menu");
+    EXPECT_EQ(model.BackImg + model.AppletProgramStart + model.AppletProgramOUT +
+                  model.ProjectFileName,
+              "");
     EXPECT_EQ(design.count("ClearButtons"), 1);
     EXPECT_EQ(view.labelEditorCloses, 1);
     EXPECT_TRUE(view.mainParamsUpdating.back());

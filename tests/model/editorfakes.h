@@ -5,6 +5,7 @@
 #include "projectmodel.h"
 #include "shell.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <map>
@@ -42,11 +43,8 @@ public:
     }
 
     std::vector<int> redrawn; ///< indices given to RedrawButton, in order
-    int count(const std::string& call) const {
-        int n = 0;
-        for (const std::string& c : calls)
-            n += c == call ? 1 : 0;
-        return n;
+    long count(const std::string& call) const {
+        return std::count(calls.begin(), calls.end(), call);
     }
     void clear() {
         calls.clear();
@@ -109,10 +107,8 @@ public:
     void CloseLabelEditor() override { ++labelEditorCloses; }
     void QuitProgram() override { ++quits; }
     std::optional<ImageSize> ImageSizeOf(const std::string& path) override {
-        auto it = imageSizes.find(path);
-        if (it == imageSizes.end())
-            return std::nullopt;
-        return it->second;
+        const auto it = imageSizes.find(path);
+        return it == imageSizes.end() ? std::nullopt : std::optional<ImageSize>(it->second);
     }
 
 private:
