@@ -137,41 +137,25 @@ void BM_StartupSideBySide(benchmark::State& state) {
 }
 BENCHMARK(BM_StartupSideBySide)->Iterations(20)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-void BM_DesignerStartup(benchmark::State& state) {
+/// Starts one of the two programs again and again, alone.
+void RunAlone(benchmark::State& state, std::vector<std::string> Programs::*program) {
     Programs p;
     try {
         p = Prepare();
+        for (auto _ : state)
+            RunOnce(p.*program, p.env);
     } catch (const std::exception& e) {
         state.SkipWithError(e.what());
-        return;
     }
-    for (auto _ : state) {
-        try {
-            RunOnce(p.designer, p.env);
-        } catch (const std::exception& e) {
-            state.SkipWithError(e.what());
-            return;
-        }
-    }
+}
+
+void BM_DesignerStartup(benchmark::State& state) {
+    RunAlone(state, &Programs::designer);
 }
 BENCHMARK(BM_DesignerStartup)->Iterations(10)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void BM_BareWindowStartup(benchmark::State& state) {
-    Programs p;
-    try {
-        p = Prepare();
-    } catch (const std::exception& e) {
-        state.SkipWithError(e.what());
-        return;
-    }
-    for (auto _ : state) {
-        try {
-            RunOnce(p.bare, p.env);
-        } catch (const std::exception& e) {
-            state.SkipWithError(e.what());
-            return;
-        }
-    }
+    RunAlone(state, &Programs::bare);
 }
 BENCHMARK(BM_BareWindowStartup)->Iterations(10)->Unit(benchmark::kMillisecond)->UseRealTime();
 
