@@ -131,24 +131,6 @@ TEST(ButtonRecord, FieldsReadNumbersAsTheTypedNumberConversionDoes) {
     }
 }
 
-TEST(ButtonRecord, LabelsAreEncodedOnWriteAndDecodedOnRead) {
-    ButtonRecord record;
-    record.LabelUP = "a|b c";
-    record.LabelOVER = "say \"hi\"";
-    record.LabelDOWN = "x;y\\ny";
-    record.URL = "http://x/a b"; // other texts are written as they are
-    record.Status = "go there";
-    const std::string line = SerializeButton(record);
-    EXPECT_EQ(line.substr(0, line.find("|_self|")),
-              "0|0|107|40|aIb&nbspc|say&nbsp&y02hi&y02|x;y\\ny|http://x/a b|go there");
-    ButtonRecord back;
-    ASSERT_FALSE(ParseButton(line, back));
-    record.LabelUP = "aIb c"; // the bar comes back as a capital I
-    EXPECT_EQ(back, record);
-    ASSERT_FALSE(ParseButton("0|0|107|40|a&y01b|&nbsp|", back));
-    EXPECT_EQ(back.LabelUP + back.LabelOVER, "a;b ");
-}
-
 TEST(ButtonRecord, FontStyleCodesAndStateNamesConvertBothWays) {
     for (const bool bold : {false, true}) {
         for (const bool italic : {false, true}) {
@@ -202,23 +184,6 @@ TEST(ProjectModel, CorruptDefaultLeavesTheModelUnchanged) {
     EXPECT_EQ(model.CurrentButton, 1);
     EXPECT_TRUE(model.Saved);
     EXPECT_EQ(model.Button(2), Unusual());
-}
-
-TEST(ProjectModel, RemoveButtonMovesTheLaterOnesDownAndIgnoresOtherIndices) {
-    ProjectModel model;
-    for (int i = 1; i <= 3; ++i) {
-        model.AddButton(kFactoryDefaultButton);
-        model.Button(i).LabelUP = "b" + std::to_string(i);
-    }
-    model.Saved = true;
-    model.RemoveButton(0);
-    model.RemoveButton(4);
-    EXPECT_EQ(model.ButtonCount, 3);
-    EXPECT_TRUE(model.Saved);
-    model.RemoveButton(1);
-    EXPECT_EQ(model.ButtonCount, 2);
-    EXPECT_EQ(model.Button(1).LabelUP + model.Button(2).LabelUP, "b2b3");
-    EXPECT_FALSE(model.Saved);
 }
 
 TEST(ProjectModel, ProgramSlotsNameTheSevenProgramsAndTheEditedStateFallsBackToUp) {

@@ -85,11 +85,6 @@ TEST(EditorText, CommandLinePathDropsBlanksAndSurroundingQuotesAndTitlesNameTheS
         {"\"", ""}};
     for (const auto& [line, path] : lines)
         EXPECT_EQ(ProjectPathFromCommandLine(line), path) << line;
-    EXPECT_EQ(MainTitle(), kTitle);
-    EXPECT_EQ((Texts{ActionTitle(ButtonState::UP), ActionTitle(ButtonState::OVER),
-                     ActionTitle(ButtonState::DOWN)}),
-              (Texts{"Set Action: On Leaving Button...", "Set Action: On Entering Button...",
-                     "Set Action: On Button Press..."}));
     EXPECT_STREQ(AskToSaveText(SaveAnswer::Saved), "SAVED");
     EXPECT_STREQ(AskToSaveText(SaveAnswer::Cancel), "CANCEL");
 }

@@ -4,7 +4,6 @@
 #include "propertyeditor.h"
 
 #include <gtest/gtest.h>
-#include <tuple>
 
 using namespace orvelin;
 
@@ -83,11 +82,6 @@ TEST_F(PropertyFixture, EverySetterWritesItsFieldOfTheSelectedButtonsInTheEdited
     EXPECT_EQ(model.Button(3), expected);
     EXPECT_EQ(model.Button(2), ButtonRecord{});
     EXPECT_TRUE(ui.shown.empty()) << "no message for bad numbers";
-    for (const auto& [bold, italic, code] :
-         {std::tuple{false, false, "0"}, {true, false, "1"}, {true, true, "3"}}) {
-        props.SetFontStyle(bold, italic);
-        EXPECT_EQ(model.Button(1).FontStyleDOWN, code);
-    }
 }
 
 TEST_F(PropertyFixture, NothingIsWrittenWhileUpdatingOrWithoutASelection) {
