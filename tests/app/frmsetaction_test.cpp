@@ -6,7 +6,6 @@
 
 #include <QAbstractItemModel>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -55,28 +54,10 @@ protected:
 
 } // namespace
 
-TEST_F(FrmSetActionTest, ControlsCarryTheirNamesAndTextsAndTheProgramIsListed) {
+TEST_F(FrmSetActionTest, ShowsItsTitleAndListsTheProgram) {
     EXPECT_EQ(dialog->objectName(), "frmSetAction");
     EXPECT_EQ(dialog->windowTitle(), "Set Action: On Button Press...");
-    const std::pair<const char*, const char*> texts[] = {
-        {"btnAdd", "&Add"}, {"btnRemove", "&Remove"}, {"btnOk", "&Ok"}, {"btnCancel", "&Cancel"}};
-    for (const auto& [name, text] : texts)
-        EXPECT_EQ(child<QAbstractButton>(name)->text(), text);
-    const std::pair<const char*, const char*> tips[] = {
-        {"btnUP", "Move Command Up"},
-        {"btnDown", "Move Command Down"},
-        {"btnCopyProg", "Copy Whole Program to Buffer"},
-        {"btnPasteProg", "Append Program from Buffer to Current Program"},
-        {"btnGetHexColor", "Select Color"}};
-    for (const auto& [name, tip] : tips)
-        EXPECT_EQ(child(name)->toolTip(), tip);
-    EXPECT_EQ(child<QLabel>("lblMiliseconds")->text(), "Time in miliseconds:");
-    EXPECT_EQ(child<QLabel>("lblWidth")->text(), "width:");
-    auto* ms = child<QComboBox>("lsMiliseconds");
-    EXPECT_TRUE(ms->isEditable());
-    EXPECT_EQ(ms->count(), 10);
-    EXPECT_EQ(ms->itemText(9), "1000");
-    EXPECT_EQ(ms->currentText(), "100");
+    EXPECT_EQ(child<QComboBox>("lsMiliseconds")->currentText(), "100");
     EXPECT_EQ(child<QComboBox>("cmbButtonNumber")->itemText(2), "Button 3");
     EXPECT_EQ(child<QComboBox>("cmbStateSelector")->itemText(1), "Mouse-Over");
     EXPECT_EQ(listed(), (QStringList{"Hide Button 1", "Wait: 500 ms"}));

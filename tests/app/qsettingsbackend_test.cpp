@@ -33,13 +33,6 @@ TEST(QSettingsBackend, ValuesSurviveInTheGivenFileUnderTheVersionedGroup) {
     EXPECT_TRUE(settings.flag(SettingKey::AutoTile)) << "a missing key gives the default";
 }
 
-TEST(QSettingsBackend, SectionsAreGroupPaths) {
-    EXPECT_EQ(SettingsKeyPath("1.0  Beta 6\\Sizes\\frmDesign", "Left"),
-              QStringLiteral("1.0  Beta 6/Sizes/frmDesign/Left"));
-    EXPECT_EQ(SettingsKeyPath("1.0  Beta 6\\Params\\", "AutoTile"),
-              QStringLiteral("1.0  Beta 6/Params/AutoTile"));
-}
-
 TEST(QSettingsBackend, AnUnquotedListInAHandEditedFileReadsAsOneText) {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
