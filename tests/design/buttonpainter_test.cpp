@@ -209,6 +209,15 @@ TEST(DrawPix, TransparentButtonShowsTheBackgroundUnderIt) {
     const QImage withImage = Paint(OneButton(b), 1, &background);
     EXPECT_EQ(Pixel(withImage, 24, 14), kRed);
     EXPECT_EQ(Pixel(withImage, 0, 0), Pixel(background, 30, 20));
+
+    // Partly outside the background: nothing is copied, the picture stays as it was,
+    // and no message is shown.
+    b.ImageUP.clear();
+    b.x = 170;
+    orvelin::testing::FakeUserInterface ui;
+    const QImage outside = Paint(OneButton(b), 1, &background, nullptr, &ui);
+    EXPECT_EQ(qAlpha(outside.pixel(0, 0)), 0);
+    EXPECT_TRUE(ui.shown.empty());
 }
 
 TEST(DrawBorder, IsARaisedEdgeInShadesOfTheBackgroundAndOnlyWhenSet) {
