@@ -96,15 +96,3 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
         EXPECT_EQ(Built(BuildCommand(command, inputs)), expected);
     }
 }
-
-TEST(BuildCommand, AnEmptyLabelPutsOneBlankIntoItsBoxOtherLabelsStayAsTyped) {
-    CommandInputs empty = Button(1, 2, "");
-    BuildCommand(4, empty);
-    EXPECT_EQ(empty.label, " ");
-    CommandInputs typed = Button(1, 2, "Hi there|;");
-    BuildCommand(4, typed);
-    EXPECT_EQ(typed.label, "Hi there|;");
-    CommandInputs refused;
-    BuildCommand(4, refused);
-    EXPECT_EQ(refused.label, "") << "a refused label keeps its box";
-}
