@@ -162,19 +162,6 @@ TEST_F(HtmlGenerator, FilesArriveAsTheirEncodedBareNames) {
     EXPECT_EQ(Fields(f.begin() + 31, f.begin() + 34), Fields({"click.au", "", ""}));
 }
 
-TEST_F(HtmlGenerator, ButtonsAreNumberedInTheirDrawingOrder) {
-    ProjectModel model = Project(12);
-    for (int i = 1; i <= 12; ++i)
-        model.Button(i).x = static_cast<std::int16_t>(i * 10);
-    std::string params;
-    for (int i = 1; i <= 12; ++i)
-        params += "<Param Name=\"" + std::to_string(i) + "\" value=\"" +
-                  ButtonParameterValue(model.Button(i)) + "\">\r\n";
-    const std::string text = MakeHTML(model).text;
-    EXPECT_NE(text.find(params + kTail), std::string::npos);
-    EXPECT_NE(params.find("Name=\"12\" value=\"120|"), std::string::npos);
-}
-
 TEST_F(HtmlGenerator, AnEmptyAppletNameComesFromTheProjectFileAndThenStays) {
     ProjectModel model = Project(1);
     model.AppletName.clear();
