@@ -493,6 +493,4 @@ TEST_F(EditorFixture, OptionCommandsStoreTheChoiceAndShowIt) {
 
     editor.SetAutoTile(false);
     EXPECT_EQ(settings.value(SettingKey::AutoTile), "0");
-    editor.SetAutoTile(true);
-    EXPECT_EQ(settings.value(SettingKey::AutoTile), "1");
 }
