@@ -33,8 +33,8 @@ public:
     virtual void hideProgress() = 0;
 };
 
-/// A user interface that answers nothing and shows nothing but messages on a sink;
-/// the command-line tool builds on it.
+/// A user interface that shows nothing and cancels every question; for code that
+/// loads or saves without anyone watching (benchmarks, tests).
 class SilentUserInterface : public UserInterface {
 public:
     void showMessage(const std::string&, const std::string&) override {}
