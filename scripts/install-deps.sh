@@ -6,7 +6,13 @@ set -eu
 PACKAGES="build-essential cmake g++ pkg-config
     libgtest-dev libgmock-dev libbenchmark-dev
     qt6-base-dev qt6-base-dev-tools libgl-dev
-    xvfb xauth xdotool x11-utils fonts-liberation imagemagick"
+    xvfb xauth xdotool x11-utils fonts-liberation fonts-dejavu-core imagemagick
+    chromium sox libsndfile1-dev libsamplerate0-dev
+    desktop-file-utils appstream shared-mime-info xdg-utils"
+# Node.js may come from elsewhere than Debian (a newer nodejs package bundles
+# npm); Debian's own packages are installed only where the commands are missing.
+command -v node >/dev/null 2>&1 || PACKAGES="$PACKAGES nodejs"
+command -v npm >/dev/null 2>&1 || PACKAGES="$PACKAGES npm"
 
 missing=""
 for package in $PACKAGES; do

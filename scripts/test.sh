@@ -4,6 +4,7 @@ set -eu
 cd "$(dirname "$0")/.."
 
 scripts/install-deps.sh
+scripts/install-node-modules.sh
 scripts/build.sh build -DORVELIN_BENCHMARKS=ON
 cd build
 QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j "${ORVELIN_JOBS:-2}"
