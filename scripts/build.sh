@@ -5,5 +5,10 @@ set -eu
 
 build_dir="$1"
 shift
-cmake -S . -B "$build_dir" -DCMAKE_BUILD_TYPE="${ORVELIN_BUILD_TYPE:-RelWithDebInfo}" "$@" >/dev/null
+# ccache, where present, makes rebuilds and other checkouts of the same sources fast.
+launcher=""
+if command -v ccache >/dev/null 2>&1; then
+    launcher="-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
+fi
+cmake -S . -B "$build_dir" -DCMAKE_BUILD_TYPE="${ORVELIN_BUILD_TYPE:-RelWithDebInfo}" $launcher "$@" >/dev/null
 cmake --build "$build_dir" -j "${ORVELIN_JOBS:-2}"
