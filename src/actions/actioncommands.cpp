@@ -42,14 +42,19 @@ CommandResult BuildMove(const CommandInputs& in) {
         return Refuse(CommandResult::Outcome::NoButtons);
     std::string line = Number(static_cast<int>(ActionCommand::Move)) + " " + Number(in.button);
     const std::array<const std::string*, 4> boxes = {&in.x, &in.y, &in.width, &in.height};
-    for (const std::string* box : boxes) {
-        if (box->empty()) {
+    for (std::size_t b = 0; b < boxes.size(); ++b) {
+        const std::string& box = *boxes[b];
+        if (box.empty()) {
             line += " -999";
             continue;
         }
-        const WholeNumber n = ParseWholeNumber(*box, -32768, 32767);
-        if (n.error != NumberError::None)
-            return Refuse(CommandResult::Outcome::WrongParameters, NumberErrorText(n.error));
+        const WholeNumber n = ParseWholeNumber(box, -32768, 32767);
+        if (n.error != NumberError::None) {
+            CommandResult wrong =
+                Refuse(CommandResult::Outcome::WrongParameters, NumberErrorText(n.error));
+            wrong.box = static_cast<int>(b);
+            return wrong;
+        }
         line += " " + std::to_string(n.value);
     }
     return Line(std::move(line));

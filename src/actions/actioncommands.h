@@ -22,6 +22,9 @@ struct CommandResult {
     Outcome outcome = Outcome::Silent;
     std::string line;
     std::string error;
+    /// With WrongParameters: which box of Move holds the wrong value (0 X, 1 Y, 2 width,
+    /// 3 height), -1 for none.
+    int box = -1;
 
     bool added() const { return outcome == Outcome::Line; }
 };

@@ -30,6 +30,14 @@ int EntryIndex(std::string_view word, std::size_t listSize) {
     return static_cast<int>(n.value - 1);
 }
 
+// The second line of "Wrong Parameters": which of Move's boxes holds the wrong value.
+std::string WrongBoxLine(int box) {
+    static const char* const names[] = {"X", "Y", "width", "height"};
+    if (box < 0 || box > 3)
+        return {};
+    return std::string(kCrLf) + Messages()[Msg::WrongBox] + names[box];
+}
+
 std::string MoveBox(std::string word) {
     return word == "-999" ? std::string() : word;
 }
@@ -65,7 +73,7 @@ void ActionEditor::open(std::string_view kind) {
     } else if (IsAppletProgramKind(kind)) {
         program = *m_model.ProgramSlot(kind, 0);
     } else {
-        m_ui.showMessage(Messages()[Msg::WrongReturnParameters]);
+        m_ui.showWarning(Messages()[Msg::WrongReturnParameters]);
         return;
     }
     appendProgram(program);
@@ -125,6 +133,12 @@ bool ActionEditor::add() {
         select(static_cast<int>(m_readable.size()) - 1);
         return false;
     }
+    // A program ends each command at ";", and a label is stored as typed: a ";" in it
+    // would cut the label there and leave the rest as a line of its own.
+    if (m_command + 1 == static_cast<int>(ActionCommand::SetLabel) && !m_buttonTexts.empty() &&
+        m_inputs.label.find(';') != std::string::npos &&
+        m_ui.askYesNoCancel(Messages()[Msg::LabelCutAtSemicolon]) != UserInterface::Answer::Yes)
+        return false;
     CommandInputs in;
     in.haveButtons = !m_buttonTexts.empty();
     in.button = m_button + 1;
@@ -143,10 +157,10 @@ bool ActionEditor::add() {
     case CommandResult::Outcome::Line:
         break;
     case CommandResult::Outcome::NoButtons:
-        m_ui.showMessage(Messages()[Msg::NoButtonsOnApplet]);
+        m_ui.showWarning(Messages()[Msg::NoButtonsOnApplet]);
         return false;
     case CommandResult::Outcome::WrongParameters:
-        m_ui.showMessage(result.error, Messages()[Msg::WrongParameters]);
+        m_ui.showWarning(result.error + WrongBoxLine(result.box), Messages()[Msg::WrongParameters]);
         return false;
     case CommandResult::Outcome::Silent:
         return false;
@@ -263,14 +277,23 @@ void ActionEditor::takeColor(std::int32_t colour) {
     m_inputs.label = ColorToHex(HexText(colour), "NORMAL");
 }
 
+std::vector<int> ActionEditor::targetButtons(const std::vector<bool>& selected) const {
+    std::vector<int> buttons;
+    if (!IsButtonProgramKind(m_kind))
+        return buttons;
+    // The program came from the current button alone; every selected button gets it.
+    for (int i = 1; i <= m_model.ButtonCount && i < kButtonSlots; ++i)
+        if (static_cast<std::size_t>(i - 1) < selected.size() &&
+            selected[static_cast<std::size_t>(i - 1)])
+            buttons.push_back(i);
+    return buttons;
+}
+
 void ActionEditor::ok(const std::vector<bool>& selected) {
     const std::string program = storeProgram();
     if (IsButtonProgramKind(m_kind)) {
-        // The program came from the current button alone; every selected button gets it.
-        for (int i = 1; i <= m_model.ButtonCount && i < kButtonSlots; ++i)
-            if (static_cast<std::size_t>(i - 1) < selected.size() &&
-                selected[static_cast<std::size_t>(i - 1)])
-                *m_model.ProgramSlot(m_kind, i) = program;
+        for (int i : targetButtons(selected))
+            *m_model.ProgramSlot(m_kind, i) = program;
     } else if (IsAppletProgramKind(m_kind)) {
         *m_model.ProgramSlot(m_kind, 0) = program;
     }

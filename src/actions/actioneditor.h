@@ -109,6 +109,8 @@ public:
      * `selected` for button i) or into the applet's slot, and clears Saved.
      */
     void ok(const std::vector<bool>& selected);
+    /// The buttons that ok() writes a button program into; none for an applet program.
+    std::vector<int> targetButtons(const std::vector<bool>& selected) const;
 
     /// AppendProgram: the command lines of `text` after the current ones.
     void appendProgram(std::string_view text);

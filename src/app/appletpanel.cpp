@@ -1,6 +1,7 @@
 #include "appletpanel.h"
 
 #include "colorbutton.h"
+#include "messages.h"
 #include "panelwidgets.h"
 #include "projectmodel.h"
 #include "propertyeditor.h"
@@ -100,13 +101,19 @@ QWidget* AppletPanel::buildSize() {
     auto* grid = new QGridLayout(group);
     m_width = panel::LineEdit(QStringLiteral("txtAppletWidth"), group, 56);
     m_height = panel::LineEdit(QStringLiteral("txtAppletHeight"), group, 56);
-    m_width->setToolTip(QStringLiteral("Press Enter to resize the design window"));
-    m_height->setToolTip(m_width->toolTip());
+    m_width->setToolTip(QStringLiteral("The applet's width in pixels"));
+    m_height->setToolTip(QStringLiteral("The applet's height in pixels"));
     grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 0);
     grid->addWidget(m_width, 0, 1);
     grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 0, 2);
     grid->addWidget(m_height, 0, 3);
     grid->setColumnStretch(4, 1);
+    m_sizeNote = new QLabel(QString::fromStdString(Messages()[Msg::AppletSizeRange]), group);
+    m_sizeNote->setObjectName(QStringLiteral("lblSizeNote"));
+    m_sizeNote->setWordWrap(true);
+    m_sizeNote->setStyleSheet(QStringLiteral("color: #a03000;"));
+    m_sizeNote->hide();
+    grid->addWidget(m_sizeNote, 4, 0, 1, 5);
 
     m_pushButtons = new QRadioButton(QStringLiteral("Act like push buttons"), group);
     m_pushButtons->setObjectName(QStringLiteral("imgPushBtn"));
@@ -119,12 +126,22 @@ QWidget* AppletPanel::buildSize() {
     grid->addWidget(m_radioButtons, 2, 0, 1, 5);
     grid->addWidget(m_downButton, 3, 0, 1, 5);
 
-    connect(m_width, &QLineEdit::textChanged, this,
-            [this](const QString& text) { m_properties.SetAppletWidth(text.toStdString()); });
-    connect(m_height, &QLineEdit::textChanged, this,
-            [this](const QString& text) { m_properties.SetAppletHeight(text.toStdString()); });
-    connect(m_width, &QLineEdit::returnPressed, this, [this] { m_properties.CommitAppletSize(); });
-    connect(m_height, &QLineEdit::returnPressed, this, [this] { m_properties.CommitAppletSize(); });
+    // The surface follows the size as it is typed; a size below 1 is refused at the box
+    // (said beside it), and leaving the box shows the applet's size again.
+    const auto sizeTyped = [this](bool accepted, const QString& text) {
+        m_sizeNote->setVisible(!accepted && !text.trimmed().isEmpty());
+    };
+    connect(m_width, &QLineEdit::textChanged, this, [this, sizeTyped](const QString& text) {
+        sizeTyped(m_properties.SetAppletWidth(text.toStdString()), text);
+    });
+    connect(m_height, &QLineEdit::textChanged, this, [this, sizeTyped](const QString& text) {
+        sizeTyped(m_properties.SetAppletHeight(text.toStdString()), text);
+    });
+    for (QLineEdit* box : {m_width, m_height})
+        connect(box, &QLineEdit::editingFinished, this, [this] {
+            m_sizeNote->hide();
+            m_properties.SetMainParams();
+        });
     connect(m_pushButtons, &QRadioButton::toggled, this, [this](bool on) {
         if (on)
             m_properties.SetBehaviour(0);

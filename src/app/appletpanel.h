@@ -7,6 +7,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -51,6 +52,7 @@ private:
     PropertyEditor& m_properties;
     QLineEdit* m_width = nullptr;
     QLineEdit* m_height = nullptr;
+    QLabel* m_sizeNote = nullptr;
     QRadioButton* m_pushButtons = nullptr;
     QRadioButton* m_radioButtons = nullptr;
     QCheckBox* m_downButton = nullptr;

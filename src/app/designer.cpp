@@ -11,6 +11,7 @@
 #include "windowgeometry.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
@@ -28,11 +29,16 @@ constexpr std::chrono::milliseconds kProgressDelay{300};
 
 } // namespace
 
-Designer::Designer()
-    : m_design(std::make_unique<FrmDesign>(m_model, m_list, &m_ui)),
+Designer::Designer(UserInterface* ui)
+    : m_ui(ui != nullptr ? *ui : m_qtUi),
+      m_design(std::make_unique<FrmDesign>(m_model, m_list, &m_ui)),
       m_main(std::make_unique<FrmMain>(m_model, m_list, m_ui, m_settings, *m_design, m_shell)) {
-    m_ui.setOwner(m_main.get());
-    m_ui.setProgressDelay(kProgressDelay);
+    m_qtUi.setOwner(m_main.get());
+    m_qtUi.setProgressDelay(kProgressDelay);
+    m_qtUi.setFolderHint([this] {
+        const QString project = QString::fromStdString(m_model.ProjectFileName);
+        return project.isEmpty() ? std::string() : QFileInfo(project).absolutePath().toStdString();
+    });
     m_design->setNoBackGround(GlobalIni::ForProgram().NoBackGround());
     connectWindows();
 }
@@ -52,7 +58,7 @@ void Designer::connectWindows() {
     connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         if (!GlobalIni::ForProgram().SetNoBackGround(on))
-            m_ui.showMessage(Messages()[Msg::IniWriteFailed], {});
+            m_ui.showWarning(Messages()[Msg::IniWriteFailed]);
     });
     connect(m_design.get(), &FrmDesign::unloading, this,
             [this] { SaveWindowGeometry(*m_design, m_settings, kDesignForm); });
@@ -81,12 +87,29 @@ void Designer::showHtml() {
 }
 
 void Designer::placeWindows() {
-    // Designed places: the editor at the top left, the applet area below it.
+    // Designed places: the editor at the top left; the design window is placed beside it
+    // once it has its size (placeDesignWindow).
     m_main->adjustSize();
-    m_main->move(40, 40);
-    m_design->move(40, 40 + m_main->frameGeometry().height() + 30);
+    const QRect screen = m_main->screen()->availableGeometry();
+    m_main->move(screen.topLeft() + QPoint(16, 16));
     RestoreWindowGeometry(*m_main, m_settings, QStringLiteral("frmMain"));
     RestoreWindowGeometry(*m_design, m_settings, kDesignForm);
+}
+
+void Designer::placeDesignWindow() {
+    const QRect screen = m_design->screen()->availableGeometry();
+    // Until the window manager has framed the windows, allow for a title bar.
+    constexpr int kTitleBar = 30;
+    const auto frameOf = [](const QWidget& window) {
+        const QRect frame = window.frameGeometry();
+        return frame != window.geometry() ? frame : window.geometry().adjusted(0, -kTitleBar, 0, 0);
+    };
+    const QRect design = frameOf(*m_design);
+    const QSize decoration = design.size() - m_design->size();
+    const QRect place = PlaceDesignWindow(screen, frameOf(*m_main), design.size(),
+                                          m_design->minimumSizeHint() + decoration);
+    m_design->move(place.topLeft());
+    m_design->resize(place.size() - decoration);
 }
 
 void Designer::fitDesignWindow() {
@@ -108,8 +131,10 @@ StartupResult Designer::start(const QString& commandLine) {
     m_design->show();
     const StartupResult result = m_main->editor().Startup(commandLine.toStdString());
     // Until the user sizes it, the design window is as large as the applet it shows.
-    if (m_settings.StoredGeometry(kDesignForm.toStdString()).width == 0)
+    if (m_settings.StoredGeometry(kDesignForm.toStdString()).width == 0) {
         fitDesignWindow();
+        placeDesignWindow();
+    }
     return result;
 }
 

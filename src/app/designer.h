@@ -29,7 +29,8 @@ class Designer : public QObject {
     Q_OBJECT
 
 public:
-    Designer();
+    /// `ui` replaces the message boxes and file dialogs (a scripted user in tests).
+    explicit Designer(UserInterface* ui = nullptr);
     ~Designer() override;
 
     /**
@@ -41,10 +42,14 @@ public:
 
     FrmMain& mainWindow() { return *m_main; }
     FrmDesign& designWindow() { return *m_design; }
+    ProjectModel& model() { return m_model; }
+    ButtonList& selection() { return m_list; }
 
 private:
     void connectWindows();
     void placeWindows();
+    /// Puts the design window where it hides nothing of the main editor.
+    void placeDesignWindow();
     /// Shows the HTML window with freshly generated code.
     void showHtml();
     /// Sizes the design window to show the whole applet, within the screen.
@@ -54,7 +59,8 @@ private:
     ButtonList m_list;
     QSettingsBackend m_backend;
     Settings m_settings{m_backend};
-    QtUserInterface m_ui;
+    QtUserInterface m_qtUi;
+    UserInterface& m_ui;
     QtShell m_shell;
     // The main window's editor refers to the design window: it goes first.
     std::unique_ptr<FrmDesign> m_design;

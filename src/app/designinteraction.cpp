@@ -119,8 +119,10 @@ void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
         selectionChanged(before, out.redrawPressed);
     if (out.redrawPressed != 0)
         m_design.RedrawButton(out.redrawPressed, true, false, false);
-    if (out.placeSizer != 0)
-        m_design.MoveSizer(out.placeSizer);
+    // The handles always stand around the current button, which a Ctrl+click changes
+    // too: a handle left around another button would resize by the distance between them.
+    if (m_model.CurrentButton != 0)
+        m_design.MoveSizer(m_model.CurrentButton);
     if (out.showProp)
         m_editor.ShowProp(m_model.CurrentButton);
     m_design.MoveLabelPositioner(m_model.CurrentButton);

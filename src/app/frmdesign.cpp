@@ -14,13 +14,67 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <exception>
 
 namespace orvelin {
 
+namespace {
+
+/**
+ * Passes on the first warning of one user action and drops the rest until the event
+ * that caused it has been handled: an edit of 101 selected buttons, or a state switch,
+ * redraws every button, and a label that cannot be drawn would otherwise report the same
+ * fault once per button.
+ */
+class OneWarningPerAction : public UserInterface {
+public:
+    explicit OneWarningPerAction(UserInterface& target) : m_target(target) {}
+
+    void showMessage(const std::string& text, const std::string& title) override {
+        m_target.showMessage(text, title);
+    }
+    void showWarning(const std::string& text, const std::string& title) override {
+        if (m_reported)
+            return;
+        m_reported = true;
+        m_target.showWarning(text, title);
+        // Armed again only after the box has closed and the action's event is done.
+        QTimer::singleShot(0, [this, alive = std::weak_ptr<bool>(m_alive)] {
+            if (!alive.expired())
+                m_reported = false;
+        });
+    }
+    Answer askYesNoCancel(const std::string& text, const std::string& title) override {
+        return m_target.askYesNoCancel(text, title);
+    }
+    Answer askOkCancel(const std::string& text, const std::string& title) override {
+        return m_target.askOkCancel(text, title);
+    }
+    std::optional<std::string> chooseOpenFile(const std::string& filter) override {
+        return m_target.chooseOpenFile(filter);
+    }
+    std::optional<std::string> chooseSaveFile(const std::string& filter,
+                                              const std::string& proposed) override {
+        return m_target.chooseSaveFile(filter, proposed);
+    }
+    void showProgress(const std::string& title, const std::string& text, int percent) override {
+        m_target.showProgress(title, text, percent);
+    }
+    void hideProgress() override { m_target.hideProgress(); }
+
+private:
+    UserInterface& m_target;
+    bool m_reported = false;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace
+
 FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_model(model), m_list(list), m_ui(ui) {
+    : QWidget(parent, Qt::Window), m_model(model), m_list(list),
+      m_ui(ui != nullptr ? std::make_unique<OneWarningPerAction>(*ui) : nullptr) {
     setObjectName(QStringLiteral("frmDesign"));
     setWindowTitle(tr("Design"));
     buildWindow();
@@ -38,7 +92,7 @@ void FrmDesign::buildWindow() {
     m_btnDuplicate->setToolTip(tr("Duplicate the current button"));
     m_btnRemove = new QPushButton(tr("&Remove"), this);
     m_btnRemove->setObjectName(QStringLiteral("btnRemove"));
-    m_btnRemove->setToolTip(tr("Remove the selected buttons"));
+    m_btnRemove->setToolTip(tr("Remove the current button (the one with the handles)"));
     m_btnViewHtml = new QPushButton(tr("View &HTML"), this);
     m_btnViewHtml->setObjectName(QStringLiteral("btnViewHtml"));
     m_btnViewHtml->setToolTip(tr("Show the applet code"));
@@ -137,7 +191,10 @@ void FrmDesign::LoadButton(int index) {
         picture->show();
         m_noRedrawOnResize = false;
     }
-    RedrawButton(index, false, false, false);
+    // A new button is the current one (add, duplicate, start-up): the handles and the
+    // positioner go around it at once.
+    const bool current = index == m_model.CurrentButton;
+    RedrawButton(index, current, current, false);
 }
 
 void FrmDesign::HideLastButton(int index) {
@@ -166,7 +223,7 @@ void FrmDesign::paintPicture(int index) {
     painter.setState(m_model.CurrentState);
     painter.setBackground(&m_area->background());
     painter.setSelection(&m_list);
-    painter.setUserInterface(m_ui);
+    painter.setUserInterface(m_ui.get());
     {
         QPainter onPicture(&picture->picture());
         painter.PaintButton(onPicture, index);

@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <QWidget>
 #include <array>
+#include <memory>
 #include <vector>
 
 class QCheckBox;
@@ -147,7 +148,7 @@ private:
 
     ProjectModel& m_model;
     ButtonList& m_list;
-    UserInterface* m_ui;
+    std::unique_ptr<UserInterface> m_ui; ///< label errors, one for each user action
     ImageCache m_images;
 
     QScrollArea* m_scroll = nullptr;

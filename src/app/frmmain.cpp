@@ -8,9 +8,11 @@
 #include "frmsetaction.h"
 #include "imagefile.h"
 #include "mainmenus.h"
+#include "messages.h"
 #include "propertypanel.h"
 #include "windowgeometry.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -65,6 +67,15 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     connect(m_applet, &AppletPanel::offsetRequested, this, &FrmMain::openOffset);
     connect(m_properties, &PropertyPanel::labelEditorRequested, this, &FrmMain::openLabelEditor);
     connect(m_menus, &MainMenus::advancedRequested, this, &FrmMain::openAdvanced);
+    connect(m_properties, &PropertyPanel::refreshRequested, this,
+            [this] { m_editor.ShowProp(m_model.CurrentButton); });
+    // Every change of the project clears Saved; the title's marker follows once each
+    // event has been handled, before the program waits for the next one.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] {
+                if (isWindowModified() == m_model.Saved)
+                    setWindowModified(!m_model.Saved);
+            });
 }
 
 FrmMain::~FrmMain() = default;
@@ -116,6 +127,7 @@ void FrmMain::openLabelEditor() {
         m_labelEditor = new FrmMultiLineEditor(m_properties->labelField(), this);
         m_labelEditor->setAttribute(Qt::WA_DeleteOnClose);
     }
+    KeepAboveOnTopWindows(*m_labelEditor);
     m_labelEditor->show();
     m_labelEditor->raise();
     m_labelEditor->activateWindow();
@@ -127,11 +139,13 @@ void FrmMain::openAdvanced() {
             [this](bool on) { m_menus->setAutoTileChecked(on); });
     connect(&dialog, &FrmAdvanced::defaultsRestored, this,
             [this] { m_menus->setAutoTileChecked(m_settings.flag(SettingKey::AutoTile)); });
+    KeepAboveOnTopWindows(dialog);
     dialog.exec();
 }
 
 void FrmMain::openOffset() {
     FrmBgOffset dialog(m_model, &m_design, this);
+    KeepAboveOnTopWindows(dialog);
     dialog.exec();
 }
 
@@ -141,6 +155,13 @@ void FrmMain::ShowProp(int index, const std::string& caption) {
     m_properties->setHasButton(true);
     m_properties->showButton(m_model.Button(index), m_model.EditedState(),
                              QString::fromStdString(caption));
+    // Edits go to the selected buttons: a current button taken out of the selection is
+    // shown, but the panel does not pretend to edit it.
+    const bool editable = m_list.isSelected(index);
+    m_properties->setEditable(editable,
+                              editable ? QString()
+                                       : QString::fromStdString(ButtonEntryText(index) +
+                                                                Messages()[Msg::NotSelectedNote]));
 }
 
 void FrmMain::SetMainParams() {
@@ -149,11 +170,15 @@ void FrmMain::SetMainParams() {
 
 void FrmMain::ShowButtonList() {
     m_binding->show(m_model.CurrentButton);
+    const bool updating = m_model.Updating;
+    m_model.Updating = true; // emptied controls are not edits
     m_properties->setHasButton(m_model.ButtonCount > 0);
+    m_model.Updating = updating;
 }
 
 void FrmMain::SetCaption(const std::string& caption) {
-    setWindowTitle(QString::fromStdString(caption));
+    // "[*]" is where Qt shows the unsaved-changes marker.
+    setWindowTitle(QString::fromStdString(caption) + QStringLiteral("[*]"));
 }
 
 void FrmMain::SetRecentEntry(int slot, const std::string& caption, bool visible) {

@@ -1,6 +1,9 @@
 #include "frmsetaction.h"
 
+#include "messages.h"
 #include "projectmodel.h"
+#include "typedfieldvalidator.h"
+#include "windowgeometry.h"
 
 #include <QAbstractItemModel>
 #include <QColorDialog>
@@ -220,6 +223,20 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
     composer->addWidget(m_cmbButtonNumber, 0, 1);
     composer->addWidget(m_btnAdd, 0, 3);
     composer->addWidget(m_parameters, 1, 0, 1, 3);
+    // What the label and script boxes did with a pasted line break or a character a
+    // program cannot store.
+    m_lblInputNote = new QLabel(this);
+    m_lblInputNote->setObjectName(QStringLiteral("lblInputNote"));
+    m_lblInputNote->setWordWrap(true);
+    m_lblInputNote->setStyleSheet(QStringLiteral("color: #a03000;"));
+    m_lblInputNote->hide();
+    composer->addWidget(m_lblInputNote, 2, 0, 1, 4);
+    const auto note = [this](const QString& text) {
+        m_lblInputNote->setText(text);
+        m_lblInputNote->setVisible(!text.isEmpty());
+    };
+    TypedFieldValidator::Guard(m_txtLabel, TypedField::Label, note);
+    TypedFieldValidator::Guard(m_txtJavaScript, TypedField::Text, note);
     composer->setColumnStretch(2, 1);
 
     // Closing.
@@ -231,7 +248,12 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
     m_btnCancel->setObjectName(QStringLiteral("btnCancel"));
     m_btnCancel->setAutoDefault(false);
     m_btnCancel->setMinimumWidth(96);
+    // Said while the dialog is open: OK writes the program into every selected button.
+    m_lblTargets = new QLabel(this);
+    m_lblTargets->setObjectName(QStringLiteral("lblTargets"));
+    m_lblTargets->hide();
     auto* closing = new QHBoxLayout;
+    closing->addWidget(m_lblTargets);
     closing->addStretch(1);
     closing->addWidget(m_btnOk);
     closing->addWidget(m_btnCancel);
@@ -300,6 +322,9 @@ void FrmSetAction::connectControls() {
 void FrmSetAction::load(const std::string& kind, const std::string& title) {
     setWindowTitle(Q(title));
     m_editor.open(kind);
+    const auto targets = static_cast<int>(m_editor.targetButtons(m_selected).size());
+    m_lblTargets->setText(Q(Messages()[Msg::ProgramForButtons]).arg(targets));
+    m_lblTargets->setVisible(targets > 1);
     showCombos();
     showInputs();
     showList();
@@ -308,6 +333,7 @@ void FrmSetAction::load(const std::string& kind, const std::string& title) {
 
 void FrmSetAction::myShow(const std::string& kind, const std::string& title) {
     load(kind, title);
+    KeepAboveOnTopWindows(*this);
     exec();
 }
 
@@ -346,7 +372,11 @@ void FrmSetAction::lstActions_RowsMoved(const QModelIndex&, int start, int, cons
 }
 
 void FrmSetAction::btnAdd_Click() {
-    run([this] { m_editor.add(); });
+    bool added = true;
+    run([this, &added] { added = m_editor.add(); });
+    // A refused label goes back to its box to be changed.
+    if (!added && m_editor.panels().labelPanel)
+        m_txtLabel->setFocus();
 }
 
 void FrmSetAction::btnGetHexColor_Click() {

@@ -81,6 +81,8 @@ private:
     QLineEdit* m_txtY = nullptr;
     QLineEdit* m_txtWidth = nullptr;
     QLineEdit* m_txtHeight = nullptr;
+    QLabel* m_lblTargets = nullptr;
+    QLabel* m_lblInputNote = nullptr;
     QLabel* m_lblWidth = nullptr;
     QLabel* m_lblHeight = nullptr;
     QWidget* m_picSetLabel = nullptr;

@@ -3,7 +3,9 @@
 #include "colorbutton.h"
 #include "editor.h"
 #include "fontfamilybox.h"
+#include "messages.h"
 #include "panelwidgets.h"
+#include "typedfieldvalidator.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -90,10 +92,33 @@ PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
     header->addStretch(1);
     header->addWidget(buildStateSwitch());
     layout->addLayout(header);
+    m_notSelected = new QLabel(this);
+    m_notSelected->setObjectName(QStringLiteral("lblNotSelected"));
+    m_notSelected->setWordWrap(true);
+    m_notSelected->hide();
+    layout->addWidget(m_notSelected);
     layout->addWidget(m_body, 1);
+    m_note = new QLabel(this);
+    m_note->setObjectName(QStringLiteral("lblFieldNote"));
+    m_note->setWordWrap(true);
+    m_note->setStyleSheet(QStringLiteral("color: #a03000;"));
+    m_note->hide();
+    layout->addWidget(m_note);
 
     bindTexts();
     bindChoices();
+    bindFontSize();
+    // Each text field keeps only what its field can store, and says so beside it.
+    const auto note = [this](const QString& text) { showNote(text); };
+    const std::pair<QLineEdit*, TypedField> typed[] = {{m_label, TypedField::Label},
+                                                       {m_url, TypedField::Url},
+                                                       {m_status, TypedField::Text},
+                                                       {m_target->lineEdit(), TypedField::Text},
+                                                       {m_font->lineEdit(), TypedField::Raw},
+                                                       {m_image, TypedField::File},
+                                                       {m_sound, TypedField::File}};
+    for (const auto& [edit, field] : typed)
+        TypedFieldValidator::Guard(edit, field, note);
     connect(m_setAction, &QPushButton::clicked, this,
             [this] { emit actionRequested(m_setAction->text()); });
     connect(m_labelEditor, &QToolButton::clicked, this, &PropertyPanel::labelEditorRequested);
@@ -297,12 +322,28 @@ void PropertyPanel::bindTexts() {
     bind(m_status, &PropertyEditor::SetStatus);
     connect(m_font, &QComboBox::currentTextChanged, this,
             [&p](const QString& text) { p.SetFont(Std(text)); });
-    connect(m_fontSize, &QComboBox::currentTextChanged, this,
-            [&p](const QString& text) { p.SetFontSize(Std(text)); });
     connect(m_target, &QComboBox::currentTextChanged, this,
             [&p](const QString& text) { p.SetTarget(Std(text)); });
     connect(m_browseImage, &QToolButton::clicked, this, [&p] { p.BrowseImage(); });
     connect(m_browseSound, &QToolButton::clicked, this, [&p] { p.BrowseSound(); });
+}
+
+void PropertyPanel::bindFontSize() {
+    PropertyEditor& p = m_properties;
+    connect(m_fontSize, &QComboBox::currentTextChanged, this,
+            [&p](const QString& text) { p.SetFontSize(Std(text)); });
+    // An empty box while a size is typed is no value and says nothing; a size the labels
+    // cannot be drawn with is named here, beside the box, instead of in a message per
+    // button; leaving the box puts the button's size back.
+    QLineEdit* edit = m_fontSize->lineEdit();
+    connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+        const bool refused = !text.trimmed().isEmpty() && !IsUsableFontSize(Std(text));
+        showNote(refused ? QString::fromStdString(Messages()[Msg::FontSizeRange]) : QString());
+    });
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
+        if (!IsUsableFontSize(Std(edit->text())))
+            emit refreshRequested();
+    });
 }
 
 void PropertyPanel::bindChoices() {
@@ -328,6 +369,8 @@ void PropertyPanel::bindChoices() {
 
 void PropertyPanel::showButton(const ButtonRecord& record, ButtonState state,
                                const QString& caption) {
+    if (caption != m_caption->text())
+        showNote({});
     m_caption->setText(caption);
     panel::SetText(m_x, Number(record.x));
     panel::SetText(m_y, Number(record.y));
@@ -378,8 +421,35 @@ void PropertyPanel::setActionTitle(const QString& title) {
 
 void PropertyPanel::setHasButton(bool hasButton) {
     m_body->setEnabled(hasButton);
-    if (!hasButton)
-        m_caption->clear();
+    if (hasButton)
+        return;
+    m_caption->clear();
+    m_notSelected->hide();
+    showNote({});
+    clearControls();
+}
+
+void PropertyPanel::setEditable(bool editable, const QString& note) {
+    m_body->setEnabled(editable);
+    m_notSelected->setText(note);
+    m_notSelected->setVisible(!editable);
+}
+
+void PropertyPanel::showNote(const QString& note) {
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+}
+
+void PropertyPanel::clearControls() {
+    // The caller holds Updating, so nothing of this reaches a button.
+    for (QLineEdit* edit : m_body->findChildren<QLineEdit*>())
+        edit->clear();
+    for (QAbstractButton* box : m_body->findChildren<QAbstractButton*>())
+        if (box->isCheckable())
+            box->setChecked(false);
+    m_imgStyle->setCurrentIndex(-1);
+    m_fontColor->setColour(0xFFFFFF);
+    m_backColor->setColour(0xFFFFFF);
 }
 
 } // namespace orvelin

@@ -36,8 +36,14 @@ public:
     /// Checks the toggle of `state`.
     void showState(ButtonState state);
     void setActionTitle(const QString& title);
-    /// Without buttons the controls have nothing to edit.
+    /// Without buttons the controls have nothing to edit, and show nothing.
     void setHasButton(bool hasButton);
+    /// The panel shows a button that edits would not reach (the current button taken out
+    /// of the selection): the controls are read-only and `note` says why.
+    void setEditable(bool editable, const QString& note);
+    /// A short note under the controls about what a field did with its input; empty
+    /// hides it.
+    void showNote(const QString& note);
     /// The label field, which the multi-line label editor writes through.
     QLineEdit* labelField() const { return m_label; }
 
@@ -46,6 +52,8 @@ signals:
     void actionRequested(const QString& title);
     /// The "..." beside the label: the multi-line label editor.
     void labelEditorRequested();
+    /// A field was left holding what it could not take: show the button's values again.
+    void refreshRequested();
 
 private:
     QWidget* buildStateSwitch();
@@ -58,6 +66,8 @@ private:
     void bindText(QLineEdit* edit, TextSetter setter);
     void bindTexts();
     void bindChoices();
+    void bindFontSize();
+    void clearControls();
 
     Editor& m_editor;
     PropertyEditor& m_properties;
@@ -94,6 +104,8 @@ private:
     QCheckBox* m_hidden = nullptr;
     QPushButton* m_setAction = nullptr;
     QWidget* m_body = nullptr;
+    QLabel* m_note = nullptr;
+    QLabel* m_notSelected = nullptr;
 };
 
 } // namespace orvelin

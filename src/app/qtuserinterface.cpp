@@ -1,9 +1,10 @@
 #include "qtuserinterface.h"
 
 #include "frmmessage.h"
+#include "windowgeometry.h"
 
-#include <QFileDialog>
-#include <QMessageBox>
+#include <QDir>
+#include <QFileInfo>
 
 namespace orvelin {
 
@@ -27,15 +28,31 @@ QString QtUserInterface::DisplayText(const std::string& text) {
     return shown;
 }
 
+int QtUserInterface::ask(QMessageBox::Icon icon, const std::string& text, const std::string& title,
+                         QMessageBox::StandardButtons buttons,
+                         QMessageBox::StandardButton defaultButton) {
+    QMessageBox box(icon, MessageTitle(title), DisplayText(text), buttons, m_owner);
+    box.setDefaultButton(defaultButton);
+    // A short text under a long title: the box is made wide enough to show the title.
+    box.setStyleSheet(QStringLiteral("QLabel { min-width: %1px; }")
+                          .arg(box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40));
+    KeepAboveOnTopWindows(box);
+    return box.exec();
+}
+
 void QtUserInterface::showMessage(const std::string& text, const std::string& title) {
-    QMessageBox::information(m_owner, MessageTitle(title), DisplayText(text));
+    ask(QMessageBox::Information, text, title, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+void QtUserInterface::showWarning(const std::string& text, const std::string& title) {
+    ask(QMessageBox::Warning, text, title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 UserInterface::Answer QtUserInterface::askYesNoCancel(const std::string& text,
                                                       const std::string& title) {
-    const auto button = QMessageBox::question(
-        m_owner, MessageTitle(title), DisplayText(text),
-        QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    const int button =
+        ask(QMessageBox::Question, text, title,
+            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
     if (button == QMessageBox::Yes)
         return Answer::Yes;
     if (button == QMessageBox::No)
@@ -45,27 +62,56 @@ UserInterface::Answer QtUserInterface::askYesNoCancel(const std::string& text,
 
 UserInterface::Answer QtUserInterface::askOkCancel(const std::string& text,
                                                    const std::string& title) {
-    const auto button =
-        QMessageBox::warning(m_owner, MessageTitle(title), DisplayText(text),
-                             QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
+    const int button = ask(QMessageBox::Warning, text, title, QMessageBox::Ok | QMessageBox::Cancel,
+                           QMessageBox::Ok);
     return button == QMessageBox::Ok ? Answer::Ok : Answer::Cancel;
 }
 
-std::optional<std::string> QtUserInterface::chooseOpenFile(const std::string& filter) {
-    const QString path =
-        QFileDialog::getOpenFileName(m_owner, QString(), QString(), QString::fromStdString(filter));
-    if (path.isEmpty())
+void QtUserInterface::setFolderHint(std::function<std::string()> hint) {
+    m_folderHint = std::move(hint);
+}
+
+QString QtUserInterface::startFolder() const {
+    // The project's own folder first, then wherever the user last chose a file, and
+    // never the working directory the program happened to start in.
+    if (m_folderHint) {
+        const QString project = QString::fromStdString(m_folderHint());
+        if (!project.isEmpty() && QFileInfo(project).isDir())
+            return project;
+    }
+    if (!m_lastFolder.isEmpty() && QFileInfo(m_lastFolder).isDir())
+        return m_lastFolder;
+    return QDir::homePath();
+}
+
+std::optional<std::string> QtUserInterface::chooseFile(QFileDialog::AcceptMode mode,
+                                                       const std::string& filter,
+                                                       const std::string& proposed) {
+    QFileDialog dialog(m_owner, QString(), startFolder(), QString::fromStdString(filter));
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                       : QFileDialog::AnyFile);
+    if (!proposed.empty()) {
+        const QFileInfo file(QString::fromStdString(proposed));
+        if (file.isAbsolute() && file.dir().exists())
+            dialog.setDirectory(file.dir());
+        dialog.selectFile(file.fileName());
+    }
+    KeepAboveOnTopWindows(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
+    const QString path = dialog.selectedFiles().constFirst();
+    m_lastFolder = QFileInfo(path).absolutePath();
     return path.toStdString();
+}
+
+std::optional<std::string> QtUserInterface::chooseOpenFile(const std::string& filter) {
+    return chooseFile(QFileDialog::AcceptOpen, filter, {});
 }
 
 std::optional<std::string> QtUserInterface::chooseSaveFile(const std::string& filter,
                                                            const std::string& proposed) {
-    const QString path = QFileDialog::getSaveFileName(
-        m_owner, QString(), QString::fromStdString(proposed), QString::fromStdString(filter));
-    if (path.isEmpty())
-        return std::nullopt;
-    return path.toStdString();
+    return chooseFile(QFileDialog::AcceptSave, filter, proposed);
 }
 
 FrmMessage& QtUserInterface::progressWindow() {

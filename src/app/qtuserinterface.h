@@ -3,10 +3,13 @@
 #include "userinterface.h"
 
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QMessageBox>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
 #include <chrono>
+#include <functional>
 
 namespace orvelin {
 
@@ -25,6 +28,7 @@ public:
     void setOwner(QWidget* owner);
 
     void showMessage(const std::string& text, const std::string& title) override;
+    void showWarning(const std::string& text, const std::string& title) override;
     Answer askYesNoCancel(const std::string& text, const std::string& title) override;
     Answer askOkCancel(const std::string& text, const std::string& title) override;
     std::optional<std::string> chooseOpenFile(const std::string& filter) override;
@@ -32,6 +36,10 @@ public:
                                               const std::string& proposed) override;
     void showProgress(const std::string& title, const std::string& text, int percent) override;
     void hideProgress() override;
+
+    /// Where file dialogs open: the folder `hint` names (the project's) when it exists,
+    /// else the folder of the last file chosen, else the home folder.
+    void setFolderHint(std::function<std::string()> hint);
 
     /// The progress window, created on first use.
     FrmMessage& progressWindow();
@@ -51,7 +59,15 @@ public:
     static QString DisplayText(const std::string& text);
 
 private:
+    int ask(QMessageBox::Icon icon, const std::string& text, const std::string& title,
+            QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);
+    QString startFolder() const;
+    std::optional<std::string> chooseFile(QFileDialog::AcceptMode mode, const std::string& filter,
+                                          const std::string& proposed);
+
     QPointer<QWidget> m_owner;
+    std::function<std::string()> m_folderHint;
+    QString m_lastFolder;
     // Owned by `m_owner` when there is one, so it may go before this object does.
     QPointer<FrmMessage> m_progress;
     std::chrono::milliseconds m_progressDelay{0};

@@ -71,12 +71,19 @@ bool StartupProbe::eventFilter(QObject* watched, QEvent* event) {
             if (m_report)
                 std::fprintf(stderr, "orvelin: window shown: %s \"%s\"\n",
                              qPrintable(entry.widget->objectName()),
-                             qPrintable(entry.widget->windowTitle()));
+                             qPrintable(ShownTitle(*entry.widget)));
         }
     }
     if (m_started)
         checkAllExposed();
     return QObject::eventFilter(watched, event);
+}
+
+QString StartupProbe::ShownTitle(const QWidget& window) {
+    // The title bar shows Qt's "[*]" as "*" while the window is modified, else nothing.
+    QString title = window.windowTitle();
+    return title.replace(QStringLiteral("[*]"),
+                         window.isWindowModified() ? QStringLiteral("*") : QString());
 }
 
 void StartupProbe::checkAllExposed() {
@@ -98,7 +105,7 @@ void StartupProbe::applyEnvironment() {
             if (entry.exposed && entry.widget != nullptr)
                 std::fprintf(stderr, "orvelin: window shown: %s \"%s\"\n",
                              qPrintable(entry.widget->objectName()),
-                             qPrintable(entry.widget->windowTitle()));
+                             qPrintable(ShownTitle(*entry.widget)));
         connect(this, &StartupProbe::idle, this, [] { std::fprintf(stderr, "orvelin: idle\n"); });
     }
     if (QuitAfterStartupRequested()) {

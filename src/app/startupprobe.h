@@ -19,6 +19,8 @@ class StartupProbe : public QObject {
     Q_OBJECT
 
 public:
+    /// A window's title as its title bar shows it.
+    static QString ShownTitle(const QWidget& window);
     explicit StartupProbe(QObject* parent = nullptr);
 
     /// Waits for `window` (a top-level widget) to be exposed. Call before the event loop.

@@ -3,6 +3,7 @@
 #include "imagecache.h"
 #include "messages.h"
 #include "paintsupport.h"
+#include "propertyeditor.h"
 
 #include <QBrush>
 #include <QFont>
@@ -15,10 +16,6 @@
 namespace orvelin {
 
 namespace {
-
-// The largest font size the designer accepts; a larger or non-positive one is refused the
-// way a picture refuses an invalid font size.
-constexpr int kMaxFontSize = 2048;
 
 /// A label that cannot be drawn; `what` is the description the user is shown.
 class LabelError : public std::runtime_error {
@@ -147,7 +144,7 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
                                                 ? std::string("Subscript out of range")
                                                 : std::string(error.what());
             const MessageTable& texts = Messages();
-            m_ui->showMessage(texts[Msg::SomethingWrong] + std::string(kCrLf) +
+            m_ui->showWarning(texts[Msg::SomethingWrong] + std::string(kCrLf) +
                               texts[Msg::OnDrawLabel] + std::to_string(index) + ") " +
                               std::string(kCrLf) + description);
         }
@@ -159,6 +156,7 @@ void ButtonPainter::drawString(QPainter& painter, int ButtonIndex, const QString
                                const QString& strFont, int iFontSize, std::int32_t lFontColor,
                                bool bBold, bool bItalic, int x, int y) {
     (void)ButtonIndex;
+    // A larger or non-positive size is refused the way a picture refuses an invalid one.
     if (iFontSize <= 0 || iFontSize > kMaxFontSize)
         throw LabelError("Invalid property value");
     QFont font(strFont);

@@ -201,7 +201,7 @@ void Editor::AddButton() {
 StartupResult Editor::AppendDefaultButton() {
     if (m_model.ButtonCount >= kMaxButtons) {
         const MessageTable& msg = Messages();
-        m_ui.showMessage(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
+        m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return StartupResult::Ready;
     }
     if (m_model.AddButton(m_settings.DefaultButton()) == ProjectModel::AddResult::CorruptDefault) {
@@ -217,7 +217,7 @@ StartupResult Editor::AppendDefaultButton() {
 }
 
 void Editor::RepairDefaultButton() {
-    m_ui.showMessage(Messages()[Msg::SettingsCorrupted]);
+    m_ui.showWarning(Messages()[Msg::SettingsCorrupted]);
     m_settings.SetDefaultButton(kFactoryDefaultButton);
     m_ui.showMessage(Messages()[Msg::SettingsRestored]);
 }
@@ -228,9 +228,13 @@ void Editor::DuplicateButton() {
         return;
     if (m_model.DuplicateButton(source) == ProjectModel::AddResult::LimitReached) {
         const MessageTable& msg = Messages();
-        m_ui.showMessage(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
+        m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return;
     }
+    // The copy stands 10 pixels right of and below the original, so that it is seen.
+    ButtonRecord& copy = m_model.Button(m_model.CurrentButton);
+    copy.x = static_cast<std::int16_t>(std::min(copy.x + kDuplicateOffset, 32767));
+    copy.y = static_cast<std::int16_t>(std::min(copy.y + kDuplicateOffset, 32767));
     m_list.append();
     m_list.selectOnly(m_model.CurrentButton);
     m_design.LoadButton(m_model.CurrentButton);
@@ -269,6 +273,8 @@ void Editor::ClickList(int index) {
 void Editor::SetListSelection(const std::vector<int>& selected) {
     for (int i = 1; i <= m_list.count(); ++i)
         m_list.setSelected(i, std::find(selected.begin(), selected.end(), i) != selected.end());
+    // The panel says whether the current button is still among the edited ones.
+    ShowProp(m_model.CurrentButton);
     m_design.RedrawAll();
 }
 
@@ -295,7 +301,7 @@ std::string Editor::ActionProgramKind() const {
 void Editor::MakeDefault() {
     const int current = m_model.CurrentButton;
     if (current < 1 || current > m_model.ButtonCount) {
-        m_ui.showMessage(Messages()[Msg::NothingSelected]);
+        m_ui.showWarning(Messages()[Msg::NothingSelected]);
         return;
     }
     m_settings.SetDefaultButton(SerializeButton(m_model.Button(current)));
@@ -305,13 +311,13 @@ void Editor::MakeDefault() {
 void Editor::SoundConverter() {
     const std::string folder = ProgramFolder();
     if (!m_shell.StartProgram(JoinPath(folder, "SoundConv"), {}))
-        m_ui.showMessage(folder + Messages()[Msg::SoundConvNotFound]);
+        m_ui.showWarning(folder + Messages()[Msg::SoundConvNotFound]);
 }
 
 void Editor::Help() {
     const std::string page = JoinPath(ProgramFolder(), "help/help.htm");
     if (!m_shell.OpenDocument(page))
-        m_ui.showMessage(page + Messages()[Msg::HelpNotFound]);
+        m_ui.showWarning(page + Messages()[Msg::HelpNotFound]);
 }
 
 void Editor::ToggleKeepOnTop() {

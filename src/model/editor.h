@@ -24,8 +24,11 @@ const char* AskToSaveText(SaveAnswer answer);
 enum class StartupResult { Ready, Quit };
 
 /// File dialog filters, in Qt's form.
-inline constexpr const char* kProjectFilter = "Orvelin Files (*.orv);;All Files (*.*)";
-inline constexpr const char* kLegacyProjectFilter = "Legacy Projects (*.ini);;All Files (*.*)";
+/// How far right and down a duplicated button stands from its original, in pixels.
+inline constexpr int kDuplicateOffset = 10;
+
+inline constexpr const char* kProjectFilter = "Orvelin Files (*.orv);;All Files (*)";
+inline constexpr const char* kLegacyProjectFilter = "Legacy Projects (*.ini);;All Files (*)";
 inline constexpr const char* kProposedProjectName = "untitled.orv";
 
 /**

@@ -87,6 +87,29 @@ const char* MessageTable::englishDefault(Msg id) {
         return "The default button and the advanced options will get their original values.";
     case Msg::IniWriteFailed:
         return "Unable to write registry or .ini file value.";
+    case Msg::FontSizeRange:
+        return "The font size must be a whole number from 1 to 2048.";
+    case Msg::LabelCutAtSemicolon:
+        return "A program ends each command at \";\": this label will be cut at its first "
+               "\";\".\r\nAdd it anyway? (No returns to the label.)";
+    case Msg::ProgramForButtons:
+        return "This program will be set for %1 buttons";
+    case Msg::AppletSizeRange:
+        return "The applet's width and height are at least 1 pixel.";
+    case Msg::FieldCannotHold:
+        return "This field cannot store these characters; they were left out: ";
+    case Msg::ControlCharacters:
+        return "control characters";
+    case Msg::UrlBarEncoded:
+        return "\"|\" is written as %7C in a link, which means the same to a browser.";
+    case Msg::CharacterReference:
+        return " will reach the page as one character: a browser decodes it before the bar "
+               "reads it.";
+    case Msg::WrongBox:
+        return "The value to correct is in the box ";
+    case Msg::NotSelectedNote:
+        return " is not selected: its properties are shown, and edits go to the selected "
+               "buttons only. Click it to edit it.";
     case Msg::Count:
         break;
     }

@@ -63,6 +63,17 @@ enum class Msg : std::size_t {
     // Design surface dialogs.
     RestoreDefaultsQuestion,
     IniWriteFailed,
+    // Editing, later additions.
+    FontSizeRange,
+    LabelCutAtSemicolon,
+    ProgramForButtons, ///< "%1" stands for the number of buttons
+    NotSelectedNote,   ///< after "Button <n>"
+    AppletSizeRange,
+    FieldCannotHold,   ///< followed by the characters left out
+    ControlCharacters, ///< how the list of left-out characters names control characters
+    UrlBarEncoded,
+    CharacterReference, ///< after the reference in quotes
+    WrongBox,           ///< followed by the name of Move's box
     Count
 };
 

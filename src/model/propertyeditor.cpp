@@ -28,6 +28,11 @@ std::int16_t Flag(bool on) {
 
 } // namespace
 
+bool IsUsableFontSize(const std::string& text) {
+    const std::int16_t size = MakeCInt(text);
+    return size >= 1 && size <= kMaxFontSize;
+}
+
 std::optional<std::int16_t> AutoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image,
                                              int appletWidth, int appletHeight) {
     if (!autoTile)
@@ -103,6 +108,8 @@ void PropertyEditor::SetFont(const std::string& family) {
 }
 
 void PropertyEditor::SetFontSize(const std::string& text) {
+    if (!IsUsableFontSize(text))
+        return;
     ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.FontSize(s) = v; });
 }
 
@@ -187,18 +194,26 @@ void PropertyEditor::BackgroundEdited() {
     m_design.UpdateTransparentBtns();
 }
 
-void PropertyEditor::SetAppletWidth(const std::string& text) {
-    if (m_model.Updating)
-        return;
-    m_model.AppletWidth = MakeCInt(text);
-    AppletEdited();
+bool PropertyEditor::SetAppletWidth(const std::string& text) {
+    return SetAppletSize(m_model.AppletWidth, text);
 }
 
-void PropertyEditor::SetAppletHeight(const std::string& text) {
+bool PropertyEditor::SetAppletHeight(const std::string& text) {
+    return SetAppletSize(m_model.AppletHeight, text);
+}
+
+bool PropertyEditor::SetAppletSize(std::int16_t& field, const std::string& text) {
     if (m_model.Updating)
-        return;
-    m_model.AppletHeight = MakeCInt(text);
-    AppletEdited();
+        return true;
+    const std::int16_t size = MakeCInt(text);
+    if (size < 1)
+        return false;
+    if (size != field) {
+        field = size;
+        AppletEdited();
+        CommitAppletSize();
+    }
+    return true;
 }
 
 void PropertyEditor::CommitAppletSize() {

@@ -14,10 +14,18 @@
 
 namespace orvelin {
 
-/// File chooser filters for images and sounds, in Qt's form.
+/// File chooser filters for images and sounds, in Qt's form: Qt reads the patterns
+/// between the last parentheses, separated by blanks, and matches them without regard
+/// to case; "*" (not "*.*") is every file on a system where names need no extension.
 /// PNG is offered beside the two formats the applet names, since the designer reads it too.
-inline constexpr const char* kImageFilter = "GIF , JPG (*.gif;*.jpg;*.png);; All Files (*.*)";
-inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);; All Files (*.*)";
+inline constexpr const char* kImageFilter = "GIF , JPG (*.gif *.jpg *.jpeg *.png);;All Files (*)";
+inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);;All Files (*)";
+
+/// The largest font size a label is drawn with.
+inline constexpr int kMaxFontSize = 2048;
+/// Whether `text` is a font size that labels can be drawn with: a whole number from 1
+/// to kMaxFontSize (blanks around it allowed).
+bool IsUsableFontSize(const std::string& text);
 
 /// Background placement chosen automatically for a new background image while tiling
 /// is on: "Tile" (1) when the image is smaller than the applet both ways, else
@@ -53,6 +61,8 @@ public:
     /// chkCenterText, the counterpart: on means PositionText 0.
     void SetCenterText(bool on);
     void SetFont(const std::string& family);
+    /// An empty box (a size being typed) or a size that IsUsableFontSize refuses writes
+    /// nothing.
     void SetFontSize(const std::string& text);
     void SetFontStyle(bool bold, bool italic);
     void SetFontColor(std::int32_t colour);
@@ -75,9 +85,11 @@ public:
     void BrowseSound();
 
     // Applet properties.
-    void SetAppletWidth(const std::string& text);
-    void SetAppletHeight(const std::string& text);
-    /// Enter in the size fields: the design surface takes the new size.
+    /// The applet's size as typed; the design surface follows at once. A size below 1
+    /// (an empty box included) is refused: nothing is written and the result is false.
+    bool SetAppletWidth(const std::string& text);
+    bool SetAppletHeight(const std::string& text);
+    /// The design surface takes the applet's size.
     void CommitAppletSize();
     void SetBehaviour(int behaviour); ///< 0 push buttons, 1 radio buttons
     void SetDOWNBtn(bool on);
@@ -99,6 +111,7 @@ private:
     void ForSelected(const std::function<void(ButtonRecord&, ButtonState)>& change);
     void AppletEdited();
     void BackgroundEdited();
+    bool SetAppletSize(std::int16_t& field, const std::string& text);
 
     ProjectModel& m_model;
     ButtonList& m_list;

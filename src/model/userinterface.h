@@ -18,12 +18,17 @@ public:
 
     /// A message with an OK button. An empty title means the program's default title.
     virtual void showMessage(const std::string& text, const std::string& title = {}) = 0;
+    /// A message that reports a failure or a refusal: the same box with the warning
+    /// icon where the interface has icons.
+    virtual void showWarning(const std::string& text, const std::string& title = {}) {
+        showMessage(text, title);
+    }
     /// Yes / No / Cancel.
     virtual Answer askYesNoCancel(const std::string& text, const std::string& title = {}) = 0;
     /// OK / Cancel.
     virtual Answer askOkCancel(const std::string& text, const std::string& title = {}) = 0;
 
-    /// File choosers; `filter` is in Qt's form ("Orvelin Files (*.orv);;All Files (*.*)").
+    /// File choosers; `filter` is in Qt's form ("Orvelin Files (*.orv);;All Files (*)").
     virtual std::optional<std::string> chooseOpenFile(const std::string& filter) = 0;
     virtual std::optional<std::string> chooseSaveFile(const std::string& filter,
                                                       const std::string& proposed) = 0;

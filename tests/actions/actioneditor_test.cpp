@@ -66,6 +66,21 @@ TEST_F(ActionEditorTest, OkCopiesTheProgramToEverySelectedButtonOnly) {
     EXPECT_EQ(model.Button(1).ProgramOVER, "1 1;");
     EXPECT_EQ(model.Button(2).ProgramUP, "");
     EXPECT_FALSE(model.Saved);
+    EXPECT_EQ(editor.targetButtons({false, true, true}), std::vector<int>({2, 3}));
+    editor.open("AppletProgramOVER");
+    EXPECT_TRUE(editor.targetButtons({true, true, true}).empty());
+}
+
+TEST_F(ActionEditorTest, ALabelWithASemicolonIsAddedOnlyWhenTheUserAcceptsTheCut) {
+    editor.open("ProgramOVER");
+    editor.inputs().label = "Bye now; see you";
+    ui.answers = {UserInterface::Answer::No, UserInterface::Answer::Yes};
+    EXPECT_FALSE(add(SetLabel));
+    EXPECT_EQ(editor.commandLines().size(), 2u);
+    EXPECT_EQ(editor.inputs().label, "Bye now; see you"); // back to the box, unchanged
+    EXPECT_TRUE(add(SetLabel));
+    EXPECT_EQ(ui.shown.size(), 2u);
+    EXPECT_EQ(editor.commandLines().size(), 3u);
 }
 
 TEST_F(ActionEditorTest, AppletKindsUseTheProjectsSlot) {
@@ -155,7 +170,7 @@ TEST_F(ActionEditorTest, MoveWithAWrongBoxShowsTheConversionErrorAndAddsNothing)
     editor.inputs().width = "abc";
     EXPECT_FALSE(add(Move));
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.shown[0].text, "Type mismatch");
+    EXPECT_EQ(ui.shown[0].text, "Type mismatch\r\nThe value to correct is in the box width");
     EXPECT_EQ(ui.shown[0].title, "Wrong Parameters");
     EXPECT_EQ(editor.commandLines().size(), 2u);
     EXPECT_EQ(editor.selection(), 0);

@@ -228,3 +228,21 @@ TEST(DesignInteraction, TheBottomHandleResizesTheCurrentButton) {
     EXPECT_EQ(w.editor.calls, QStringList({QStringLiteral("geometry 1")}));
     EXPECT_EQ(w.design.paintCount() - paints, 1);
 }
+
+TEST(DesignInteraction, HandlesFollowTheCurrentButtonSoAHandleDragResizesByItsDistance) {
+    Window w(3);
+    w.click(3, Qt::ControlModifier); // button 3 joins the group and becomes current
+    Window::drag(w.design.picSizer(SizerRight), QPoint(3, 3), QPoint(5, 0));
+    EXPECT_EQ(w.model.Button(3).Width, 109); // 100 + 5 + the first step's 4
+    EXPECT_EQ(w.model.Button(1).Width, 100);
+
+    // A new last button that is current gets the handles as soon as it is drawn.
+    w.model.ButtonCount = 4;
+    w.model.CurrentButton = 4;
+    w.model.Button(4) = w.model.Button(1);
+    w.model.Button(4).x = 400;
+    w.list.append();
+    w.design.LoadButton(4);
+    const QRect handle = w.design.picSizer(SizerRight)->geometry();
+    EXPECT_EQ(handle.left(), FrmDesign::kMargin + 400 + 100 + 2);
+}

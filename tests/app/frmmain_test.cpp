@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -101,7 +102,7 @@ void ExpectActionEditor(const std::function<void()>& open, const char* title, co
 TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
     MainWindow w;
     EXPECT_EQ(w.window.objectName(), QStringLiteral("frmMain"));
-    EXPECT_EQ(w.window.windowTitle(), QStringLiteral("Orvelin 1.0  Beta 6"));
+    EXPECT_EQ(w.window.windowTitle(), QStringLiteral("Orvelin 1.0  Beta 6[*]"));
     ASSERT_EQ(w.buttons()->count(), 1);
     EXPECT_EQ(w.buttons()->item(0)->text(), QStringLiteral("Button 1"));
     EXPECT_TRUE(w.buttons()->item(0)->isSelected());
@@ -111,7 +112,7 @@ TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
 
 TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromAQuotedCommandLine) {
     MainWindow w("\"" + kExample + "\"");
-    EXPECT_EQ(w.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample);
+    EXPECT_EQ(w.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample + "[*]");
     EXPECT_GT(w.model.ButtonCount, 1);
     EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
     EXPECT_EQ(w.action("mnuFile1")->text().toStdString(), kExample);
@@ -254,13 +255,20 @@ TEST(AppletPanel, ShowsTheProjectAndWritesItBack) {
     w.click("imgRadioBtn");
     EXPECT_EQ(w.model.Behaviour, 1);
 
-    // The applet size is stored on typing and applied on Enter.
+    // The applet size is applied as it is typed; a width below 1 is refused beside the box
+    // and leaving the box shows the applet's width again.
+    w.showActive();
     w.design.clear();
+    w.field("txtAppletWidth")->setFocus();
     w.type("txtAppletWidth", QStringLiteral("600"));
     EXPECT_EQ(w.model.AppletWidth, 600);
-    EXPECT_EQ(w.design.count("AppletChanged"), 0);
+    EXPECT_EQ(w.design.count("AppletChanged"), 3); // 6, 60, 600
+    w.type("txtAppletWidth", QStringLiteral("0"));
+    EXPECT_EQ(w.model.AppletWidth, 600);
+    EXPECT_TRUE(w.find<QLabel>("lblSizeNote")->isVisible());
     QTest::keyClick(w.field("txtAppletWidth"), Qt::Key_Return);
-    EXPECT_EQ(w.design.count("AppletChanged"), 1);
+    EXPECT_EQ(w.field("txtAppletWidth")->text(), QStringLiteral("600"));
+    EXPECT_FALSE(w.find<QLabel>("lblSizeNote")->isVisible());
 }
 
 TEST(AppletPanel, MomentIconsOpenTheActionEditorForTheirAppletProgram) {

@@ -94,7 +94,7 @@ TEST_F(FrmSetActionTest, AddTakesTheTypedInputsAndShowsWhatTheEditorChanged) {
     child<QLineEdit>("txtWidth")->setText("abc");
     click("btnAdd");
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.shown[0].text, "Type mismatch");
+    EXPECT_EQ(ui.shown[0].text, "Type mismatch\r\nThe value to correct is in the box width");
     EXPECT_EQ(ui.shown[0].title, "Wrong Parameters");
     EXPECT_EQ(listed().size(), 4);
 }

@@ -195,8 +195,15 @@ TEST_F(EditorFixture, DuplicateCopiesTheCurrentButtonAsTheNewLast) {
     editor.ClickList(2);
     editor.DuplicateButton();
     EXPECT_EQ(Shown(), "4 buttons, current 4, list 4 selecting 4, changed");
-    EXPECT_EQ(model.Button(4), model.Button(2));
+    ButtonRecord moved = model.Button(2);
+    moved.x = static_cast<std::int16_t>(moved.x + 10);
+    moved.y = static_cast<std::int16_t>(moved.y + 10);
+    EXPECT_EQ(model.Button(4), moved); // offset so that the copy is seen
     EXPECT_EQ(design.count("LoadButton 4"), 1);
+    // At the edge of the coordinate range the copy stays on it.
+    model.Button(4).x = 32765;
+    editor.DuplicateButton();
+    EXPECT_EQ(model.Button(5).x, 32767);
 }
 
 TEST_F(EditorFixture, RemovingButton2Of4MovesTheLaterOnesDownAndSelectsButton1) {

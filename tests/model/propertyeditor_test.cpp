@@ -149,18 +149,19 @@ TEST_F(PropertyFixture, PositionTextAndCenterTextAreOneFlagAndRefreshThePanel) {
     EXPECT_EQ(model.Button(2).PositionTextOVER + model.Button(3).PositionTextOVER, 0);
 }
 
-TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsOnEnter) {
-    props.SetAppletWidth("300");
-    props.SetAppletHeight("x");
+TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsTheTypedSize) {
+    EXPECT_TRUE(props.SetAppletWidth("300"));
+    EXPECT_EQ(design.count("AppletChanged"), 1); // at once, not only on Enter
+    // A size below 1, or none while it is typed, is refused and written nowhere.
+    for (const char* refused : {"x", "", "0", "-5"})
+        EXPECT_FALSE(props.SetAppletHeight(refused)) << refused;
     props.SetBehaviour(1);
     props.SetDOWNBtn(true);
     EXPECT_EQ(
         (std::vector<int>{model.AppletWidth, model.AppletHeight, model.Behaviour, model.DOWNBtn}),
-        (std::vector<int>{300, 0, 1, 1}));
-    EXPECT_TRUE(design.calls.empty()) << "the surface is resized on Enter only";
-    EXPECT_FALSE(model.Saved);
-    props.CommitAppletSize();
+        (std::vector<int>{300, 170, 1, 1}));
     EXPECT_EQ(design.count("AppletChanged"), 1);
+    EXPECT_FALSE(model.Saved);
     props.SetBehaviour(0);
     EXPECT_EQ(model.Behaviour, 0);
 

@@ -1,0 +1,202 @@
+// The two windows wired together as the program runs them, with a scripted user:
+// faults that live between the main editor and the design window show here.
+#include "buttonpicture.h"
+#include "designer.h"
+#include "fakeui.h"
+#include "frmdesign.h"
+#include "frmmain.h"
+#include "sizerhandle.h"
+#include "tempfolder.h"
+#include "testapplication.h"
+#include "windowgeometry.h"
+
+#include <QComboBox>
+#include <QEventLoop>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <gtest/gtest.h>
+#include <numeric>
+
+using namespace orvelin;
+using namespace orvelin::testing;
+
+namespace {
+
+struct Program {
+    TempFolder config;
+    QApplication& app = [this]() -> QApplication& {
+        // The settings of the test go to a folder of its own, never the user's.
+        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(config.dir().string()));
+        return TestApplication();
+    }();
+    FakeUserInterface ui;
+    Designer designer{&ui};
+
+    Program() {
+        designer.start({});
+        QCoreApplication::processEvents();
+    }
+
+    FrmMain& main() { return designer.mainWindow(); }
+    FrmDesign& design() { return designer.designWindow(); }
+    ProjectModel& model() { return designer.model(); }
+
+    template <typename T = QWidget> T* find(const char* name) {
+        T* child = main().findChild<T*>(QString::fromLatin1(name));
+        EXPECT_NE(child, nullptr) << name;
+        return child;
+    }
+    void type(const char* field, const QString& text) {
+        QLineEdit* edit = find<QLineEdit>(field);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+    }
+    /// Where the right handle would stand around button `index`.
+    QPoint rightHandleOf(int index) {
+        const QRect b = design().pButtons(index)->geometry();
+        const SizerHandle* h = design().picSizer(1);
+        return {FrmDesign::kMargin + b.right() + 1 + 2,
+                FrmDesign::kMargin + b.top() + b.height() / 2 - h->height() / 2};
+    }
+};
+
+} // namespace
+
+TEST(Designer, TheHandlesSurroundTheCurrentButtonFromStartUpAndAfterAdd) {
+    Program p;
+    EXPECT_EQ(p.design().picSizer(1)->pos(), p.rightHandleOf(1));
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    ASSERT_EQ(p.model().CurrentButton, 2);
+    EXPECT_EQ(p.design().picSizer(1)->pos(), p.rightHandleOf(2));
+}
+
+TEST(Designer, TheCurrentButtonTakenOutOfTheSelectionIsShownButNotEdited) {
+    Program p;
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    p.model().Button(2).x = 200;
+    p.design().RedrawAll();
+    QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, {}, QPoint(5, 5));
+    for (int i = 0; i < 2; ++i)
+        QTest::mouseClick(p.design().pButtons(2), Qt::LeftButton, Qt::ControlModifier,
+                          QPoint(5, 5));
+    ASSERT_EQ(p.model().CurrentButton, 2);
+    ASSERT_EQ(p.designer.selection().selectedButtons(), std::vector<int>({1}));
+    EXPECT_FALSE(p.find<QLineEdit>("txtWidth")->isEnabled());
+    EXPECT_FALSE(p.find<QLabel>("lblNotSelected")->isHidden());
+
+    p.model().Button(2).Width = 60; // changed behind the panel's back
+    QTest::mouseClick(p.design().pButtons(2), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(p.find<QLineEdit>("txtWidth")->isEnabled());
+    EXPECT_EQ(p.find<QLineEdit>("txtWidth")->text(), QStringLiteral("60"));
+    EXPECT_TRUE(p.find<QLabel>("lblNotSelected")->isHidden());
+}
+
+TEST(Designer, AFontSizeBeingTypedOrRefusedShowsNoMessageBoxesAndABrokenLabelOneMessage) {
+    Program p;
+    for (int i = 1; i < 101; ++i)
+        p.main().editor().AddButton();
+    std::vector<int> all(101);
+    std::iota(all.begin(), all.end(), 1);
+    p.main().editor().SetListSelection(all);
+    p.ui.shown.clear();
+
+    QLineEdit* size = p.find<QComboBox>("lsFontSize")->lineEdit();
+    size->setFocus();
+    size->selectAll();
+    QTest::keyClick(size, Qt::Key_Backspace);
+    QTest::keyClicks(size, QStringLiteral("0"));
+    EXPECT_TRUE(p.ui.shown.empty());
+    EXPECT_FALSE(p.find<QLabel>("lblFieldNote")->isHidden());
+    EXPECT_EQ(p.model().Button(57).FontSizeUP, p.model().Button(1).FontSizeUP);
+    QTest::keyClick(size, Qt::Key_Backspace);
+    QTest::keyClicks(size, QStringLiteral("14"));
+    EXPECT_EQ(p.model().Button(101).FontSizeUP, 14);
+    EXPECT_TRUE(p.find<QLabel>("lblFieldNote")->isHidden());
+
+    // A label that really cannot be drawn (a damaged project) says so once per action.
+    for (int i = 1; i <= 101; ++i)
+        p.model().Button(i).FontSizeOVER = -3;
+    p.main().editor().SwitchState("OVER");
+    QCoreApplication::processEvents();
+    p.main().editor().SwitchState("UP");
+    p.main().editor().SwitchState("OVER");
+    EXPECT_EQ(p.ui.shown.size(), 2u);
+}
+
+TEST(Designer, TypedTextKeepsOnlyWhatItsFieldCanStoreAndSaysSo) {
+    Program p;
+    QLabel* note = p.find<QLabel>("lblFieldNote");
+    p.type("txtURL", QStringLiteral("a.html?x=1|2"));
+    EXPECT_EQ(p.model().Button(1).URL, "a.html?x=1%7C2");
+    EXPECT_FALSE(note->isHidden());
+    p.type("txtStatus", QStringLiteral("say \"hi\"|now"));
+    EXPECT_EQ(p.model().Button(1).Status, "say \"hi\"now");
+    EXPECT_TRUE(note->text().contains(QStringLiteral("\"|\"")));
+    // A pasted line break is the label's own line break, a blank elsewhere.
+    QLineEdit* label = p.find<QLineEdit>("txtLabel");
+    label->selectAll();
+    label->insert(QStringLiteral("Home\r\npage"));
+    EXPECT_EQ(p.model().Button(1).LabelUP, "Home\\npage");
+    p.find<QComboBox>("lsFont")->lineEdit()->selectAll();
+    p.find<QComboBox>("lsFont")->lineEdit()->insert(QStringLiteral("Ari|al\"\n"));
+    EXPECT_EQ(p.model().Button(1).FontUP, "Arial ");
+    // What a browser would turn into another character is named beside the field.
+    p.type("txtLabel", QStringLiteral("A&#124;B"));
+    EXPECT_TRUE(note->text().contains(QStringLiteral("&#124;")));
+}
+
+TEST(Designer, DialogsComeUpAboveADesignWindowKeptOnTopAndTheTitleMarksChanges) {
+    Program p;
+    EXPECT_FALSE(p.main().isWindowModified());
+    p.type("txtLabel", QStringLiteral("Changed"));
+    // The marker follows once the event is handled and the program waits for the next.
+    QEventLoop idle;
+    QTimer::singleShot(20, &idle, &QEventLoop::quit);
+    idle.exec();
+    EXPECT_TRUE(p.main().isWindowModified());
+
+    p.design().SetOnTop(true);
+    bool onTop = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        onTop = dialog->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        dialog->close();
+    });
+    p.find<QPushButton>("btnBgOffset")->click();
+    EXPECT_TRUE(onTop);
+}
+
+TEST(Designer, AfterNewThePanelIsEmpty) {
+    Program p;
+    p.model().Saved = true;
+    p.main().editor().New();
+    EXPECT_TRUE(p.find<QLineEdit>("txtWidth")->text().isEmpty());
+    EXPECT_TRUE(p.find<QLineEdit>("txtLabel")->text().isEmpty());
+    EXPECT_FALSE(p.find<QLineEdit>("txtWidth")->isEnabled());
+    EXPECT_EQ(p.model().ButtonCount, 0);
+}
+
+TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {
+    const QRect screen(0, 0, 1280, 800);
+    const QSize wanted(560, 300), minimum(300, 180);
+    // Room below the editor: there, shortened to fit.
+    QRect place = PlaceDesignWindow(screen, QRect(16, 16, 900, 560), wanted, minimum);
+    EXPECT_FALSE(place.intersects(QRect(16, 16, 900, 560)));
+    EXPECT_TRUE(screen.contains(place));
+    EXPECT_EQ(place.height(), 800 - (16 + 560 + 8));
+    // A tall editor: to its right.
+    place = PlaceDesignWindow(screen, QRect(16, 16, 700, 700), wanted, minimum);
+    EXPECT_EQ(place.left(), 16 + 700 + 8);
+    EXPECT_TRUE(screen.contains(place));
+    // No room anywhere: the minimum size at the bottom of the screen.
+    place = PlaceDesignWindow(screen, QRect(0, 0, 1200, 780), wanted, minimum);
+    EXPECT_EQ(place.bottom(), 799);
+    EXPECT_EQ(place.height(), 180);
+}
