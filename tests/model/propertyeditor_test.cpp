@@ -1,9 +1,12 @@
+#include "editor.h"
 #include "editorfakes.h"
 #include "fakeui.h"
 #include "projectfile.h"
 #include "propertyeditor.h"
 
+#include <fnmatch.h>
 #include <gtest/gtest.h>
+#include <sstream>
 
 using namespace orvelin;
 
@@ -217,4 +220,30 @@ TEST_F(PropertyFixture, ChosenImagesAndSoundsGoIntoTheEditedStateAndShow) {
     EXPECT_EQ(model.Button(2).ImageUP, "");
     EXPECT_EQ(ui.shown[1].text, kSoundFilter);
     EXPECT_EQ(view.props.size(), 2u);
+}
+
+TEST(FileFilters, EachFilterListsItsFilesTheWayQtReadsPatterns) {
+    // Qt takes the blank-separated patterns between a filter's last parentheses and
+    // matches them without regard to case.
+    const auto matches = [](const std::string& filter, const std::string& name) {
+        std::size_t start = 0;
+        while (start <= filter.size()) {
+            const std::size_t end = std::min(filter.find(";;", start), filter.size());
+            const std::string one = filter.substr(start, end - start);
+            const std::size_t open = one.rfind('('), close = one.rfind(')');
+            std::istringstream patterns(one.substr(open + 1, close - open - 1));
+            for (std::string pattern; patterns >> pattern;)
+                if (::fnmatch(pattern.c_str(), name.c_str(), FNM_CASEFOLD) == 0)
+                    return true;
+            start = end + 2;
+        }
+        return false;
+    };
+    EXPECT_TRUE(matches(kProjectFilter, "my bar.orv"));
+    EXPECT_TRUE(matches(kLegacyProjectFilter, "old.INI"));
+    for (const char* image : {"a.gif", "b.JPG", "c.jpeg", "d.png"})
+        EXPECT_TRUE(matches(kImageFilter, image)) << image;
+    EXPECT_TRUE(matches(kSoundFilter, "click.au"));
+    for (const char* filter : {kProjectFilter, kImageFilter, kSoundFilter})
+        EXPECT_TRUE(matches(filter, "README")) << "All Files lists names without a dot";
 }
