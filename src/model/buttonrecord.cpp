@@ -241,6 +241,35 @@ const std::array<ButtonField, kButtonFieldCount>& ButtonFields() {
     return fields;
 }
 
+bool FieldCanHold(FieldKind kind, char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x20 || byte == 0x7F)
+        return false;
+    switch (kind) {
+    case FieldKind::Label:
+        return true;
+    case FieldKind::Text:
+    case FieldKind::File:
+        return c != '|';
+    case FieldKind::Int16:
+    case FieldKind::Color:
+    case FieldKind::Raw:
+        break;
+    }
+    return c != '|' && c != '"';
+}
+
+std::string CleanFieldText(FieldKind kind, std::string_view text, bool* removed) {
+    std::string out;
+    out.reserve(text.size());
+    for (const char c : text)
+        if (FieldCanHold(kind, c))
+            out += c;
+    if (removed)
+        *removed = out.size() != text.size();
+    return out;
+}
+
 namespace {
 
 /// Up to nine digits with at most a minus, as the writer puts every number: read here,

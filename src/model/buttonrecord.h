@@ -101,6 +101,25 @@ struct ButtonField {
     FieldKind kind;
 };
 
+/**
+ * Whether a field of `kind` can hold the byte `c` in every form it is written in: the
+ * project file line (a "|" ends a field, a line break ends the button), the legacy INI
+ * line and the applet parameter (a double-quoted attribute whose fields end at "|").
+ * No field holds a control character: a label's own line break is the two characters
+ * "\n", and a line break anywhere would cut the line. Labels carry '"' and "|" through
+ * their encoding (the "|" comes back as "I", by design); Text and File fields carry '"'
+ * (encoded for the applet) but no "|"; Raw fields (fonts, style codes, programs, the
+ * applet name) neither. Numbers are checked as numbers where they are read.
+ */
+bool FieldCanHold(FieldKind kind, char c);
+
+/**
+ * `text` without the bytes a field of `kind` cannot hold (FieldCanHold): the one rule
+ * for what a field may contain, used when a project is read, when a page is generated
+ * and where the user types. `removed`, when given, tells whether anything went.
+ */
+std::string CleanFieldText(FieldKind kind, std::string_view text, bool* removed = nullptr);
+
 /// The 50 fields in their canonical order.
 const std::array<ButtonField, kButtonFieldCount>& ButtonFields();
 

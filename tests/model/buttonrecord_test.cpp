@@ -152,6 +152,21 @@ TEST(ButtonRecord, FontStyleCodesAndStateNamesConvertBothWays) {
     EXPECT_STREQ(StateName(ButtonState::OVER), "OVER");
 }
 
+TEST(ButtonRecord, FieldsHoldOnlyWhatTheirEncodingsCarry) {
+    const std::string mixed = "a\"b|c\r\nd\te\x7F\x01 \xC3\xA9;&";
+    const std::pair<FieldKind, std::string> cases[] = {{FieldKind::Label, "a\"b|cde \xC3\xA9;&"},
+                                                       {FieldKind::Text, "a\"bcde \xC3\xA9;&"},
+                                                       {FieldKind::File, "a\"bcde \xC3\xA9;&"},
+                                                       {FieldKind::Raw, "abcde \xC3\xA9;&"}};
+    for (const auto& [kind, kept] : cases) {
+        bool removed = false;
+        EXPECT_EQ(CleanFieldText(kind, mixed, &removed), kept);
+        EXPECT_TRUE(removed);
+        EXPECT_EQ(CleanFieldText(kind, kept, &removed), kept);
+        EXPECT_FALSE(removed);
+    }
+}
+
 TEST(ProjectModel, TheHundredAndFirstButtonIsAcceptedTheNextRefused) {
     ProjectModel model;
     for (int i = 1; i <= kMaxButtons; ++i)
