@@ -344,10 +344,11 @@ std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
 bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui) {
     ui.showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::SavingButtonsToFile], -1);
     const std::string text = ProjectText(model, &ui);
-    const bool written = WriteFileAtomically(path, text);
+    TextFileError error;
+    const bool written = WriteFileAtomically(path, text, &error);
     ui.hideProgress();
     if (!written) {
-        ui.showMessage(Messages()[Msg::ErrorSaving]);
+        ui.showMessage(WithSystemCause(Messages()[Msg::ErrorSaving], error));
         return false;
     }
     model.Saved = true;

@@ -21,7 +21,8 @@ const std::string kParams = "1.0  Beta 6\\Params";
 const std::string kLimitMessage = "Can't create more buttons on one applet.\r\n"
                                   "You may use two applets and put them on one page instead.";
 const std::string kSaveError =
-    "Error Saving Buttons. File may be Read Only, Hidden or used by another application.";
+    "Error Saving Buttons. File may be Read Only, Hidden or used by another application.\r\n"
+    "No such file or directory";
 
 struct EditorFixture : ::testing::Test {
     ProjectModel model;
