@@ -61,8 +61,18 @@ std::optional<std::string> QtUserInterface::chooseOpenFile(const std::string& fi
 
 std::optional<std::string> QtUserInterface::chooseSaveFile(const std::string& filter,
                                                            const std::string& proposed) {
-    const QString path = QFileDialog::getSaveFileName(
-        m_owner, QString(), QString::fromStdString(proposed), QString::fromStdString(filter));
+    std::string chosenFilter;
+    return chooseSaveFileAndFilter(filter, proposed, chosenFilter);
+}
+
+std::optional<std::string> QtUserInterface::chooseSaveFileAndFilter(const std::string& filter,
+                                                                    const std::string& proposed,
+                                                                    std::string& chosenFilter) {
+    QString selected;
+    const QString path =
+        QFileDialog::getSaveFileName(m_owner, QString(), QString::fromStdString(proposed),
+                                     QString::fromStdString(filter), &selected);
+    chosenFilter = selected.toStdString();
     if (path.isEmpty())
         return std::nullopt;
     return path.toStdString();

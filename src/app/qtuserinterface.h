@@ -30,6 +30,9 @@ public:
     std::optional<std::string> chooseOpenFile(const std::string& filter) override;
     std::optional<std::string> chooseSaveFile(const std::string& filter,
                                               const std::string& proposed) override;
+    std::optional<std::string> chooseSaveFileAndFilter(const std::string& filter,
+                                                       const std::string& proposed,
+                                                       std::string& chosenFilter) override;
     void showProgress(const std::string& title, const std::string& text, int percent) override;
     void hideProgress() override;
 

@@ -87,6 +87,14 @@ const char* MessageTable::englishDefault(Msg id) {
         return "The default button and the advanced options will get their original values.";
     case Msg::IniWriteFailed:
         return "Unable to write registry or .ini file value.";
+    case Msg::FileExists:
+        return " already exists.";
+    case Msg::ReplaceQuestion:
+        return "Do you want to replace it?";
+    case Msg::CharactersRemoved:
+        return "Characters that these fields cannot hold were removed:";
+    case Msg::AppletPrefix:
+        return "Applet";
     case Msg::Count:
         break;
     }

@@ -63,6 +63,11 @@ enum class Msg : std::size_t {
     // Design surface dialogs.
     RestoreDefaultsQuestion,
     IniWriteFailed,
+    // Save as, loading.
+    FileExists,      ///< after the file's path
+    ReplaceQuestion, ///< on the line after FileExists
+    CharactersRemoved,
+    AppletPrefix, ///< names the applet where ButtonPrefix names a button
     Count
 };
 
