@@ -375,10 +375,11 @@ bool Editor::LoadFile(const std::string& path) {
     ClearProject();
     const bool loaded = LoadProject(m_model, path, m_ui);
     ShowLoadedProject();
-    if (loaded) {
-        m_view.SetCaption(MainTitle() + " " + path);
+    // A file read only in part has no name in the editor (saving it must not overwrite
+    // the rest of it), so neither has the title.
+    m_view.SetCaption(loaded ? MainTitle() + " " + path : MainTitle());
+    if (loaded)
         m_recent.WriteRecent(path);
-    }
     return loaded;
 }
 

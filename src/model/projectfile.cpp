@@ -150,8 +150,12 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
     const std::optional<std::string> text = ReadTextFile(path, &fileError);
     if (!text)
         return LoadError{0, fileError.description};
+    model.LoadedFrom = path;
     bool lastTerminated = true;
-    const std::vector<std::string_view> lines = SplitLines(*text, &lastTerminated);
+    // The header, the applet line and the most buttons a file can hold: the lines after
+    // them are not the project's, and however many there are they cost nothing.
+    const std::vector<std::string_view> lines =
+        SplitLines(*text, &lastTerminated, static_cast<std::size_t>(kLastButtonSlot) + 2);
     // The file is read as a stream: a last line that the file cuts off before its
     // line break counts only when all its separators are there.
     const auto complete = [&](std::size_t index, std::size_t separators) {
@@ -214,14 +218,32 @@ constexpr std::array<LegacyKey, 34> kLegacyButtonKeys = {{
 }};
 // clang-format on
 
+constexpr std::array<const char*, 9> kLegacyAppletKeys = {
+    "Version",     "ButtonCount",  "BackGround", "Behaviour",   "DOWNBtn",
+    "AppletWidth", "AppletHeight", "BackImg",    "BackImgStyle"};
+
+// Every key the legacy reader may ask for: the profile keeps no others.
+const std::vector<std::string>& legacyKeys() {
+    static const std::vector<std::string> keys = [] {
+        std::vector<std::string> all(kLegacyAppletKeys.begin(), kLegacyAppletKeys.end());
+        for (int i = 1; i <= kLastButtonSlot; ++i)
+            for (const LegacyKey& key : kLegacyButtonKeys)
+                all.push_back(std::string(ButtonFields()[static_cast<std::size_t>(key.pos)].name) +
+                              "_" + std::to_string(i));
+        return all;
+    }();
+    return keys;
+}
+
 std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::string& path,
                                            UserInterface& ui) {
     TextFileError fileError;
     const std::optional<std::string> text = ReadTextFile(path, &fileError);
     if (!text)
         return LoadError{0, fileError.description};
-    const PrivateProfile profile = PrivateProfile::fromText(*text);
+    model.LoadedFrom = path;
     constexpr std::string_view section = "Buttons";
+    const PrivateProfile profile = PrivateProfile::fromText(*text, section, legacyKeys());
     profile.value(section, "Version", "-1"); // read by the old format, used by no one
 
     struct AppletKey {
@@ -285,6 +307,9 @@ void startLoad(ProjectModel& model, UserInterface& ui) {
     ui.showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::LoadingProject], -1);
     model.ButtonCount = 0;
     model.CurrentButton = 0;
+    // Until the new file gives content, what is shown (the applet's background) is
+    // still the old project's, and so is the folder its relative paths are read from.
+    model.LoadedFrom = model.FileForRelativePaths();
     model.ProjectFileName.clear();
 }
 

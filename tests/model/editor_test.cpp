@@ -361,16 +361,24 @@ TEST_F(EditorFixture, OpenLoadsTheChosenFileAndShowsButton1AloneUnlessCancelled)
 
 TEST_F(EditorFixture, AFileCutOffKeepsTheButtonsReadSoFarInListAndSurface) {
     Start();
+    const std::string good = WriteProject("good", 1);
+    fs::create_directory(folder.dir() / "sub");
     const std::string text = folder.read(fs::path(WriteProject("cut", 5)).filename());
     const std::string path = folder.write(
-        "cut.orv", text.substr(0, text.rfind("\r\n", text.find("cut5")) + 2) + "0|0|107|");
-    ui.chosenFiles = {path};
+        "sub/cut.orv", text.substr(0, text.rfind("\r\n", text.find("cut5")) + 2) + "0|0|107|");
+    ui.chosenFiles = {good, path, PathOf("missing.orv")};
+    editor.Open();
     editor.Open();
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
     EXPECT_EQ(design.count("LoadButton 4") + design.count("LoadButton 5"), 1);
     EXPECT_EQ(ui.messages(), Texts{"Error loading project.\r\nInput past end of file"});
+    // What is shown has no file name, and its images are found beside the file it is from.
     EXPECT_EQ(model.ProjectFileName, "");
-    EXPECT_EQ(settings.RecentFile(1), "-1");
+    EXPECT_EQ(view.caption, kTitle);
+    EXPECT_EQ(model.FileForRelativePaths(), path);
+    EXPECT_EQ(settings.RecentFile(1), good);
+    editor.Open(); // a file that cannot be read replaces nothing the surface shows
+    EXPECT_EQ(model.FileForRelativePaths(), path);
 }
 
 TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
