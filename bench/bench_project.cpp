@@ -4,10 +4,14 @@
 #include "projectfile.h"
 #include "userinterface.h"
 
+#include <algorithm>
+#include <atomic>
 #include <benchmark/benchmark.h>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <new>
 #include <string>
 
 using namespace orvelin;
@@ -18,7 +22,7 @@ namespace {
 /// 101 buttons with long labels full of blanks and quotes, and programs on each.
 ProjectModel fullProject() {
     ProjectModel m;
-    m.AppletProgramStart = "ShowButton(1);HideButton(2);";
+    m.AppletProgramStart = "1 1;2 2;";
     for (int b = 1; b <= kMaxButtons; ++b) {
         ButtonRecord& r = m.Button(b);
         r.x = static_cast<std::int16_t>(b * 5);
@@ -30,9 +34,9 @@ ProjectModel fullProject() {
         r.URL = "http://example.org/page" + std::to_string(b) + ".htm";
         r.Status = "Go to page " + std::to_string(b);
         r.ImageUP = "images/up" + std::to_string(b) + ".gif";
-        r.ProgramUP = "SetLabel(" + std::to_string(b) + ",\"Up\");PlaySound(\"up.au\");";
-        r.ProgramOVER = "ShowButton(" + std::to_string(b) + ");SetStatus(\"Over\");";
-        r.ProgramDOWN = "GoToURL(\"http://example.org/\",\"_top\");";
+        r.ProgramUP = "4 " + std::to_string(b) + " 1 Up&nbsp&y02there&y02;6 500;";
+        r.ProgramOVER = "1 " + std::to_string(b) + ";5 " + std::to_string(b) + " 2 FF8000;";
+        r.ProgramDOWN = "7 0 go(&y02http://example.org/&y02)&y01;";
     }
     m.ButtonCount = kMaxButtons;
     return m;
@@ -131,3 +135,69 @@ void BM_ProjectTextInMemory(benchmark::State& state) {
 BENCHMARK(BM_ProjectTextInMemory);
 
 } // namespace
+
+// Reading a hostile file: 10 MB of empty lines, through both readers. Time and the
+// memory held at the peak, as a multiple of the file's size, must stay small.
+namespace {
+
+std::atomic<std::size_t> liveBytes{0};
+std::atomic<std::size_t> peakBytes{0};
+
+std::string emptyLinesFile() {
+    static const std::string path = [] {
+        const std::string p = (folder() / "empty-lines.ini").string();
+        std::ofstream(p, std::ios::binary) << std::string(10 * 1024 * 1024, '\n');
+        return p;
+    }();
+    return path;
+}
+
+template <bool (*Load)(ProjectModel&, const std::string&, UserInterface&)>
+void loadEmptyLines(benchmark::State& state) {
+    const std::string path = emptyLinesFile();
+    SilentUserInterface ui;
+    ProjectModel model;
+    std::size_t peak = 0;
+    for (auto _ : state) {
+        const std::size_t before = liveBytes.load();
+        peakBytes = before;
+        benchmark::DoNotOptimize(Load(model, path, ui));
+        peak = std::max(peak, peakBytes.load() - before);
+    }
+    const auto size = static_cast<double>(fs::file_size(path));
+    state.counters["peak_per_file_byte"] = static_cast<double>(peak) / size;
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(size));
+}
+BENCHMARK(loadEmptyLines<LoadProject_OLD>)
+    ->Name("BM_LoadLegacyEmptyLines10MB")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(loadEmptyLines<LoadProject>)
+    ->Name("BM_LoadProjectEmptyLines10MB")
+    ->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+// Counts what the program holds, for the peak above.
+void* operator new(std::size_t size) {
+    void* p = std::malloc(size + sizeof(std::max_align_t));
+    if (!p)
+        throw std::bad_alloc();
+    *static_cast<std::size_t*>(p) = size;
+    const std::size_t live = liveBytes += size;
+    std::size_t peak = peakBytes.load();
+    while (live > peak && !peakBytes.compare_exchange_weak(peak, live)) {
+    }
+    return static_cast<char*>(p) + sizeof(std::max_align_t);
+}
+
+void operator delete(void* p) noexcept {
+    if (!p)
+        return;
+    char* block = static_cast<char*>(p) - sizeof(std::max_align_t);
+    liveBytes -= *reinterpret_cast<std::size_t*>(block);
+    std::free(block);
+}
+
+void operator delete(void* p, std::size_t) noexcept {
+    operator delete(p);
+}

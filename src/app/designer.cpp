@@ -57,8 +57,9 @@ void Designer::connectWindows() {
     connect(m_design.get(), &FrmDesign::btnViewHtmlClicked, this, [this] { showHtml(); });
     connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
-        if (!GlobalIni::ForProgram().SetNoBackGround(on))
-            m_ui.showWarning(Messages()[Msg::IniWriteFailed]);
+        TextFileError error;
+        if (!GlobalIni::ForProgram().SetNoBackGround(on, &error))
+            m_ui.showWarning(WithSystemCause(Messages()[Msg::IniWriteFailed], error));
     });
     connect(m_design.get(), &FrmDesign::unloading, this,
             [this] { SaveWindowGeometry(*m_design, m_settings, kDesignForm); });

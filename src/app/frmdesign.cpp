@@ -218,7 +218,7 @@ void FrmDesign::paintPicture(int index) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
-    m_images.setProjectFile(m_model.ProjectFileName);
+    m_images.setProjectFile(m_model.FileForRelativePaths());
     ButtonPainter painter(m_model, m_images);
     painter.setState(m_model.CurrentState);
     painter.setBackground(&m_area->background());
@@ -277,7 +277,7 @@ void FrmDesign::UpdateTransparentBtns() {
 }
 
 void FrmDesign::AppletChanged() {
-    m_images.setProjectFile(m_model.ProjectFileName);
+    m_images.setProjectFile(m_model.FileForRelativePaths());
     m_images.newPass();
     m_area->setBackground(RenderBackground(m_model, m_images, m_noBackGround));
     resizeSurface();

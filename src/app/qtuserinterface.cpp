@@ -86,7 +86,8 @@ QString QtUserInterface::startFolder() const {
 
 std::optional<std::string> QtUserInterface::chooseFile(QFileDialog::AcceptMode mode,
                                                        const std::string& filter,
-                                                       const std::string& proposed) {
+                                                       const std::string& proposed,
+                                                       std::string* chosenFilter) {
     QFileDialog dialog(m_owner, QString(), startFolder(), QString::fromStdString(filter));
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
@@ -98,7 +99,10 @@ std::optional<std::string> QtUserInterface::chooseFile(QFileDialog::AcceptMode m
         dialog.selectFile(file.fileName());
     }
     KeepAboveOnTopWindows(dialog);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    if (chosenFilter != nullptr)
+        *chosenFilter = dialog.selectedNameFilter().toStdString();
+    if (!chosen)
         return std::nullopt;
     const QString path = dialog.selectedFiles().constFirst();
     m_lastFolder = QFileInfo(path).absolutePath();
@@ -111,7 +115,14 @@ std::optional<std::string> QtUserInterface::chooseOpenFile(const std::string& fi
 
 std::optional<std::string> QtUserInterface::chooseSaveFile(const std::string& filter,
                                                            const std::string& proposed) {
-    return chooseFile(QFileDialog::AcceptSave, filter, proposed);
+    std::string chosenFilter;
+    return chooseSaveFileAndFilter(filter, proposed, chosenFilter);
+}
+
+std::optional<std::string> QtUserInterface::chooseSaveFileAndFilter(const std::string& filter,
+                                                                    const std::string& proposed,
+                                                                    std::string& chosenFilter) {
+    return chooseFile(QFileDialog::AcceptSave, filter, proposed, &chosenFilter);
 }
 
 FrmMessage& QtUserInterface::progressWindow() {

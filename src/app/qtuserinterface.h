@@ -34,6 +34,9 @@ public:
     std::optional<std::string> chooseOpenFile(const std::string& filter) override;
     std::optional<std::string> chooseSaveFile(const std::string& filter,
                                               const std::string& proposed) override;
+    std::optional<std::string> chooseSaveFileAndFilter(const std::string& filter,
+                                                       const std::string& proposed,
+                                                       std::string& chosenFilter) override;
     void showProgress(const std::string& title, const std::string& text, int percent) override;
     void hideProgress() override;
 
@@ -63,7 +66,8 @@ private:
             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton);
     QString startFolder() const;
     std::optional<std::string> chooseFile(QFileDialog::AcceptMode mode, const std::string& filter,
-                                          const std::string& proposed);
+                                          const std::string& proposed,
+                                          std::string* chosenFilter = nullptr);
 
     QPointer<QWidget> m_owner;
     std::function<std::string()> m_folderHint;

@@ -13,7 +13,7 @@ QImage RenderSurface(const ProjectModel& model, std::string_view state,
                      const RenderOptions& options) {
     ImageCache ownImages;
     ImageCache& images = options.images ? *options.images : ownImages;
-    images.setProjectFile(model.ProjectFileName);
+    images.setProjectFile(model.FileForRelativePaths());
     images.newPass();
 
     QImage surface = RenderBackground(model, images, options.noBackGround);

@@ -26,7 +26,7 @@ struct RenderOptions {
  * The whole applet area as the design window paints it in `state`: the background, then
  * buttons 1 to ButtonCount in z-order, each painted into its own picture and clipped to
  * it. Hidden buttons are shown, as the designer shows them. Relative image paths are
- * resolved beside the model's ProjectFileName.
+ * resolved beside the model's FileForRelativePaths().
  */
 QImage RenderSurface(const ProjectModel& model, std::string_view state,
                      const RenderOptions& options = {});

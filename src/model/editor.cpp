@@ -3,8 +3,10 @@
 #include "messages.h"
 #include "programfolder.h"
 #include "projectfile.h"
+#include "texthelpers.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace orvelin {
 
@@ -42,6 +44,15 @@ std::string ActionTitle(ButtonState state) {
         break;
     }
     return "Set Action: On Leaving Button...";
+}
+
+std::string ProjectSavePath(std::string_view chosen, std::string_view chosenFilter) {
+    const std::string_view projectFilter =
+        std::string_view(kProjectFilter).substr(0, std::string_view(kProjectFilter).find(";;"));
+    const std::string name = BareFileName(chosen);
+    if (chosenFilter != projectFilter || name.empty() || name.find('.', 1) != std::string::npos)
+        return std::string(chosen);
+    return std::string(chosen) + ".orv";
 }
 
 std::string ProjectPathFromCommandLine(std::string_view commandLine) {
@@ -139,17 +150,28 @@ bool Editor::Save() {
 bool Editor::SaveAs() {
     const std::string proposed =
         m_model.ProjectFileName.empty() ? kProposedProjectName : m_model.ProjectFileName;
-    const std::optional<std::string> path = m_ui.chooseSaveFile(kProjectFilter, proposed);
+    std::string filter;
+    const std::optional<std::string> chosen =
+        m_ui.chooseSaveFileAndFilter(kProjectFilter, proposed, filter);
     ApplyKeepOnTop();
-    if (!path || path->empty())
+    if (!chosen || chosen->empty())
         return false;
+    const std::string path = ProjectSavePath(*chosen, filter);
+    // The dialog asked about the name as typed; the added extension may name a file.
+    std::error_code ec;
+    if (path != *chosen && std::filesystem::exists(path, ec)) {
+        const MessageTable& msg = Messages();
+        if (m_ui.askOkCancel(path + msg[Msg::FileExists] + std::string(kCrLf) +
+                             msg[Msg::ReplaceQuestion]) != UserInterface::Answer::Ok)
+            return false;
+    }
     // The project keeps its old name when the new file could not be written, so that
     // the next save does not aim at a path known to fail.
-    if (!SaveProject(m_model, *path, m_ui))
+    if (!SaveProject(m_model, path, m_ui))
         return false;
-    m_model.ProjectFileName = *path;
-    m_view.SetCaption(MainTitle() + " " + *path);
-    m_recent.WriteRecent(*path);
+    m_model.ProjectFileName = path;
+    m_view.SetCaption(MainTitle() + " " + path);
+    m_recent.WriteRecent(path);
     return true;
 }
 
@@ -359,10 +381,11 @@ bool Editor::LoadFile(const std::string& path) {
     ClearProject();
     const bool loaded = LoadProject(m_model, path, m_ui);
     ShowLoadedProject();
-    if (loaded) {
-        m_view.SetCaption(MainTitle() + " " + path);
+    // A file read only in part has no name in the editor (saving it must not overwrite
+    // the rest of it), so neither has the title.
+    m_view.SetCaption(loaded ? MainTitle() + " " + path : MainTitle());
+    if (loaded)
         m_recent.WriteRecent(path);
-    }
     return loaded;
 }
 

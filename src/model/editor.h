@@ -32,6 +32,13 @@ inline constexpr const char* kLegacyProjectFilter = "Legacy Projects (*.ini);;Al
 inline constexpr const char* kProposedProjectName = "untitled.orv";
 
 /**
+ * The file a save-as writes: `chosen` with ".orv" added when its name has no extension
+ * (no "." after its first character) and the chosen filter is the project one, which is
+ * what the open dialog shows by default; otherwise `chosen` as it is.
+ */
+std::string ProjectSavePath(std::string_view chosen, std::string_view chosenFilter);
+
+/**
  * The main editor's commands as operations on the project: they change the model,
  * the button list's selection and the settings, ask the user through UserInterface,
  * and tell the design surface and the main window what to show. The windows only bind

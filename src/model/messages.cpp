@@ -110,6 +110,14 @@ const char* MessageTable::englishDefault(Msg id) {
     case Msg::NotSelectedNote:
         return " is not selected: its properties are shown, and edits go to the selected "
                "buttons only. Click it to edit it.";
+    case Msg::FileExists:
+        return " already exists.";
+    case Msg::ReplaceQuestion:
+        return "Do you want to replace it?";
+    case Msg::CharactersRemoved:
+        return "Characters that these fields cannot hold were removed:";
+    case Msg::AppletPrefix:
+        return "Applet";
     case Msg::Count:
         break;
     }

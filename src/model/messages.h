@@ -74,6 +74,11 @@ enum class Msg : std::size_t {
     UrlBarEncoded,
     CharacterReference, ///< after the reference in quotes
     WrongBox,           ///< followed by the name of Move's box
+    // Save as, loading.
+    FileExists,      ///< after the file's path
+    ReplaceQuestion, ///< on the line after FileExists
+    CharactersRemoved,
+    AppletPrefix, ///< names the applet where ButtonPrefix names a button
     Count
 };
 

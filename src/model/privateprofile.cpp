@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <unordered_set>
 #include <vector>
 
 namespace orvelin {
@@ -39,8 +40,9 @@ struct ProfileLine {
     std::string_view value;
 };
 
-std::vector<ProfileLine> scanLines(std::string_view text) {
-    std::vector<ProfileLine> lines;
+// Calls `visit` with each line of `text` in order until it returns false. Nothing is
+// kept per line: a file of millions of empty lines costs no memory beyond its text.
+template <typename Visit> void forEachLine(std::string_view text, Visit visit) {
     std::size_t start = 0;
     while (start < text.size()) {
         ProfileLine line;
@@ -64,10 +66,10 @@ std::vector<ProfileLine> scanLines(std::string_view text) {
                 line.value = trimBlanks(content.substr(eq + 1));
             }
         }
-        lines.push_back(line);
+        if (!visit(line))
+            return;
         start = line.next;
     }
-    return lines;
 }
 
 bool sameName(std::string_view a, std::string_view b) {
@@ -79,12 +81,34 @@ bool sameName(std::string_view a, std::string_view b) {
 PrivateProfile PrivateProfile::fromText(std::string_view text) {
     PrivateProfile profile;
     std::optional<std::string_view> section;
-    for (const ProfileLine& line : scanLines(text)) {
+    forEachLine(text, [&](const ProfileLine& line) {
         if (line.kind == ProfileLine::Kind::Section)
             section = line.name;
         else if (line.kind == ProfileLine::Kind::Value && section)
             profile.m_values.emplace(lookupKey(*section, line.name), std::string(line.value));
-    }
+        return true;
+    });
+    return profile;
+}
+
+PrivateProfile PrivateProfile::fromText(std::string_view text, std::string_view section,
+                                        const std::vector<std::string>& keys) {
+    std::unordered_set<std::string> wanted;
+    for (const std::string& key : keys)
+        wanted.insert(lookupKey(section, key));
+    PrivateProfile profile;
+    bool inSection = false;
+    std::string name;
+    forEachLine(text, [&](const ProfileLine& line) {
+        if (line.kind == ProfileLine::Kind::Section) {
+            inSection = sameName(line.name, trimBlanks(section));
+        } else if (line.kind == ProfileLine::Kind::Value && inSection) {
+            name = lookupKey(section, line.name);
+            if (wanted.count(name) != 0)
+                profile.m_values.emplace(name, std::string(line.value));
+        }
+        return true;
+    });
     return profile;
 }
 
@@ -114,44 +138,47 @@ std::string PrivateProfile::withValue(std::string_view text, std::string_view se
             ? std::string_view("\r\n")
             : std::string_view("\n");
 
-    const std::vector<ProfileLine> lines = scanLines(text);
     bool inSection = false;
     bool inFirstSection = false;
-    // A new key goes after the last value line of the first matching section.
-    std::optional<std::size_t> insertAfter;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const ProfileLine& line = lines[i];
+    // A new key goes after the last value line of the first matching section: `insertAt`
+    // is where the line after it starts.
+    std::optional<std::size_t> insertAt;
+    std::optional<std::string> rewritten;
+    forEachLine(text, [&](const ProfileLine& line) {
         if (line.kind == ProfileLine::Kind::Section) {
             inSection = sameName(line.name, section);
-            inFirstSection = inSection && !insertAfter;
+            inFirstSection = inSection && !insertAt;
             if (inFirstSection)
-                insertAfter = i;
-            continue;
+                insertAt = line.next;
+            return true;
         }
         if (!inSection || line.kind != ProfileLine::Kind::Value)
-            continue;
+            return true;
         if (sameName(line.name, key)) {
-            std::string out(text.substr(0, line.begin));
-            out.append(line.name).append("=").append(value);
-            out.append(text.substr(line.end));
-            return out;
+            rewritten.emplace(text.substr(0, line.begin));
+            rewritten->append(line.name).append("=").append(value);
+            rewritten->append(text.substr(line.end));
+            return false;
         }
         if (inFirstSection)
-            insertAfter = i;
-    }
+            insertAt = line.next;
+        return true;
+    });
+    if (rewritten)
+        return std::move(*rewritten);
 
     std::string out;
-    std::size_t at = text.size();
+    const std::size_t at = insertAt.value_or(text.size());
     std::string addition;
-    if (insertAfter) {
-        at = lines[*insertAfter].next;
-    } else {
+    if (!insertAt)
         addition.append("[").append(section).append("]").append(lineBreak);
-    }
     addition.append(key).append("=").append(value).append(lineBreak);
     out.append(text.substr(0, at));
-    // The line we add after may be the text's last one, without a line break.
-    if (at > 0 && out.back() != '\n')
+    // The line we add after may be the text's last one, without a line break, or ended
+    // by a lone CR, which the reader counts as no part of the value: a LF completes it.
+    if (at > 0 && out.back() == '\r')
+        out.append("\n");
+    else if (at > 0 && out.back() != '\n')
         out.append(lineBreak);
     out.append(addition);
     out.append(text.substr(at));

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace orvelin {
 
@@ -22,6 +23,10 @@ public:
 
     /// Parses UTF-8 text; CR LF and lone LF both end a line.
     static PrivateProfile fromText(std::string_view text);
+    /// Only `keys` of `section` are kept, so that what is held stays bounded by what
+    /// the caller asks for, whatever the text holds besides.
+    static PrivateProfile fromText(std::string_view text, std::string_view section,
+                                   const std::vector<std::string>& keys);
 
     /**
      * Reads a file (UTF-8 or Windows-1252). A file that cannot be read gives an empty

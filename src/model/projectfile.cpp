@@ -150,8 +150,12 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
     const std::optional<std::string> text = ReadTextFile(path, &fileError);
     if (!text)
         return LoadError{0, fileError.description};
+    model.LoadedFrom = path;
     bool lastTerminated = true;
-    const std::vector<std::string_view> lines = SplitLines(*text, &lastTerminated);
+    // The header, the applet line and the most buttons a file can hold: the lines after
+    // them are not the project's, and however many there are they cost nothing.
+    const std::vector<std::string_view> lines =
+        SplitLines(*text, &lastTerminated, static_cast<std::size_t>(kLastButtonSlot) + 2);
     // The file is read as a stream: a last line that the file cuts off before its
     // line break counts only when all its separators are there.
     const auto complete = [&](std::size_t index, std::size_t separators) {
@@ -214,14 +218,32 @@ constexpr std::array<LegacyKey, 34> kLegacyButtonKeys = {{
 }};
 // clang-format on
 
+constexpr std::array<const char*, 9> kLegacyAppletKeys = {
+    "Version",     "ButtonCount",  "BackGround", "Behaviour",   "DOWNBtn",
+    "AppletWidth", "AppletHeight", "BackImg",    "BackImgStyle"};
+
+// Every key the legacy reader may ask for: the profile keeps no others.
+const std::vector<std::string>& legacyKeys() {
+    static const std::vector<std::string> keys = [] {
+        std::vector<std::string> all(kLegacyAppletKeys.begin(), kLegacyAppletKeys.end());
+        for (int i = 1; i <= kLastButtonSlot; ++i)
+            for (const LegacyKey& key : kLegacyButtonKeys)
+                all.push_back(std::string(ButtonFields()[static_cast<std::size_t>(key.pos)].name) +
+                              "_" + std::to_string(i));
+        return all;
+    }();
+    return keys;
+}
+
 std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::string& path,
                                            UserInterface& ui) {
     TextFileError fileError;
     const std::optional<std::string> text = ReadTextFile(path, &fileError);
     if (!text)
         return LoadError{0, fileError.description};
-    const PrivateProfile profile = PrivateProfile::fromText(*text);
+    model.LoadedFrom = path;
     constexpr std::string_view section = "Buttons";
+    const PrivateProfile profile = PrivateProfile::fromText(*text, section, legacyKeys());
     profile.value(section, "Version", "-1"); // read by the old format, used by no one
 
     struct AppletKey {
@@ -267,15 +289,62 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
     return std::nullopt;
 }
 
-// Shared end of both readers: keep what was read completely and tell the user.
+constexpr std::size_t kCleanedLinesShown = 10;
+
+/**
+ * Removes from the loaded applet fields and buttons what their fields cannot hold (a
+ * damaged or hand-made file may put a double quote into a font name, which would end
+ * its parameter in every page built). Returns one line per place that changed, such
+ * as "Button 3: FontUP, URL".
+ */
+std::vector<std::string> cleanLoadedFields(ProjectModel& model) {
+    std::vector<std::string> lines;
+    const MessageTable& msg = Messages();
+    const std::pair<std::string*, const char*> appletTexts[] = {
+        {&model.BackImg, "BackImg"},
+        {&model.AppletProgramOVER, "AppletProgramOVER"},
+        {&model.AppletProgramDOWN, "AppletProgramDOWN"},
+        {&model.AppletProgramOUT, "AppletProgramOUT"},
+        {&model.AppletProgramStart, "AppletProgramStart"},
+        {&model.AppletName, "AppletName"}};
+    std::string names;
+    for (const auto& [text, name] : appletTexts) {
+        const FieldKind kind = text == &model.BackImg ? FieldKind::File : FieldKind::Raw;
+        if (CleanFieldInPlace(kind, *text))
+            names += (names.empty() ? "" : ", ") + std::string(name);
+    }
+    if (!names.empty())
+        lines.push_back(msg[Msg::AppletPrefix] + ": " + names);
+    for (int i = 1; i <= model.ButtonCount; ++i) {
+        names.clear();
+        for (const int pos : CleanTextFields(model.Button(i)))
+            names += (names.empty() ? "" : ", ") +
+                     std::string(ButtonFields()[static_cast<std::size_t>(pos)].name);
+        if (!names.empty())
+            lines.push_back(msg[Msg::ButtonPrefix] + std::to_string(i) + ": " + names);
+    }
+    return lines;
+}
+
+// Shared end of both readers: keep what was read completely, clean it and tell the user.
 bool finishLoad(ProjectModel& model, const std::string& path, UserInterface& ui,
                 const std::optional<LoadError>& error) {
     ui.hideProgress();
-    if (error) {
+    if (error)
         model.ButtonCount = static_cast<std::int16_t>(error->button >= 2 ? error->button - 1 : 0);
-        ui.showMessage(Messages()[Msg::ErrorLoading] + std::string(kCrLf) + error->cause);
-        return false;
+    const std::vector<std::string> cleaned = cleanLoadedFields(model);
+    if (error)
+        ui.showWarning(Messages()[Msg::ErrorLoading] + std::string(kCrLf) + error->cause);
+    if (!cleaned.empty()) {
+        std::string text = Messages()[Msg::CharactersRemoved];
+        for (std::size_t i = 0; i < cleaned.size() && i < kCleanedLinesShown; ++i)
+            text.append(kCrLf).append(cleaned[i]);
+        if (cleaned.size() > kCleanedLinesShown)
+            text.append(kCrLf).append("...");
+        ui.showWarning(text);
     }
+    if (error)
+        return false;
     model.Saved = true;
     model.ProjectFileName = path;
     return true;
@@ -285,6 +354,9 @@ void startLoad(ProjectModel& model, UserInterface& ui) {
     ui.showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::LoadingProject], -1);
     model.ButtonCount = 0;
     model.CurrentButton = 0;
+    // Until the new file gives content, what is shown (the applet's background) is
+    // still the old project's, and so is the folder its relative paths are read from.
+    model.LoadedFrom = model.FileForRelativePaths();
     model.ProjectFileName.clear();
 }
 
@@ -344,10 +416,11 @@ std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
 bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui) {
     ui.showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::SavingButtonsToFile], -1);
     const std::string text = ProjectText(model, &ui);
-    const bool written = WriteFileAtomically(path, text);
+    TextFileError error;
+    const bool written = WriteFileAtomically(path, text, &error);
     ui.hideProgress();
     if (!written) {
-        ui.showMessage(Messages()[Msg::ErrorSaving]);
+        ui.showWarning(WithSystemCause(Messages()[Msg::ErrorSaving], error));
         return false;
     }
     model.Saved = true;

@@ -19,6 +19,7 @@ void ProjectModel::Reset() {
     AppletProgramDOWN.clear();
     AppletProgramOUT.clear();
     ProjectFileName.clear();
+    LoadedFrom.clear();
     Saved = true;
 }
 

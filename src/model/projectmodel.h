@@ -41,8 +41,17 @@ struct ProjectModel {
     std::int16_t CurrentButton = 0;
     std::string CurrentState = "UP";
     std::string ProjectFileName;
+    /// The file a reader last took content from, named or not (a load that failed part
+    /// way keeps the buttons read so far but no file name).
+    std::string LoadedFrom;
     bool Saved = true;
     bool Updating = false;
+
+    /// The file beside which relative image and sound paths are looked up: the project's
+    /// file, else the one whose content is shown; "" for none.
+    const std::string& FileForRelativePaths() const {
+        return ProjectFileName.empty() ? LoadedFrom : ProjectFileName;
+    }
 
     /// Button `index`; an index outside 0 to 102 throws std::out_of_range.
     ButtonRecord& Button(int index) { return Buttons.at(static_cast<std::size_t>(index)); }

@@ -1,13 +1,13 @@
 #include "textfile.h"
 
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <random>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -18,9 +18,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void report(TextFileError* error, std::string description) {
-    if (error)
+void report(TextFileError* error, std::string description, int code = 0) {
+    if (error) {
         error->description = std::move(description);
+        error->code = code;
+    }
 }
 
 // Length of the UTF-8 sequence starting at `i`, or 0 when the bytes there are not
@@ -171,22 +173,64 @@ bool readAll(int fd, std::string& bytes) {
     return true;
 }
 
-// Creates a new, empty temporary file beside `target`; -1 when the folder refuses it.
+constexpr std::string_view kTemporaryMark = ".orvelin-save-";
+constexpr std::size_t kTemporaryTail = 6;
+constexpr std::string_view kTemporaryLetters =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+
+// ".<name>.orvelin-save-": what every temporary file of `target` starts with.
+std::string temporaryPrefix(const fs::path& target) {
+    return "." + target.filename().string() + std::string(kTemporaryMark);
+}
+
+// Creates a new, empty temporary file beside `target`, locked for as long as it is open;
+// -1 when the folder refuses it.
 int createTemporary(const fs::path& target, fs::path& temporary) {
-    static std::atomic<unsigned> counter{0};
     std::random_device entropy;
     for (int attempt = 0; attempt < 16; ++attempt) {
-        const std::string suffix = std::to_string(::getpid()) + "-" +
-                                   std::to_string(counter.fetch_add(1)) + "-" +
-                                   std::to_string(entropy() % 1000000u);
+        std::string name = temporaryPrefix(target);
+        for (std::size_t i = 0; i < kTemporaryTail; ++i)
+            name += kTemporaryLetters[entropy() % kTemporaryLetters.size()];
         temporary = target;
-        temporary.replace_filename("." + target.filename().string() + ".tmp-" + suffix);
+        temporary.replace_filename(name);
         const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (fd >= 0 || errno != EEXIST)
+        if (fd < 0 && errno != EEXIST)
             return fd;
+        if (fd < 0)
+            continue;
+        // Another save's clean-up may have taken the file before the lock was ours.
+        struct stat opened {};
+        struct stat named {};
+        if (::flock(fd, LOCK_EX) == 0 && ::fstat(fd, &opened) == 0 &&
+            ::stat(temporary.c_str(), &named) == 0 && opened.st_ino == named.st_ino &&
+            opened.st_dev == named.st_dev)
+            return fd;
+        ::close(fd);
     }
     errno = EEXIST;
     return -1;
+}
+
+// Removes the temporary files of `target` that killed saves left behind. A file that
+// another save is still writing is locked and stays; so does every other file.
+void removeStaleTemporaries(const fs::path& target) {
+    const std::string prefix = temporaryPrefix(target);
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    std::error_code ec;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ec)) {
+        const std::string name = entry.path().filename().string();
+        if (name.size() != prefix.size() + kTemporaryTail ||
+            name.compare(0, prefix.size(), prefix) != 0 ||
+            name.find_first_not_of(kTemporaryLetters, prefix.size()) != std::string::npos)
+            continue;
+        const int fd = ::open(entry.path().c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+        if (fd < 0)
+            continue;
+        struct stat info {};
+        if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode) && ::flock(fd, LOCK_EX | LOCK_NB) == 0)
+            ::unlink(entry.path().c_str());
+        ::close(fd);
+    }
 }
 
 } // namespace
@@ -239,11 +283,12 @@ std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* 
     return ToUtf8(bytes);
 }
 
-std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTerminated) {
+std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTerminated,
+                                         std::size_t maxLines) {
     std::vector<std::string_view> lines;
     std::size_t start = 0;
     bool terminated = true;
-    while (start < text.size()) {
+    while (start < text.size() && lines.size() < maxLines) {
         const std::size_t lf = text.find('\n', start);
         if (lf == std::string_view::npos) {
             lines.push_back(text.substr(start));
@@ -263,7 +308,7 @@ std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTermin
 
 bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFileError* error) {
     if (path.empty()) {
-        report(error, "Bad file name or number");
+        report(error, "Bad file name or number", ENOENT);
         return false;
     }
     std::error_code ec;
@@ -277,30 +322,31 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFi
     const fs::file_status existing = fs::status(target, ec);
     const bool exists = fs::exists(existing);
     if (exists && !fs::is_regular_file(existing)) {
-        report(error, "Path/File access error");
+        report(error, "Path/File access error", fs::is_directory(existing) ? EISDIR : EINVAL);
         return false;
     }
     // The mode bits decide, not access(): a privileged user would be allowed to
     // overwrite a file its owner marked read-only, and the user asked for it not to be.
     if (exists && !hasWriteBit(existing.permissions())) {
-        report(error, "Permission denied");
+        report(error, "Permission denied", EACCES);
         return false;
     }
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     const fs::file_status folderStatus = fs::status(folder, ec);
     if (!fs::is_directory(folderStatus)) {
-        report(error, "Path not found");
+        report(error, "Path not found", fs::exists(folderStatus) ? ENOTDIR : ENOENT);
         return false;
     }
     if (!hasWriteBit(folderStatus.permissions())) {
-        report(error, "Permission denied");
+        report(error, "Permission denied", EACCES);
         return false;
     }
 
     fs::path temporary;
     const int fd = createTemporary(target, temporary);
     if (fd < 0) {
-        report(error, errnoText(errno));
+        const int failure = errno;
+        report(error, errnoText(failure), failure);
         return false;
     }
     // The text is on the disk before the rename, so a crash leaves the old file or the
@@ -310,20 +356,28 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFi
     // The new file gets the old one's permissions, so replacing it changes only its text.
     if (ok && exists)
         ::fchmod(fd, static_cast<mode_t>(existing.permissions() & fs::perms::mask));
-    if (::close(fd) != 0 && ok) {
-        ok = false;
-        failure = errno;
-    }
+    // Renamed while still open, so the lock keeps other saves' clean-up away from it.
     if (ok && ::rename(temporary.c_str(), target.c_str()) != 0) {
         ok = false;
         failure = errno;
     }
+    ::close(fd);
     if (!ok) {
         ::unlink(temporary.c_str());
-        report(error, errnoText(failure));
+        report(error, errnoText(failure), failure);
         return false;
     }
+    removeStaleTemporaries(target);
     return true;
+}
+
+std::string TextFileError::SystemText() const {
+    return code != 0 ? std::generic_category().message(code) : std::string();
+}
+
+std::string WithSystemCause(const std::string& message, const TextFileError& error) {
+    const std::string cause = error.SystemText();
+    return cause.empty() ? message : message + "\r\n" + cause;
 }
 
 } // namespace orvelin

@@ -32,6 +32,14 @@ public:
     virtual std::optional<std::string> chooseOpenFile(const std::string& filter) = 0;
     virtual std::optional<std::string> chooseSaveFile(const std::string& filter,
                                                       const std::string& proposed) = 0;
+    /// The save chooser that also tells which entry of `filter` the user had chosen, in
+    /// its text ("Orvelin Files (*.orv)"); this default knows none and leaves it empty.
+    virtual std::optional<std::string> chooseSaveFileAndFilter(const std::string& filter,
+                                                               const std::string& proposed,
+                                                               std::string& chosenFilter) {
+        chosenFilter.clear();
+        return chooseSaveFile(filter, proposed);
+    }
 
     /// The modeless progress window with the busy pointer; `percent` is -1 for none.
     virtual void showProgress(const std::string& title, const std::string& text, int percent) = 0;

@@ -21,7 +21,8 @@ const std::string kParams = "1.0  Beta 6\\Params";
 const std::string kLimitMessage = "Can't create more buttons on one applet.\r\n"
                                   "You may use two applets and put them on one page instead.";
 const std::string kSaveError =
-    "Error Saving Buttons. File may be Read Only, Hidden or used by another application.";
+    "Error Saving Buttons. File may be Read Only, Hidden or used by another application.\r\n"
+    "No such file or directory";
 
 struct EditorFixture : ::testing::Test {
     ProjectModel model;
@@ -87,6 +88,16 @@ TEST(EditorText, CommandLinePathDropsBlanksAndSurroundingQuotesAndTitlesNameTheS
         EXPECT_EQ(ProjectPathFromCommandLine(line), path) << line;
     EXPECT_STREQ(AskToSaveText(SaveAnswer::Saved), "SAVED");
     EXPECT_STREQ(AskToSaveText(SaveAnswer::Cancel), "CANCEL");
+}
+
+TEST(EditorText, SaveAsAddsTheProjectExtensionToANameWithoutOneUnderTheProjectFilter) {
+    const std::string orv = "Orvelin Files (*.orv)";
+    const std::tuple<const char*, std::string, const char*> names[] = {
+        {"/a/mybar", orv, "/a/mybar.orv"},           {"/a.b/mybar", orv, "/a.b/mybar.orv"},
+        {"/a/.hidden", orv, "/a/.hidden.orv"},       {"/a/my.bar", orv, "/a/my.bar"},
+        {"/a/mybar", "All Files (*.*)", "/a/mybar"}, {"/a/mybar", "", "/a/mybar"}};
+    for (const auto& [chosen, filter, path] : names)
+        EXPECT_EQ(ProjectSavePath(chosen, filter), path) << chosen << " " << filter;
 }
 
 TEST_F(EditorFixture, StartupWithAnEmptyStoreShowsOneSavedButton) {
@@ -357,16 +368,24 @@ TEST_F(EditorFixture, OpenLoadsTheChosenFileAndShowsButton1AloneUnlessCancelled)
 
 TEST_F(EditorFixture, AFileCutOffKeepsTheButtonsReadSoFarInListAndSurface) {
     Start();
+    const std::string good = WriteProject("good", 1);
+    fs::create_directory(folder.dir() / "sub");
     const std::string text = folder.read(fs::path(WriteProject("cut", 5)).filename());
     const std::string path = folder.write(
-        "cut.orv", text.substr(0, text.rfind("\r\n", text.find("cut5")) + 2) + "0|0|107|");
-    ui.chosenFiles = {path};
+        "sub/cut.orv", text.substr(0, text.rfind("\r\n", text.find("cut5")) + 2) + "0|0|107|");
+    ui.chosenFiles = {good, path, PathOf("missing.orv")};
+    editor.Open();
     editor.Open();
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
     EXPECT_EQ(design.count("LoadButton 4") + design.count("LoadButton 5"), 1);
     EXPECT_EQ(ui.messages(), Texts{"Error loading project.\r\nInput past end of file"});
+    // What is shown has no file name, and its images are found beside the file it is from.
     EXPECT_EQ(model.ProjectFileName, "");
-    EXPECT_EQ(settings.RecentFile(1), "-1");
+    EXPECT_EQ(view.caption, kTitle);
+    EXPECT_EQ(model.FileForRelativePaths(), path);
+    EXPECT_EQ(settings.RecentFile(1), good);
+    editor.Open(); // a file that cannot be read replaces nothing the surface shows
+    EXPECT_EQ(model.FileForRelativePaths(), path);
 }
 
 TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
@@ -393,6 +412,20 @@ TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
     EXPECT_EQ(ui.shown[0].title, PathOf("first.orv"));
     EXPECT_EQ(model.ProjectFileName, PathOf("first.orv"));
     EXPECT_FALSE(model.Saved);
+
+    // "first" names "first.orv", which the dialog did not ask about: the editor asks.
+    const std::string before = folder.read("first.orv");
+    ui.shown.clear();
+    ui.chosenFiles = {PathOf("first"), PathOf("first")};
+    ui.answers = {Answer::Cancel, Answer::Ok};
+    model.AppletWidth = 99;
+    EXPECT_FALSE(editor.SaveAs());
+    EXPECT_EQ(folder.read("first.orv"), before);
+    EXPECT_EQ(ui.shown[1].text,
+              PathOf("first.orv") + " already exists.\r\nDo you want to replace it?");
+    EXPECT_TRUE(editor.SaveAs());
+    EXPECT_NE(folder.read("first.orv"), before);
+    EXPECT_FALSE(fs::exists(PathOf("first")));
 }
 
 TEST_F(EditorFixture, SavingFiveProjectsThenReopeningTheThirdLeavesTheRecentList) {

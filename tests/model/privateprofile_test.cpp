@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <random>
 #include <string>
 #include <tuple>
 
@@ -56,6 +58,35 @@ TEST(PrivateProfile, WritingAValueChangesOnlyItsLineOrAddsWhereItBelongs) {
         PrivateProfile::withValue(kProgramIni, "Global", "chkNoBackGround", "1\r\ninjected=1"));
     EXPECT_EQ(p.value("Global", "chkNoBackGround", "d"), "1");
     EXPECT_FALSE(p.contains("Global", "injected"));
+}
+
+TEST(PrivateProfile, WritingOneKeyLeavesEveryOtherValueAsItWasRead) {
+    // Texts pieced together from section lines, value lines, blanks and every kind of
+    // line end (a lone CR at the end included); after writing one key, every other key
+    // reads as before.
+    const char* pieces[] = {"[Global]", "[other]", "k=1", "j = two ", "K=3", "; c=4", "v=",
+                            "x",        "\r\n",    "\n",  "\r",       " ",   "\r\n",  "\n"};
+    const char* keys[] = {"k", "j", "v", "c", "new"};
+    std::mt19937 random(8);
+    for (int round = 0; round < 2000; ++round) {
+        std::string text;
+        for (int n = std::uniform_int_distribution<int>(0, 12)(random); n > 0; --n)
+            text += pieces[random() % std::size(pieces)];
+        const std::string key = keys[random() % std::size(keys)];
+        const PrivateProfile before = PrivateProfile::fromText(text);
+        const PrivateProfile after =
+            PrivateProfile::fromText(PrivateProfile::withValue(text, "Global", key, "w"));
+        for (const char* section : {"Global", "Other"})
+            for (const char* other : keys)
+                EXPECT_EQ(after.value(section, other, "-"),
+                          std::string(section) == "Global" && other == key
+                              ? "w"
+                              : before.value(section, other, "-"))
+                    << section << "/" << other << " after writing " << key << " into\n"
+                    << text;
+        if (::testing::Test::HasFailure())
+            break;
+    }
 }
 
 TEST(PrivateProfile, WritesAFileSafely) {

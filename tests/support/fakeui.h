@@ -47,6 +47,14 @@ public:
         shown.push_back({"save", filter, proposed});
         return nextFile();
     }
+    /// The filter the user picks in save dialogs.
+    std::string chosenFilter = "Orvelin Files (*.orv)";
+    std::optional<std::string> chooseSaveFileAndFilter(const std::string& filter,
+                                                       const std::string& proposed,
+                                                       std::string& chosen) override {
+        chosen = chosenFilter;
+        return chooseSaveFile(filter, proposed);
+    }
     void showProgress(const std::string& title, const std::string& text, int percent) override {
         ++progressShows;
         progressVisible = true;
