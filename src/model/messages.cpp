@@ -87,6 +87,11 @@ const char* MessageTable::englishDefault(Msg id) {
         return "The default button and the advanced options will get their original values.";
     case Msg::IniWriteFailed:
         return "Unable to write registry or .ini file value.";
+    case Msg::PageNotWritten:
+        return "Can't write the page ";
+    case Msg::PageNotOpened:
+        return " could not be opened in a browser. Choose another browser in the list next "
+               "to \"Test in Browser\", or add yours to the list with the button beside it.";
     case Msg::Count:
         break;
     }

@@ -63,6 +63,9 @@ enum class Msg : std::size_t {
     // Design surface dialogs.
     RestoreDefaultsQuestion,
     IniWriteFailed,
+    // Publishing, later additions.
+    PageNotWritten, ///< followed by the page's path, ": " and the reason
+    PageNotOpened,  ///< after the page's path
     Count
 };
 
