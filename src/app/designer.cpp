@@ -83,7 +83,7 @@ void Designer::connectWindows() {
 void Designer::showHtml() {
     // Made on first use: most sessions never look at the code.
     if (!m_html)
-        m_html = std::make_unique<FrmHTML>(m_model, m_ui);
+        m_html = std::make_unique<FrmHTML>(m_model, m_ui, m_settings, m_shell);
     m_html->showAndGenerate();
 }
 

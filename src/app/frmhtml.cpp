@@ -1,8 +1,13 @@
 #include "frmhtml.h"
 
+#include "frmbrowsersetup.h"
 #include "htmlgenerator.h"
+#include "publishing.h"
+#include "windowgeometry.h"
 
 #include <QClipboard>
+#include <QCloseEvent>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -14,9 +19,23 @@
 
 namespace orvelin {
 
-FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, QWidget* parent)
-    : QWidget(parent, Qt::Window), m_model(model), m_ui(ui) {
-    setObjectName(QStringLiteral("frmHTML"));
+namespace {
+
+const QString kFormName = QStringLiteral("frmHTML");
+
+QPushButton* Command(const char* name, const QString& text, QWidget* parent) {
+    auto* button = new QPushButton(text, parent);
+    button->setObjectName(QString::fromLatin1(name));
+    return button;
+}
+
+} // namespace
+
+FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, Shell& shell,
+                 QWidget* parent)
+    : QWidget(parent, Qt::Window), m_model(model), m_ui(ui), m_settings(settings), m_shell(shell),
+      m_places(BrowserSearchPlaces::FromEnvironment()) {
+    setObjectName(kFormName);
     setWindowTitle(tr("Applet Code"));
 
     auto* nameLabel = new QLabel(tr("Applet Name:"), this);
@@ -31,64 +50,128 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, QWidget* parent)
     m_txtHTML->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_txtHTML->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
-    m_btnReGenerate = new QPushButton(tr("Re&generate"), this);
-    m_btnReGenerate->setObjectName(QStringLiteral("btnReGenerate"));
-    m_btnCopyToClb = new QPushButton(tr("&Copy To ClipBoard"), this);
-    m_btnCopyToClb->setObjectName(QStringLiteral("btnCopyToClb"));
-    auto* close = new QPushButton(tr("Close"), this);
+    QPushButton* preview = Command("btnPreview", tr("Test in &Browser"), this);
+    m_cmbBrowser = new QComboBox(this);
+    m_cmbBrowser->setObjectName(QStringLiteral("cmbBrowser"));
+    m_cmbBrowser->setMinimumContentsLength(14);
+    QPushButton* browsers = Command("btnBrowsers", tr("..."), this);
+    browsers->setToolTip(tr("Edit the list of browsers"));
+    browsers->setMaximumWidth(32);
+    QPushButton* regenerate = Command("btnReGenerate", tr("Re&generate"), this);
+    QPushButton* copy = Command("btnCopyToClb", tr("&Copy To ClipBoard"), this);
+    QPushButton* save = Command("btnSave", tr("&Build Applet ..."), this);
+    save->setToolTip(tr("Build Applet with All files"));
+    QPushButton* close = Command("btnClose", tr("Close"), this);
 
     auto* top = new QHBoxLayout;
     top->addWidget(nameLabel);
     top->addWidget(m_txtAppletName, 1);
     auto* commands = new QHBoxLayout;
-    commands->addWidget(m_btnReGenerate);
-    commands->addWidget(m_btnCopyToClb);
+    commands->addWidget(preview);
+    commands->addWidget(m_cmbBrowser);
+    commands->addWidget(browsers);
+    commands->addSpacing(12);
+    commands->addWidget(regenerate);
+    commands->addWidget(copy);
+    commands->addWidget(save);
     commands->addStretch(1);
     commands->addWidget(close);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addWidget(m_txtHTML, 1);
     layout->addLayout(commands);
-    resize(760, 420);
+    resize(860, 440);
 
     // The box keeps what was typed; the model takes the safe form at every key.
     connect(m_txtAppletName, &QLineEdit::textEdited, this, [this] { txtAppletName_KeyUp(); });
-    connect(m_btnReGenerate, &QPushButton::clicked, this, [this] { MakeHTML(); });
-    connect(m_btnCopyToClb, &QPushButton::clicked, this, [this] { btnCopyToClb_Click(); });
+    connect(preview, &QPushButton::clicked, this, [this] { btnPreview_Click(); });
+    connect(m_cmbBrowser, &QComboBox::activated, this, [this](int i) { cmbBrowser_Click(i); });
+    connect(browsers, &QPushButton::clicked, this, [this] { btnBrowsers_Click(); });
+    connect(regenerate, &QPushButton::clicked, this, [this] { MakeHTML(); });
+    connect(copy, &QPushButton::clicked, this, [this] { btnCopyToClb_Click(); });
+    connect(save, &QPushButton::clicked, this, [this] { btnSave_Click(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
+}
+
+void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {
+    m_places = std::move(places);
+    m_browsers.clear();
 }
 
 void FrmHTML::MakeHTML() {
     const GeneratedHtml html = orvelin::MakeHTML(m_model, &m_ui);
+    m_code = html.text;
     m_usesJavaScript = html.usesJavaScript;
     m_txtAppletName->setText(QString::fromStdString(m_model.AppletName));
-    // The box shows lines; the CR LF line ends come back when the code is copied.
+    // The box shows lines; the code keeps its CR LF line ends for copying and pages.
     QString shown = QString::fromStdString(html.text);
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     m_txtHTML->setPlainText(shown);
 }
 
 void FrmHTML::showAndGenerate() {
+    if (!m_placed) {
+        m_placed = true;
+        RestoreWindowGeometry(*this, m_settings, kFormName);
+    }
+    if (m_browsers.empty())
+        loadBrowsers();
     show();
     raise();
     activateWindow();
     MakeHTML();
 }
 
-QString FrmHTML::code() const {
-    QString text = m_txtHTML->toPlainText();
-    text.replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
-    return text;
+void FrmHTML::closeEvent(QCloseEvent* event) {
+    if (m_placed)
+        SaveWindowGeometry(*this, m_settings, kFormName);
+    QWidget::closeEvent(event);
+}
+
+void FrmHTML::loadBrowsers() {
+    m_browsers = LoadBrowsers(m_settings, m_places);
+    m_cmbBrowser->clear();
+    for (const BrowserEntry& entry : m_browsers)
+        m_cmbBrowser->addItem(QString::fromStdString(entry.name));
+    m_cmbBrowser->setCurrentIndex(SelectedBrowser(m_settings, m_browsers.size()));
 }
 
 void FrmHTML::txtAppletName_KeyUp() {
     SetAppletNameFromBox(m_model, m_txtAppletName->text().toStdString());
 }
 
+void FrmHTML::btnPreview_Click() {
+    if (m_browsers.empty())
+        loadBrowsers();
+    const int position = std::max(0, m_cmbBrowser->currentIndex());
+    // The first entry is the desktop's default browser, whatever program it lists.
+    const std::string program =
+        position == 0 ? std::string() : m_browsers[static_cast<std::size_t>(position)].program;
+    PreviewPage(m_model, {m_code, m_usesJavaScript}, program, m_ui, m_shell);
+}
+
+void FrmHTML::btnSave_Click() {
+    BuildApplet(m_model, {m_code, m_usesJavaScript}, m_ui);
+}
+
 void FrmHTML::btnCopyToClb_Click() {
     QClipboard* clipboard = QGuiApplication::clipboard();
     clipboard->clear();
     clipboard->setText(code());
+}
+
+void FrmHTML::cmbBrowser_Click(int position) {
+    SetSelectedBrowser(m_settings, position);
+}
+
+void FrmHTML::btnBrowsers_Click() {
+    if (m_browsers.empty())
+        loadBrowsers();
+    FrmBrowserSetup dialog(m_browsers, m_places, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    SaveBrowsers(m_settings, dialog.browsers());
+    loadBrowsers();
 }
 
 } // namespace orvelin

@@ -18,6 +18,8 @@ inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
 
 int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int RunPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int RunBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 int RunResave(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #ifdef ORVELIN_CLI_RENDER
 int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
@@ -25,6 +27,8 @@ int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostr
 
 /// One paragraph per command for --help and usage errors.
 extern const char* const kHtmlUsage;
+extern const char* const kPageUsage;
+extern const char* const kBuildUsage;
 extern const char* const kResaveUsage;
 extern const char* const kRenderUsage;
 

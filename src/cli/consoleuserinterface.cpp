@@ -17,4 +17,10 @@ void ConsoleUserInterface::showMessage(const std::string& text, const std::strin
     m_err << '\n';
 }
 
+UserInterface::Answer ConsoleUserInterface::askOkCancel(const std::string& text,
+                                                        const std::string& title) {
+    showMessage(text, title);
+    return Answer::Ok;
+}
+
 } // namespace orvelin::cli

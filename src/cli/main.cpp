@@ -16,6 +16,8 @@ void printHelp(std::ostream& out) {
            "\n"
            "Commands:\n"
         << kHtmlUsage << '\n'
+        << kPageUsage << '\n'
+        << kBuildUsage << '\n'
         << kResaveUsage << '\n'
 #ifdef ORVELIN_CLI_RENDER
         << kRenderUsage << '\n'
@@ -34,7 +36,8 @@ void printHelp(std::ostream& out) {
            "Exit status:\n"
            "  0  done\n"
            "  1  a project could not be loaded or saved (or an image not rendered); the\n"
-           "     reason is on stderr and nothing is written to stdout\n"
+           "     reason is on stderr and nothing is written to stdout; for build, any\n"
+           "     message shown (a file not copied, the page not written)\n"
            "  2  wrong command line; a usage text is on stderr\n";
 }
 
@@ -70,6 +73,10 @@ int main(int argc, char** argv) {
     }
     if (command == "html")
         return RunHtml(args, std::cout, std::cerr);
+    if (command == "page")
+        return RunPage(args, std::cout, std::cerr);
+    if (command == "build")
+        return RunBuild(args, std::cout, std::cerr);
     if (command == "resave")
         return RunResave(args, std::cout, std::cerr);
 #ifdef ORVELIN_CLI_RENDER

@@ -1,25 +1,15 @@
 #include "imagecache.h"
 
 #include "imagefile.h"
+#include "programfolder.h"
 
 #include <QDir>
 #include <QFileInfo>
 
 namespace orvelin {
 
-namespace {
-
-QString NativePath(const std::string& path) {
-    QString text = QString::fromStdString(path);
-    text.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return text;
-}
-
-} // namespace
-
 void ImageCache::setProjectFile(const std::string& projectFileName) {
-    const QString folder =
-        projectFileName.empty() ? QString() : QFileInfo(NativePath(projectFileName)).absolutePath();
+    const QString folder = QString::fromStdString(ProjectFolderOf(projectFileName));
     if (folder == m_projectFolder)
         return;
     m_projectFolder = folder;
@@ -32,18 +22,7 @@ void ImageCache::clear() {
 }
 
 QString ImageCache::resolve(const std::string& path) const {
-    if (path.empty())
-        return {};
-    const QString text = NativePath(path);
-    if (QDir::isAbsolutePath(text))
-        return QFileInfo(text).isFile() ? text : QString();
-    if (!m_projectFolder.isEmpty()) {
-        const QString beside = QDir(m_projectFolder).filePath(text);
-        if (QFileInfo(beside).isFile())
-            return beside;
-    }
-    const QString here = QDir::current().absoluteFilePath(text);
-    return QFileInfo(here).isFile() ? here : QString();
+    return QString::fromStdString(ResolveStoredPath(path, m_projectFolder.toStdString()));
 }
 
 QImage ImageCache::image(const std::string& path) {

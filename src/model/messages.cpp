@@ -118,6 +118,11 @@ const char* MessageTable::englishDefault(Msg id) {
         return "Characters that these fields cannot hold were removed:";
     case Msg::AppletPrefix:
         return "Applet";
+    case Msg::PageNotWritten:
+        return "Can't write the page ";
+    case Msg::PageNotOpened:
+        return " could not be opened in a browser. Choose another browser in the list next "
+               "to \"Test in Browser\", or add yours to the list with the button beside it.";
     case Msg::Count:
         break;
     }

@@ -79,6 +79,9 @@ enum class Msg : std::size_t {
     ReplaceQuestion, ///< on the line after FileExists
     CharactersRemoved,
     AppletPrefix, ///< names the applet where ButtonPrefix names a button
+    // Publishing, later additions.
+    PageNotWritten, ///< followed by the page's path, ": " and the reason
+    PageNotOpened,  ///< after the page's path
     Count
 };
 

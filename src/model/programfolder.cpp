@@ -1,5 +1,6 @@
 #include "programfolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -31,6 +32,13 @@ fs::path executableFolder() {
     if (ec)
         return {};
     return exe.parent_path();
+}
+
+/// A stored path with "\" read as "/".
+fs::path withSlashes(std::string_view path) {
+    std::string out(path);
+    std::replace(out.begin(), out.end(), '\\', '/');
+    return out;
 }
 
 bool isWritableFolder(const std::string& folder) {
@@ -82,6 +90,30 @@ std::string FolderOf(std::string_view path) {
     if (last == std::string_view::npos)
         return {};
     return std::string(path.substr(0, last + 1));
+}
+
+std::string ProjectFolderOf(std::string_view projectFileName) {
+    if (projectFileName.empty())
+        return {};
+    std::error_code ec;
+    const fs::path file = fs::absolute(withSlashes(projectFileName), ec);
+    return ec ? std::string() : file.parent_path().lexically_normal().string();
+}
+
+std::string ResolveStoredPath(std::string_view stored, std::string_view projectFolder) {
+    if (stored.empty())
+        return {};
+    const fs::path path = withSlashes(stored);
+    std::error_code ec;
+    if (path.is_absolute())
+        return fs::is_regular_file(path, ec) ? path.string() : std::string();
+    if (!projectFolder.empty()) {
+        const fs::path beside = fs::path(projectFolder) / path;
+        if (fs::is_regular_file(beside, ec))
+            return beside.string();
+    }
+    const fs::path here = fs::absolute(path, ec);
+    return !ec && fs::is_regular_file(here, ec) ? here.string() : std::string();
 }
 
 std::string WritableProgramFolder() {

@@ -22,6 +22,17 @@ std::string JoinPath(std::string_view folder, std::string_view name);
 /// Everything up to and including the last "/" or "\" of `path` ("" without one).
 std::string FolderOf(std::string_view path);
 
+/// The absolute folder of a project file ("" for a project without a file).
+std::string ProjectFolderOf(std::string_view projectFileName);
+
+/**
+ * The file that an image or sound path stored in a project names, or "" when there is
+ * no such file. "\" counts as "/" (projects made on Windows); an absolute path stands
+ * as it is; a relative one is looked for in `projectFolder` first (see ProjectFolderOf),
+ * then in the current folder. The design window and publishing both find files here.
+ */
+std::string ResolveStoredPath(std::string_view stored, std::string_view projectFolder);
+
 /**
  * Where the program writes its own files (AppletTemp, the Global section): the
  * program folder when it is writable, else the same place under the per-user data

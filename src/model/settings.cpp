@@ -21,6 +21,7 @@ constexpr std::array<SettingInfo, static_cast<std::size_t>(SettingKey::Count)> k
     {SettingsSection::Recent, "File", kUnsetValue},
     {SettingsSection::Browsers, "Count", "0"},
     {SettingsSection::Browsers, "Name", ""},
+    {SettingsSection::Browsers, "Path", ""},
     {SettingsSection::Browsers, "Selected", "0"},
     {SettingsSection::Sizes, "Left", "0"},
     {SettingsSection::Sizes, "Top", "0"},

@@ -58,7 +58,8 @@ enum class SettingKey {
     LanguageCurrent,
     RecentFile, ///< "File" + 1..4
     BrowsersCount,
-    BrowsersName, ///< "Name" + position
+    BrowsersName, ///< "Name" + position (1 for the first entry)
+    BrowsersPath, ///< "Path" + position: the browser's program, "" for the default browser
     BrowsersSelected,
     SizeLeft, ///< the four window-geometry keys, under Sizes\<form>
     SizeTop,

@@ -43,15 +43,6 @@ std::string_view dropLastCharacters(std::string_view text, int count) {
     return text.substr(0, end);
 }
 
-std::string fileNameField(std::string_view path) {
-    return EncodeLabel(BareFileName(path));
-}
-
-/// The last button to write: ButtonCount, kept inside the button table.
-int lastButton(const ProjectModel& model) {
-    return std::min<int>(model.ButtonCount, kButtonSlots - 1);
-}
-
 void appendLine(std::string& out, std::string_view line) {
     out.append(line);
     out.append(kCrLf);
@@ -103,7 +94,7 @@ void text(std::string& out, std::string_view field) {
 }
 
 void fileName(std::string& out, std::string_view path) {
-    raw(out, fileNameField(path));
+    raw(out, EncodedFileName(path));
 }
 
 void colour(std::string& out, std::int32_t value) {
@@ -178,10 +169,18 @@ void appendButtonValue(std::string& out, const ButtonRecord& b) {
 
 } // namespace
 
+std::string EncodedFileName(std::string_view path) {
+    return EncodeLabel(BareFileName(path));
+}
+
+int LastButton(const ProjectModel& model) {
+    return std::min<int>(model.ButtonCount, kButtonSlots - 1);
+}
+
 std::string DefaultAppletName(std::string_view projectFileName) {
     if (projectFileName.empty())
         return MakeIdentifier(DecodeLabel("Orvelin"));
-    const std::string encoded = fileNameField(projectFileName);
+    const std::string encoded = EncodedFileName(projectFileName);
     return MakeIdentifier(DecodeLabel(dropLastCharacters(encoded, 4)));
 }
 
@@ -190,7 +189,7 @@ void SetAppletNameFromBox(ProjectModel& model, std::string_view typed) {
 }
 
 bool UsesJavaScript(const ProjectModel& model) {
-    for (int i = 1; i <= lastButton(model); ++i) {
+    for (int i = 1; i <= LastButton(model); ++i) {
         if (StartsWith(ToLowerAscii(model.Button(i).URL), "javascript:"))
             return true;
     }
@@ -277,7 +276,7 @@ GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
     appendAppletValue(out, model);
     closeParam(out);
 
-    for (int i = 1; i <= lastButton(model); ++i) {
+    for (int i = 1; i <= LastButton(model); ++i) {
         openParam(out, std::to_string(i));
         appendButtonValue(out, model.Button(i));
         closeParam(out);

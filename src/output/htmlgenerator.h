@@ -62,6 +62,13 @@ std::string GetJSCaller(std::string_view appletName);
 /// The same, from a given file.
 std::string JSCallerFromFile(const std::string& iniPath, std::string_view appletName);
 
+/// A file's name as the applet receives it, and as publishing names its copy: the bare
+/// name (after the last "/" or "\") through EncodeLabel ("home up.gif" -> "home&nbspup.gif").
+std::string EncodedFileName(std::string_view path);
+
+/// The last button the applet code holds: ButtonCount, kept inside the button table.
+int LastButton(const ProjectModel& model);
+
 /// The value of the applet parameter "p" (17 fields, each followed by "|").
 std::string AppletParameterValue(const ProjectModel& model);
 /// The value of a button's parameter (its 50 fields as the applet reads them).

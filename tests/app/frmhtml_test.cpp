@@ -1,13 +1,22 @@
+#include "browserlist.h"
 #include "fakeui.h"
+#include "frmbrowsersetup.h"
 #include "frmhtml.h"
 #include "htmlgenerator.h"
+#include "programfolder.h"
+#include "publishing.h"
+#include "qtshell.h"
+#include "tempfolder.h"
 #include "testapplication.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace orvelin;
@@ -15,10 +24,13 @@ using namespace orvelin;
 TEST(FrmHTML, ShowsAndCopiesExactlyTheGeneratedCodeAndNamesTheAppletAsTyped) {
     orvelin::testing::TestApplication();
     orvelin::testing::FakeUserInterface ui;
+    MemorySettingsBackend backend;
+    Settings settings(backend);
+    QtShell shell;
     ProjectModel model;
     model.AddButton(kFactoryDefaultButton);
     model.Button(1).URL = "JavaScript:go()";
-    FrmHTML window(model, ui);
+    FrmHTML window(model, ui, settings, shell);
     window.MakeHTML();
     EXPECT_EQ(model.AppletName, "Orvelin");
     EXPECT_TRUE(window.usesJavaScript());
@@ -37,4 +49,56 @@ TEST(FrmHTML, ShowsAndCopiesExactlyTheGeneratedCodeAndNamesTheAppletAsTyped) {
     const std::string expected = MakeHTML(model).text;
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), expected);
     EXPECT_NE(expected.find("<applet name = \"My_Menu\""), std::string::npos);
+}
+
+TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
+    orvelin::testing::TestApplication();
+    const orvelin::testing::TempFolder temp;
+    SetProgramFolderOverride(temp.path(""));
+    // A browser that writes down the arguments it was started with.
+    const std::string browser = temp.write(
+        "fakebrowser", "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + temp.path("args.tmp") + "'\nmv '" +
+                           temp.path("args.tmp") + "' '" + temp.path("args") + "'\n");
+    std::filesystem::permissions(browser, std::filesystem::perms::owner_all);
+
+    orvelin::testing::FakeUserInterface ui;
+    MemorySettingsBackend backend;
+    Settings settings(backend);
+    SaveBrowsers(settings, {{kDefaultBrowserName, ""}, {"Fake", browser}});
+    SetSelectedBrowser(settings, 1);
+    QtShell shell;
+    ProjectModel model;
+    model.AddButton(kFactoryDefaultButton);
+    FrmHTML window(model, ui, settings, shell);
+    window.showAndGenerate();
+    auto* chooser = window.findChild<QComboBox*>("cmbBrowser");
+    ASSERT_EQ(chooser->count(), 2);
+    EXPECT_EQ(chooser->currentText(), "Fake");
+
+    window.findChild<QPushButton*>("btnPreview")->click();
+    const std::string page = PreviewPagePath();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !temp.read("args").empty(); }, 10000));
+    EXPECT_EQ(temp.read("args"), page + "\n");
+    EXPECT_TRUE(ui.messages().empty());
+    window.close();
+    EXPECT_NE(settings.StoredGeometry("frmHTML").width, 0);
+    SetProgramFolderOverride("");
+}
+
+TEST(FrmBrowserSetup, TheDefaultBrowserStaysFirstWhileOthersMoveAndGo) {
+    orvelin::testing::TestApplication();
+    FrmBrowserSetup dialog({{kDefaultBrowserName, ""}, {"A", "/a"}, {"B", "/b"}}, {});
+    EXPECT_EQ(FrmBrowserSetup::defaultTexts().size(), FrmBrowserSetup::kTextCount);
+    auto* list = dialog.findChild<QListWidget*>("lstBrowsers");
+    auto* up = dialog.findChild<QPushButton*>("btnUp");
+    auto* remove = dialog.findChild<QPushButton*>("btnRemove");
+    list->setCurrentRow(1);
+    EXPECT_FALSE(up->isEnabled()); // above it is only the default browser
+    list->setCurrentRow(2);
+    up->click();
+    remove->click(); // B, moved up to second
+    list->setCurrentRow(0);
+    EXPECT_FALSE(remove->isEnabled());
+    EXPECT_EQ(dialog.browsers(),
+              (std::vector<BrowserEntry>{{kDefaultBrowserName, ""}, {"A", "/a"}}));
 }

@@ -5,6 +5,7 @@
 #include "programfolder.h"
 #include "projectfile.h"
 #include "projectmodel.h"
+#include "publishing.h"
 #include "tempfolder.h"
 #include "userinterface.h"
 
@@ -148,6 +149,7 @@ TEST_F(OrvelinCli, WrongCommandLinesExitWithUsage) {
         {"html", kExample, "--applet-name"},
         {"html", kExample, "--bogus"},
         {"resave", kExample},
+        {"build", kExample},
         {"resave", kExample, path("a.orv"), "--applet-name", "x"},
         {"html", kExample, "--program-dir"},
         {"--program-dir", "", "html", kExample},
@@ -171,9 +173,22 @@ TEST_F(OrvelinCli, HelpExplainsEveryCommandAndExitStatus) {
         const CliRun run = RunCli({word});
         EXPECT_EQ(run.status, 0) << word;
         for (const char* part : {"html PROJECT", "--applet-name TEXT", "resave IN OUT", "--legacy",
-                                 "--program-dir DIR", "Exit status", "  0  ", "  1  ", "  2  "})
+                                 "page PROJECT", "build PROJECT OUT.html", "--program-dir DIR",
+                                 "Exit status", "  0  ", "  1  ", "  2  "})
             EXPECT_NE(run.out.find(part), std::string::npos) << word << ": " << part;
     }
+}
+
+TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportItsMessages) {
+    const CliRun page = RunCli({"page", kExample, "--applet-name", "Top"});
+    ASSERT_EQ(page.status, 0) << page.err;
+    EXPECT_EQ(page.out, PageText(Generated(kExample, "Top"), true));
+
+    // bin/ holds no applet files: the page is written and the build stops there.
+    const CliRun noApplet = RunCli({"build", kExample, path("a.html"), "--applet-name", "Top"});
+    EXPECT_EQ(noApplet.status, 1);
+    EXPECT_EQ(noApplet.err, "Can't copy Applet Class files\n");
+    EXPECT_EQ(dir.read("a.html"), page.out);
 }
 
 TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSave) {

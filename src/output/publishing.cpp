@@ -1,0 +1,199 @@
+#include "publishing.h"
+
+#include "htmlgenerator.h"
+#include "messages.h"
+#include "programfolder.h"
+#include "textfile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace orvelin {
+
+namespace {
+
+constexpr ButtonState kStates[] = {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN};
+
+/// Whether two paths name one file, so that copying would put a file onto itself.
+bool samePlace(const std::string& a, const std::string& b) {
+    std::error_code ec;
+    if (fs::equivalent(a, b, ec))
+        return true;
+    const fs::path left = fs::weakly_canonical(fs::absolute(a, ec), ec);
+    const fs::path right = fs::weakly_canonical(fs::absolute(b, ec), ec);
+    return left == right;
+}
+
+std::optional<std::string> readBytes(const std::string& path) {
+    std::error_code ec;
+    if (!fs::is_regular_file(path, ec))
+        return std::nullopt;
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return std::nullopt;
+    std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (in.bad())
+        return std::nullopt;
+    return bytes;
+}
+
+/// Copies `file` into `folder`. The copy is written beside its destination and renamed
+/// over it, so a disk that fills leaves the earlier file, never half of the new one.
+bool copyInto(const PageFile& file, const std::string& folder) {
+    const std::string destination = JoinPath(folder, file.name);
+    if (samePlace(file.source, destination))
+        return true;
+    const std::optional<std::string> bytes = readBytes(file.source);
+    return bytes && WriteFileAtomically(destination, *bytes);
+}
+
+void addFile(std::vector<PageFile>& files, PageFile::Kind kind, int button,
+             const std::string& stored, const std::string& projectFolder) {
+    if (stored.empty())
+        return;
+    std::string source = ResolveStoredPath(stored, projectFolder);
+    if (source.empty())
+        source = stored;
+    files.push_back({kind, button, std::move(source), EncodedFileName(stored)});
+}
+
+std::string withCancelHint(std::string text) {
+    text.append(kCrLf);
+    text.append(kCrLf);
+    text.append(Messages()[Msg::PressCancelToStop]);
+    return text;
+}
+
+/// Writes the page; a failure names the file and says why.
+bool writePage(const std::string& path, const PageSource& page, UserInterface& ui) {
+    TextFileError error;
+    std::error_code ec;
+    if (fs::is_directory(path, ec))
+        error.description = "it is a folder";
+    else if (WriteFileAtomically(path, PageText(page.code, page.usesJavaScript), &error))
+        return true;
+    ui.showMessage(Messages()[Msg::PageNotWritten] + path + ": " + error.description);
+    return false;
+}
+
+} // namespace
+
+std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder) {
+    std::vector<PageFile> files;
+    for (const char* name : {kAppletClassFile, kAppletArchiveFile})
+        files.push_back({PageFile::Kind::Applet, 0, JoinPath(programFolder, name), name});
+    const std::string projectFolder = ProjectFolderOf(model.ProjectFileName);
+    addFile(files, PageFile::Kind::Background, 0, model.BackImg, projectFolder);
+    for (int i = 1; i <= LastButton(model); ++i)
+        for (ButtonState s : kStates)
+            addFile(files, PageFile::Kind::Image, i, model.Button(i).Image(s), projectFolder);
+    for (int i = 1; i <= LastButton(model); ++i)
+        for (ButtonState s : kStates)
+            addFile(files, PageFile::Kind::Sound, i, model.Button(i).Sound(s), projectFolder);
+    return files;
+}
+
+std::string PageText(std::string_view code, bool usesJavaScript) {
+    std::string page;
+    const bool beyondAscii = std::any_of(
+        code.begin(), code.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    if (beyondAscii)
+        page.append("\xEF\xBB\xBF");
+    for (std::string_view line :
+         {std::string_view("<Html>"), std::string_view("<Head><Title>Orvelin</Title></Head>"),
+          usesJavaScript ? std::string_view("<body onload=\"InitJSCaller();\">")
+                         : std::string_view("<Body>"),
+          std::string_view("<Center>"), std::string_view()}) {
+        page.append(line);
+        page.append(kCrLf);
+    }
+    page.append(code);
+    page.append(kCrLf);
+    for (std::string_view line : {"</Center>", "</Body>", "</Html>"}) {
+        page.append(line);
+        page.append(kCrLf);
+    }
+    return page;
+}
+
+std::string PreviewPagePath() {
+    return JoinPath(WritableProgramFolder(), "AppletTemp/Temp.htm");
+}
+
+int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
+                   UserInterface& ui) {
+    int failed = 0;
+    bool showMessages = true;
+    for (const PageFile& file : files) {
+        if (file.kind == PageFile::Kind::Applet || copyInto(file, folder))
+            continue;
+        ++failed;
+        if (!showMessages)
+            continue;
+        const std::string text =
+            file.kind == PageFile::Kind::Background
+                ? Messages()[Msg::CantCopyBackground]
+                : Messages()[Msg::CantCopyButtonFiles] + std::to_string(file.button);
+        showMessages = ui.askOkCancel(withCancelHint(text)) != UserInterface::Answer::Cancel;
+    }
+    return failed;
+}
+
+bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
+                 UserInterface& ui, Shell& shell) {
+    const std::string path = PreviewPagePath();
+    const std::string folder = FolderOf(path);
+    std::error_code ec;
+    fs::create_directories(folder, ec); // an existing folder is no error
+    if (!writePage(path, page, ui))
+        return false;
+
+    const std::vector<PageFile> files = PageFiles(model, ProgramFolder());
+    for (const PageFile& file : files) {
+        // The applet files are not part of this program: a machine without them still
+        // previews the page, but one that has them must get them copied.
+        if (file.kind != PageFile::Kind::Applet || !fs::exists(file.source, ec))
+            continue;
+        if (!copyInto(file, folder)) {
+            ui.showMessage(Messages()[Msg::CantCopyClassFiles]);
+            return false;
+        }
+    }
+    CopyMediaFiles(files, folder, ui);
+
+    const bool opened =
+        program.empty() ? shell.OpenDocument(path) : shell.StartProgram(program, {path});
+    if (!opened)
+        ui.showMessage(path + Messages()[Msg::PageNotOpened]);
+    return opened;
+}
+
+bool BuildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
+               UserInterface& ui) {
+    if (!writePage(target, page, ui))
+        return false;
+    const std::string folder = FolderOf(target);
+    const std::vector<PageFile> files = PageFiles(model, ProgramFolder());
+    for (const PageFile& file : files) {
+        if (file.kind == PageFile::Kind::Applet && !copyInto(file, folder)) {
+            // The page stays: it is complete, only its applet is missing.
+            ui.showMessage(Messages()[Msg::CantCopyAppletClassFiles]);
+            return false;
+        }
+    }
+    return CopyMediaFiles(files, folder, ui) == 0;
+}
+
+bool BuildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui) {
+    const std::optional<std::string> target =
+        ui.chooseSaveFile(kPageFileFilter, DefaultAppletName(model.ProjectFileName) + ".html");
+    return target && BuildPage(model, page, *target, ui);
+}
+
+} // namespace orvelin

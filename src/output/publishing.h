@@ -1,0 +1,97 @@
+#pragma once
+
+#include "projectmodel.h"
+#include "shell.h"
+#include "userinterface.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/**
+ * Preview and publishing: the page around the applet code, and every file that page
+ * needs beside it (the applet files, the background, the buttons' images and sounds).
+ * The HTML window and orvelin-cli both work through these functions, so a preview, a
+ * build and the command line can never disagree about which files a page needs or
+ * what they are called. Standard library only; the user is reached through
+ * UserInterface and the desktop through Shell.
+ */
+namespace orvelin {
+
+/// One file a page needs in its folder.
+struct PageFile {
+    enum class Kind { Applet, Background, Image, Sound };
+    Kind kind = Kind::Applet;
+    int button = 0; ///< the button the file belongs to; 0 for applet and background files
+    /// The file to copy: the stored path resolved as the design window resolves it, or
+    /// the stored path itself when no such file exists (its copy then fails and says so).
+    std::string source;
+    /// Its name beside the page: the encoded bare name that the applet parameters carry.
+    std::string name;
+};
+
+/**
+ * The files a page of `model` needs, in copy order: the two applet files from
+ * `programFolder`, the background image, each button's images (UP, OVER, DOWN) for
+ * buttons 1..ButtonCount, then each button's sounds in the same order. Empty paths
+ * are left out; a file named by two buttons is listed (and copied) twice.
+ */
+std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder);
+
+/**
+ * The page that preview and build write: the applet code inside a minimal document
+ * whose body calls InitJSCaller on load when the code holds the JavaScript block. A
+ * page holding characters beyond ASCII starts with a UTF-8 byte-order mark so that
+ * browsers read it right; the text is otherwise exactly the same.
+ */
+std::string PageText(std::string_view code, bool usesJavaScript);
+
+/// The preview page: AppletTemp/Temp.htm in the program's writable folder.
+std::string PreviewPagePath();
+
+/**
+ * The media copy routine: copies the background, image and sound files of `files`
+ * into `folder` under their names, skipping a file that already is its own
+ * destination. Each failed copy asks OK/Cancel with the message naming the
+ * background or the button; Cancel silences the messages for the rest of the run,
+ * while the copying goes on. Returns how many files could not be copied.
+ */
+int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
+                   UserInterface& ui);
+
+/// What the applet code was generated as: its text and whether it calls JavaScript.
+struct PageSource {
+    std::string_view code;
+    bool usesJavaScript = false;
+};
+
+/**
+ * Test in Browser: writes the preview page, copies the applet files that the program
+ * folder holds and the project's media beside it, and opens it: with the desktop's
+ * default browser when `program` is empty, else by starting `program` with the page's
+ * path. Returns true when the page was handed to a browser; every failure is shown.
+ */
+bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
+                 UserInterface& ui, Shell& shell);
+
+/**
+ * Build Applet: writes the page as `target` and copies the applet files (unless the
+ * target's folder is the program folder itself) and the project's media beside it.
+ * A page that cannot be written stops with a message and leaves any earlier file as
+ * it was; missing applet files stop with "Can't copy Applet Class files" after the
+ * page is written. Returns true when nothing failed.
+ */
+bool BuildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
+               UserInterface& ui);
+
+/// The file filter of the build's save dialog.
+inline constexpr const char* kPageFileFilter = "HTML (*.htm;*.html);;All Files (*.*)";
+
+/**
+ * Build Applet with the save dialog: the proposed name is the default applet name
+ * followed by ".html"; cancelling writes nothing. Returns true when a build ran and
+ * nothing failed.
+ */
+bool BuildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui);
+
+} // namespace orvelin

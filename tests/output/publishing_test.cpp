@@ -1,0 +1,137 @@
+#include "fakeui.h"
+#include "htmlgenerator.h"
+#include "programfolder.h"
+#include "projectmodel.h"
+#include "publishing.h"
+#include "tempfolder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+using namespace orvelin;
+using orvelin::testing::FakeUserInterface;
+using orvelin::testing::TempFolder;
+
+namespace {
+
+const std::string kCantCopyButton2 = "Can't copy Pictures Or Sounds for Button # 2\r\n\r\n"
+                                     "Press Cancel to stop showing error messages.";
+
+/// Opens nothing; records what it was asked to open.
+class RecordingShell : public Shell {
+public:
+    bool OpenDocument(const std::string& path) override {
+        calls.push_back("open " + path);
+        return works;
+    }
+    bool StartProgram(const std::string& program, const std::vector<std::string>& args) override {
+        calls.push_back(program + " " + (args.size() == 1 ? args[0] : "<not one argument>"));
+        return works;
+    }
+    std::vector<std::string> calls;
+    bool works = true;
+};
+
+/// A project file in `projects/` whose images and sounds are relative to it, and a
+/// program folder of its own that holds the applet files.
+class Publishing : public ::testing::Test {
+protected:
+    void SetUp() override {
+        fs::create_directories(temp.dir() / "program");
+        fs::create_directories(temp.dir() / "projects/art");
+        fs::create_directories(temp.dir() / "site");
+        SetProgramFolderOverride(temp.path("program"));
+        temp.write("program/Orvel1b6.class", "class");
+        temp.write("program/Orvel1b6.jar", "jar");
+        temp.write("projects/art/home up.gif", "GIF89a home");
+        temp.write("projects/art/click.au", "au");
+        model.ProjectFileName = temp.path("projects/nav.orv");
+        model.AppletName = "Nav";
+        for (int i = 0; i < 3; ++i)
+            model.AddButton(kFactoryDefaultButton);
+    }
+    void TearDown() override { SetProgramFolderOverride(""); }
+
+    bool Build(const std::string& target) {
+        html = MakeHTML(model);
+        return BuildPage(model, {html.text, html.usesJavaScript}, target, ui);
+    }
+
+    TempFolder temp;
+    ProjectModel model;
+    GeneratedHtml html;
+    FakeUserInterface ui;
+};
+
+} // namespace
+
+TEST(PageText, WrapsTheCodeWithTheBodyTagOfItsJavaScriptFlagAndMarksUtf8) {
+    EXPECT_EQ(PageText("CODE\r\n", false),
+              "<Html>\r\n<Head><Title>Orvelin</Title></Head>\r\n<Body>\r\n<Center>\r\n\r\n"
+              "CODE\r\n\r\n</Center>\r\n</Body>\r\n</Html>\r\n");
+    EXPECT_EQ(PageText("CODE\r\n", true).substr(45, 33), "<body onload=\"InitJSCaller();\">\r\n");
+    EXPECT_EQ(PageText("Caf\xC3\xA9\r\n", false).substr(0, 11), "\xEF\xBB\xBF<Html>\r\n");
+}
+
+TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
+    // Two buttons name one image; one path uses Windows separators.
+    model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
+    model.Button(3).Image(ButtonState::DOWN) = "art\\home up.gif";
+    model.Button(2).Sound(ButtonState::OVER) = "art/click.au";
+    ASSERT_TRUE(Build(temp.path("site/nav.html")));
+
+    EXPECT_TRUE(ui.shown.empty());
+    EXPECT_EQ(temp.read("site/nav.html"), PageText(html.text, false));
+    EXPECT_NE(html.text.find("|home&nbspup.gif|"), std::string::npos);
+    EXPECT_EQ(temp.read("site/home&nbspup.gif"), "GIF89a home");
+    EXPECT_EQ(temp.read("site/click.au"), "au");
+    EXPECT_EQ(temp.read("site/Orvel1b6.jar"), "jar");
+    EXPECT_EQ(PageFiles(model, temp.path("program")).size(), 5u);
+
+    // A target that is a folder: nothing is written and the message names it.
+    EXPECT_FALSE(Build(temp.path("site")));
+    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't write the page " + temp.path("site") +
+                                                      ": it is a folder"});
+}
+
+TEST_F(Publishing, BuildingIntoTheProgramFolderLeavesItsOwnAppletFilesAlone) {
+    // Read-only, as in an installed program: copying one onto itself would fail.
+    fs::permissions(temp.dir() / "program/Orvel1b6.class", fs::perms::owner_read);
+    fs::permissions(temp.dir() / "program/Orvel1b6.jar", fs::perms::owner_read);
+    EXPECT_TRUE(Build(temp.path("program/") + "../program/nav.html"));
+    EXPECT_TRUE(ui.shown.empty());
+    EXPECT_EQ(temp.read("program/Orvel1b6.class"), "class");
+}
+
+TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoesOn) {
+    model.Button(2).Image(ButtonState::UP) = "art/missing.gif";
+    model.Button(2).Image(ButtonState::OVER) = "art/missing-too.gif";
+    model.Button(3).Image(ButtonState::UP) = "art/gone.gif";
+    model.Button(3).Sound(ButtonState::UP) = "art/click.au";
+    ui.answers = {UserInterface::Answer::Ok, UserInterface::Answer::Cancel};
+    EXPECT_FALSE(Build(temp.path("site/nav.html")));
+    ASSERT_EQ(ui.shown.size(), 2u);
+    EXPECT_EQ(ui.shown[0].kind, "okcancel");
+    EXPECT_EQ(ui.shown[1].text, kCantCopyButton2);
+    EXPECT_EQ(temp.read("site/click.au"), "au");
+}
+
+TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
+    model.Button(1).URL = "javascript:go()";
+    model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
+    html = MakeHTML(model);
+    RecordingShell shell;
+    const std::string page = temp.path("program/AppletTemp/Temp.htm");
+    ASSERT_TRUE(PreviewPage(model, {html.text, true}, "", ui, shell));
+    ASSERT_TRUE(PreviewPage(model, {html.text, true}, "/opt/fox", ui, shell));
+    EXPECT_EQ(shell.calls, (std::vector<std::string>{"open " + page, "/opt/fox " + page}));
+    EXPECT_EQ(temp.read("program/AppletTemp/Temp.htm"), PageText(html.text, true));
+    EXPECT_EQ(temp.read("program/AppletTemp/home&nbspup.gif"), "GIF89a home");
+    EXPECT_EQ(temp.read("program/AppletTemp/Orvel1b6.class"), "class");
+
+    shell.works = false;
+    EXPECT_FALSE(PreviewPage(model, {html.text, true}, "", ui, shell));
+    ASSERT_EQ(ui.messages().size(), 1u);
+    EXPECT_EQ(ui.messages()[0].rfind(page + " could not be opened", 0), 0u);
+}
