@@ -152,7 +152,6 @@ void FrmMain::openOffset() {
 void FrmMain::ShowProp(int index, const std::string& caption) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
-    m_properties->setHasButton(true);
     m_properties->showButton(m_model.Button(index), m_model.EditedState(),
                              QString::fromStdString(caption));
     // Edits go to the selected buttons: a current button taken out of the selection is

@@ -92,17 +92,16 @@ PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
     header->addStretch(1);
     header->addWidget(buildStateSwitch());
     layout->addLayout(header);
-    m_notSelected = new QLabel(this);
-    m_notSelected->setObjectName(QStringLiteral("lblNotSelected"));
-    m_notSelected->setWordWrap(true);
-    m_notSelected->hide();
-    layout->addWidget(m_notSelected);
     layout->addWidget(m_body, 1);
+    // Two lines are kept for the note whether or not there is one, so that a note coming
+    // and going never changes the window's size.
     m_note = new QLabel(this);
     m_note->setObjectName(QStringLiteral("lblFieldNote"));
     m_note->setWordWrap(true);
+    m_note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_note->setStyleSheet(QStringLiteral("color: #a03000;"));
-    m_note->hide();
+    m_note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_note->setFixedHeight(2 * m_note->fontMetrics().lineSpacing() + 2);
     layout->addWidget(m_note);
 
     bindTexts();
@@ -420,24 +419,26 @@ void PropertyPanel::setActionTitle(const QString& title) {
 }
 
 void PropertyPanel::setHasButton(bool hasButton) {
-    m_body->setEnabled(hasButton);
+    // With a button, showing it (setEditable) decides whether the controls take edits.
     if (hasButton)
         return;
+    m_body->setEnabled(false);
     m_caption->clear();
-    m_notSelected->hide();
     showNote({});
     clearControls();
 }
 
 void PropertyPanel::setEditable(bool editable, const QString& note) {
+    const bool wasEditable = m_body->isEnabled();
     m_body->setEnabled(editable);
-    m_notSelected->setText(note);
-    m_notSelected->setVisible(!editable);
+    if (!editable)
+        showNote(note);
+    else if (!wasEditable)
+        showNote({});
 }
 
 void PropertyPanel::showNote(const QString& note) {
     m_note->setText(note);
-    m_note->setVisible(!note.isEmpty());
 }
 
 void PropertyPanel::clearControls() {

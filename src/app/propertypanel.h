@@ -36,13 +36,14 @@ public:
     /// Checks the toggle of `state`.
     void showState(ButtonState state);
     void setActionTitle(const QString& title);
-    /// Without buttons the controls have nothing to edit, and show nothing.
+    /// Without buttons the controls have nothing to edit, and show nothing; with buttons,
+    /// showing one makes them editable again.
     void setHasButton(bool hasButton);
     /// The panel shows a button that edits would not reach (the current button taken out
     /// of the selection): the controls are read-only and `note` says why.
     void setEditable(bool editable, const QString& note);
     /// A short note under the controls about what a field did with its input; empty
-    /// hides it.
+    /// clears it.
     void showNote(const QString& note);
     /// The label field, which the multi-line label editor writes through.
     QLineEdit* labelField() const { return m_label; }
@@ -105,7 +106,6 @@ private:
     QPushButton* m_setAction = nullptr;
     QWidget* m_body = nullptr;
     QLabel* m_note = nullptr;
-    QLabel* m_notSelected = nullptr;
 };
 
 } // namespace orvelin
