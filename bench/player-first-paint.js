@@ -85,6 +85,8 @@ async function firstPaint(context, url) {
         await browser.close();
         fs.rmSync(dir, { recursive: true, force: true });
     }
+    if (process.env.ORVELIN_BENCH_ALL)
+        console.log(JSON.stringify(times));
     const p = median(times.player), s = median(times.static);
     console.log(`first contentful paint, median of ${rounds}: player ${p.toFixed(1)} ms, ` +
         `static links ${s.toFixed(1)} ms, ratio ${(p / s).toFixed(2)} (limit 1.5)`);

@@ -35,7 +35,7 @@
                   'PositionTextDOWN:Int16 LabelPosXUP:Int16 LabelPosYUP:Int16 ' +
                   'LabelPosXOVER:Int16 LabelPosYOVER:Int16 LabelPosXDOWN:Int16 ' +
                   'LabelPosYDOWN:Int16 Hidden:Int16 ProgramUP:Raw ProgramOVER:Raw ' +
-                  'ProgramDOWN:Raw').split(' ');
+                  'ProgramDOWN:Raw').split(' ').map(function (f) { return f.split(':'); });
     var STATES = ['UP', 'OVER', 'DOWN'];
 
     // Faces the designer gets from fontconfig on Linux for the usual Windows names.
@@ -65,6 +65,8 @@
     /** The designer's text decoding. The HTML parser may already have turned "&nbsp"
      *  into a no-break space (before "|" or at the end of the value): both are blanks. */
     function decodeText(text) {
+        if (text.indexOf('&') < 0 && text.indexOf('\u00a0') < 0)
+            return text;
         return text.replace(/\u00a0/g, ' ').split('&nbsp').join(' ')
             .split('&y01').join(';').split('&y02').join('"');
     }
@@ -108,10 +110,8 @@
         if (parts.length <= FIELDS.length)
             throw new Error('it holds ' + (parts.length - 1) + ' fields, not ' + FIELDS.length);
         var b = {};
-        for (var i = 0; i < FIELDS.length; i++) {
-            var f = FIELDS[i].split(':');
-            b[f[0]] = readField(f[1], parts[i], f[0]);
-        }
+        for (var i = 0; i < FIELDS.length; i++)
+            b[FIELDS[i][0]] = readField(FIELDS[i][1], parts[i], FIELDS[i][0]);
         return b;
     }
 
@@ -148,14 +148,6 @@
         return Math.abs(v % 1) === 0.5 && r % 2 !== 0 ? r - 1 : r;
     }
 
-    function fontFamily(name) {
-        var key = (name || 'Arial').toLowerCase();
-        var mapped = FACES[key] ? FACES[key] + ', ' : '';
-        var generic = /mono|courier/.test(key) ? 'monospace'
-            : /serif|times|georgia|roman/.test(key) && !/sans/.test(key) ? 'serif' : 'sans-serif';
-        return '"' + (name || 'Arial').replace(/["\\]/g, '') + '", ' + mapped + generic;
-    }
-
     function parseHex(color) {
         var n = parseInt(color.slice(1), 16);
         return [(n >> 16) & 255, (n >> 8) & 255, n & 255];
@@ -169,15 +161,24 @@
         }).join(',') + ')';
     }
 
-    /** A rectangle snapped to device pixels, so edges stay sharp at any pixel ratio. */
-    function box(ctx, x, y, w, h, color) {
-        var m = ctx.getTransform();
-        var l = Math.round(m.e + x * m.a), t = Math.round(m.f + y * m.d);
-        ctx.save();
-        ctx.setTransform(1, 0, 0, 1, 0, 0);
+    /** A rectangle of the bar snapped to device pixels, so edges stay sharp at any pixel
+     *  ratio `r`; the context draws in device pixels. */
+    function box(ctx, r, x, y, w, h, color) {
+        var l = Math.round(x * r), t = Math.round(y * r);
         ctx.fillStyle = color;
-        ctx.fillRect(l, t, Math.round(m.e + (x + w) * m.a) - l, Math.round(m.f + (y + h) * m.d) - t);
-        ctx.restore();
+        ctx.fillRect(l, t, Math.round((x + w) * r) - l, Math.round((y + h) * r) - t);
+    }
+
+    var shades = {};
+
+    /** The four sides of the raised edge of a background colour: light outer and inner,
+     *  dark outer and inner. */
+    function edgeColors(back) {
+        if (!shades[back]) {
+            var rgb = parseHex(back);
+            shades[back] = [shade(rgb, 0.65), shade(rgb, 0.35), shade(rgb, -0.6), shade(rgb, -0.3)];
+        }
+        return shades[back];
     }
 
     /** An image in an area `w` by `h`: 0 centred, 1 tiled, 2 stretched; moved by (ox, oy). */
@@ -186,9 +187,6 @@
         if (!iw || !ih)
             return;
         ctx.save();
-        ctx.beginPath();
-        ctx.rect(0, 0, w, h);
-        ctx.clip();
         if (style === 1) {
             ctx.translate(ox, oy);
             ctx.fillStyle = ctx.createPattern(img, 'repeat');
@@ -203,23 +201,37 @@
         ctx.restore();
     }
 
-    var metricsCache = {};
+    var fonts = {};
 
-    /** Line height and step of a font, rounded as the designer's font metrics are. */
-    function fontMetrics(ctx) {
-        var m = metricsCache[ctx.font];
-        if (!m) {
+    /** The CSS font of a button state, with its line height and step rounded as the
+     *  designer's font metrics are; measured once per font. */
+    function labelFont(ctx, face, style, size) {
+        var key = style + '|' + size + '|' + face;
+        var f = fonts[key];
+        if (!f) {
+            var code = style.length === 1 ? style.charCodeAt(0) - 48 : 0;
+            var lower = (face || 'Arial').toLowerCase();
+            var generic = /mono|courier/.test(lower) ? 'monospace'
+                : /serif|times|georgia|roman/.test(lower) && !/sans/.test(lower) ? 'serif'
+                : 'sans-serif';
+            f = fonts[key] = {
+                css: (code === 2 || code === 3 ? 'italic ' : '') +
+                    (code === 1 || code === 3 ? 'bold ' : '') + (size * 4 / 3) + 'px "' +
+                    (face || 'Arial').replace(/["\\]/g, '') + '", ' +
+                    (FACES[lower] ? FACES[lower] + ', ' : '') + generic
+            };
+            ctx.font = f.css;
             var t = ctx.measureText('Hg');
             var ascent = t.fontBoundingBoxAscent, descent = t.fontBoundingBoxDescent;
             if (ascent === undefined) {
                 ascent = t.actualBoundingBoxAscent;
                 descent = t.actualBoundingBoxDescent;
             }
-            m = { height: Math.round(ascent) + Math.round(descent) };
-            m.step = m.height + 1;
-            metricsCache[ctx.font] = m;
+            f.height = Math.round(ascent) + Math.round(descent);
+            f.step = f.height + 1;
         }
-        return m;
+        ctx.font = f.css;
+        return f;
     }
 
     function drawLabel(ctx, b, s, color) {
@@ -227,15 +239,9 @@
         var label = b['Label' + s];
         if (!label || size <= 0 || size > 2048)
             return;
-        var style = b['FontStyle' + s];
-        var code = style.length === 1 ? style.charCodeAt(0) - 48 : 0;
-        ctx.font = (code === 2 || code === 3 ? 'italic ' : '') + (code === 1 || code === 3 ? 'bold ' : '') +
-            (size * 4 / 3) + 'px ' + fontFamily(b['Font' + s]);
+        var m = labelFont(ctx, b['Font' + s], b['FontStyle' + s], size);
         ctx.fillStyle = color;
-        ctx.textBaseline = 'alphabetic';
-        ctx.textAlign = 'left';
         var lines = label.split('\\n');
-        var m = fontMetrics(ctx);
         var k;
         if (b['PositionText' + s] !== 0) {
             for (k = 0; k < lines.length; k++)
@@ -306,19 +312,28 @@
         el.style.width = this.width + 'px';
         el.style.height = this.height + 'px';
         el.orvelinPlayer = this;
+        this.listen();
         // One canvas draws the whole bar; the buttons' own elements above it are clear.
         this.canvas = doc.createElement('canvas');
         this.canvas.setAttribute('aria-hidden', 'true');
         el.appendChild(this.canvas);
 
         this.buttons = [];
+        var markup = '';
         for (var n = 1; n <= count; n++) {
             try {
-                this.buttons.push(this.makeButton(n, readButton(params[String(n)] === undefined
-                    ? null : params[String(n)])));
+                var b = readButton(params[String(n)] === undefined ? null : params[String(n)]);
+                markup += this.buttonMarkup(n, b);
+                this.buttons.push(b);
             } catch (e) {
                 warn('applet "' + this.name + '", button ' + n + ' left out: ' + e.message);
             }
+        }
+        // The buttons' elements in one piece of markup: much quicker than one by one.
+        el.insertAdjacentHTML('beforeend', markup);
+        for (var k = 0; k < this.buttons.length; k++) {
+            this.buttons[k].element = el.children[k + 1];
+            el.children[k + 1].orvelinButton = this.buttons[k];
         }
         this.waiting = 0;
         this.ready = new Promise(function (resolve) {
@@ -360,56 +375,63 @@
         return entry.done ? entry.img : null;
     };
 
-    Player.prototype.makeButton = function (n, b) {
-        var self = this;
+    function attribute(name, value) {
+        return ' ' + name + '="' + String(value).replace(/&/g, '&amp;').replace(/"/g, '&quot;')
+            .replace(/</g, '&lt;') + '"';
+    }
+
+    /** The element of a button: a link where it has a URL, else a button; named by its label. */
+    Player.prototype.buttonMarkup = function (n, b) {
         b.number = n;
         b.state = 'UP';
         b.hover = b.pressed = false;
         var link = b.URL !== '';
-        var el = b.element = doc.createElement(link ? 'a' : 'span');
-        if (link) {
-            el.href = b.URL;
-            // A "javascript:" link runs in this page whatever its target.
-            if (b.Target && !/^\s*javascript:/i.test(b.URL))
-                el.target = b.Target;
-        } else {
-            el.setAttribute('role', 'button');
-            el.tabIndex = 0;
-        }
+        var html = link ? '<a' + attribute('href', b.URL) : '<span role="button" tabindex="0"';
+        // A "javascript:" link runs in this page whatever its target.
+        if (link && b.Target && !/^\s*javascript:/i.test(b.URL))
+            html += attribute('target', b.Target);
         var name = b.LabelUP.split('\\n').join(' ').trim() || b.Status || b.URL;
         if (name)
-            el.setAttribute('aria-label', name);
+            html += attribute('aria-label', name);
         if (b.Status)
-            el.title = b.Status;
-        el.style.left = b.x + 'px';
-        el.style.top = b.y + 'px';
-        el.style.width = Math.max(0, b.Width) + 'px';
-        el.style.height = Math.max(0, b.Height) + 'px';
-        el.style.cursor = b.ShowHand !== 0 ? 'pointer' : 'default';
-        if (b.Hidden !== 0)
-            el.style.display = 'none';
-        this.element.appendChild(el);
+            html += attribute('title', b.Status);
+        html += ' style="left:' + b.x + 'px;top:' + b.y + 'px;width:' + Math.max(0, b.Width) +
+            'px;height:' + Math.max(0, b.Height) + 'px;cursor:' +
+            (b.ShowHand !== 0 ? 'pointer' : 'default') + (b.Hidden !== 0 ? ';display:none' : '') +
+            '">';
+        return html + (link ? '</a>' : '</span>');
+    };
 
+    /** The bar's own listeners, one of each for all its buttons. */
+    Player.prototype.listen = function () {
+        var self = this;
         function on(type, handler) {
-            el.addEventListener(type, function (e) { guard(function () { handler(e); }); });
+            self.element.addEventListener(type, function (e) {
+                var b = e.target && e.target.orvelinButton;
+                if (b)
+                    guard(function () { handler(e, b, b.element.tagName === 'A'); });
+            });
         }
-        on('pointerenter', function (e) {
+        on('pointerover', function (e, b) {
             b.hover = true;
             if (!e.buttons)
                 b.pressed = false; // released elsewhere
             self.update(b);
         });
-        on('pointerleave', function () { b.hover = false; self.update(b); });
-        on('pointerdown', function (e) {
+        on('pointerout', function (e, b) {
+            b.hover = false;
+            self.update(b);
+        });
+        on('pointerdown', function (e, b) {
             if (e.button !== 0)
                 return;
             b.pressed = 'pointer';
             // A touch captures its pointer; released, a finger sliding off leaves the button.
-            if (el.hasPointerCapture && el.hasPointerCapture(e.pointerId))
-                el.releasePointerCapture(e.pointerId);
+            if (b.element.hasPointerCapture && b.element.hasPointerCapture(e.pointerId))
+                b.element.releasePointerCapture(e.pointerId);
             self.update(b);
         });
-        on('pointerup', function (e) {
+        on('pointerup', function (e, b) {
             if (!b.pressed)
                 return;
             b.pressed = false;
@@ -417,42 +439,44 @@
                 b.hover = false; // a tap leaves nothing under a pointer
             self.activate(b);
         });
-        on('pointercancel', function () { b.pressed = b.hover = false; self.update(b); });
-        on('keydown', function (e) {
-            if (e.key === ' ' || e.key === 'Enter') {
-                if (e.key === ' ')
-                    e.preventDefault(); // no scrolling
-                if (!e.repeat) {
-                    b.pressed = 'key';
-                    self.update(b);
-                }
-                if (e.key === 'Enter' && !link) {
-                    b.pressed = false;
-                    self.activate(b);
-                }
+        on('pointercancel', function (e, b) {
+            b.pressed = b.hover = false;
+            self.update(b);
+        });
+        on('keydown', function (e, b, link) {
+            if (e.key !== ' ' && e.key !== 'Enter')
+                return;
+            if (e.key === ' ')
+                e.preventDefault(); // no scrolling
+            if (!e.repeat) {
+                b.pressed = 'key';
+                self.update(b);
+            }
+            if (e.key === 'Enter' && !link) {
+                b.pressed = false;
+                self.activate(b);
             }
         });
-        on('keyup', function (e) {
+        on('keyup', function (e, b, link) {
             if ((e.key === ' ' || e.key === 'Enter') && b.pressed) {
                 b.pressed = false;
                 self.activate(b);
                 if (e.key === ' ' && link)
-                    el.click();
+                    b.element.click();
             }
         });
-        if (!link)
-            on('click', function (e) {
-                // A click of no pointer and no key here: assistive technology.
-                if (e.detail === 0 && !b.pressed)
-                    self.activate(b);
-            });
-        on('blur', function () {
-            if (b.pressed) {
+        on('click', function (e, b, link) {
+            // A click of no pointer and no key: assistive technology.
+            if (!link && e.detail === 0 && !b.pressed)
+                self.activate(b);
+        });
+        self.element.addEventListener('focusout', function (e) {
+            var b = e.target && e.target.orvelinButton;
+            if (b && b.pressed) {
                 b.pressed = false;
-                self.update(b);
+                guard(function () { self.update(b); });
             }
         });
-        return b;
     };
 
     /** A completed press: radio buttons keep the last one down. */
@@ -496,15 +520,17 @@
     };
 
     /** Paints a rectangle of the bar again: the background, then every button over it in
-     *  order, each clipped to itself as the design window's pictures are. */
+     *  order, each clipped to itself as the design window's pictures are. The context
+     *  draws in device pixels; labels and images scale themselves. */
     Player.prototype.paint = function (x, y, w, h) {
-        var ctx = this.canvas.getContext('2d');
+        var ctx = this.canvas.getContext('2d'), r = this.ratio;
         ctx.save();
-        ctx.setTransform(this.ratio, 0, 0, this.ratio, 0, 0);
+        ctx.setTransform(r, 0, 0, r, 0, 0);
         ctx.beginPath();
         ctx.rect(x, y, w, h);
         ctx.clip();
         ctx.clearRect(x, y, w, h);
+        ctx.setTransform(1, 0, 0, 1, 0, 0);
         this.drawBackground(ctx);
         for (var i = 0; i < this.buttons.length; i++) {
             var b = this.buttons[i];
@@ -515,57 +541,59 @@
     };
 
     Player.prototype.drawBackground = function (ctx) {
-        var a = this.applet;
+        var a = this.applet, r = this.ratio;
         // An empty background colour lets the page show through.
         if (a.backColor)
-            box(ctx, 0, 0, this.width, this.height, a.backColor);
+            box(ctx, r, 0, 0, this.width, this.height, a.backColor);
         var img = this.image(a.backImage);
-        if (img)
+        if (img) {
+            ctx.setTransform(r, 0, 0, r, 0, 0);
             drawPlaced(ctx, img, this.width, this.height, a.backImageStyle, a.offsetX, a.offsetY);
+            ctx.setTransform(1, 0, 0, 1, 0, 0);
+        }
     };
 
     Player.prototype.drawButton = function (ctx, b) {
         if (b.Hidden !== 0 || b.Width <= 0 || b.Height <= 0)
             return;
-        var s = b.state, w = b.Width, h = b.Height;
+        var s = b.state, r = this.ratio, x = b.x, y = b.y, w = b.Width, h = b.Height;
         ctx.save();
         try {
-            ctx.translate(b.x, b.y);
+            ctx.setTransform(r, 0, 0, r, 0, 0);
             ctx.beginPath();
-            ctx.rect(0, 0, w, h);
+            ctx.rect(x, y, w, h);
             ctx.clip();
+            ctx.setTransform(1, 0, 0, 1, 0, 0);
             var back = b['BackColor' + s];
             if (b.noBackGround !== 0) {
                 // The applet background under the button, never the buttons below it; a
                 // button reaching out of the applet shows what is under it.
-                if (b.x >= 0 && b.y >= 0 && b.x + w <= this.width && b.y + h <= this.height) {
-                    ctx.clearRect(0, 0, w, h);
-                    ctx.translate(-b.x, -b.y);
+                if (x >= 0 && y >= 0 && x + w <= this.width && y + h <= this.height) {
+                    ctx.clearRect(0, 0, this.canvas.width, this.canvas.height);
                     this.drawBackground(ctx);
-                    ctx.translate(b.x, b.y);
                 }
             } else if (back) {
-                box(ctx, 0, 0, w, h, back);
+                box(ctx, r, x, y, w, h, back);
             }
+            ctx.setTransform(r, 0, 0, r, r * x, r * y);
             var img = this.image(b['Image' + s]);
             if (img)
                 drawPlaced(ctx, img, w, h, b['ImgStyle' + s], 0, 0);
             drawLabel(ctx, b, s, b['FontColor' + s] ||
                       global.getComputedStyle(this.element).color || '#000');
+            ctx.setTransform(1, 0, 0, 1, 0, 0);
             if (b.Border !== 0 && w >= 2 && h >= 2) {
-                var rgb = parseHex(back || '#808080');
-                var lo = shade(rgb, 0.65), li = shade(rgb, 0.35);
-                var dout = shade(rgb, -0.6), din = shade(rgb, -0.3);
+                var c = edgeColors(back || '#808080');
                 // The dark sides come last and own the corners, as a raised edge does.
-                box(ctx, 0, 0, w - 1, 1, lo);
-                box(ctx, 0, 0, 1, h - 1, lo);
-                box(ctx, 0, h - 1, w, 1, dout);
-                box(ctx, w - 1, 0, 1, h, dout);
+                box(ctx, r, x, y, w - 1, 1, c[0]);
+                box(ctx, r, x, y, 1, h - 1, c[0]);
+                box(ctx, r, x, y + h - 1, w, 1, c[2]);
+                box(ctx, r, x + w - 1, y, 1, h, c[2]);
                 if (w >= 4 && h >= 4) {
-                    box(ctx, 1, 1, w - 3, 1, li);
-                    box(ctx, 1, 1, 1, h - 3, li);
-                    box(ctx, 1, h - 2, w - 2, 1, din);
-                    box(ctx, w - 2, 1, 1, h - 2, din);
+                    box(ctx, r, x + 1, y + 1, w - 3, 1, c[1]);
+                    box(ctx, r, x + 1, y + 1, 1, h - 3, c[1]);
+                    box(ctx, r, x + 1, y + h - 2, w - 2, 1, c[3]);
+                    box(ctx, r, x + w - 2, y + 1, 1, h - 2, c[3]);
                 }
             }
         } catch (e) {
