@@ -291,6 +291,8 @@
         this.name = applet.getAttribute('name') || '';
         this.width = Math.max(0, parseInt(applet.getAttribute('width'), 10) || 0);
         this.height = Math.max(0, parseInt(applet.getAttribute('height'), 10) || 0);
+        if (params.p === undefined)
+            problems.push('the parameter p is missing');
         this.applet = readApplet(params.p, problems);
         if (problems.length)
             warn('applet "' + this.name + '": ' + problems.join('; '));
