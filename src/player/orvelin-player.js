@@ -37,6 +37,7 @@
                   'LabelPosYDOWN:Int16 Hidden:Int16 ProgramUP:Raw ProgramOVER:Raw ' +
                   'ProgramDOWN:Raw').split(' ').map(function (f) { return f.split(':'); });
     var STATES = ['UP', 'OVER', 'DOWN'];
+    var MAX_BUTTONS = 101;
 
     // Faces the designer gets from fontconfig on Linux for the usual Windows names.
     var FACES = {
@@ -296,10 +297,13 @@
         this.applet = readApplet(params.p, problems);
         if (problems.length)
             warn('applet "' + this.name + '": ' + problems.join('; '));
+        // Without a readable count, the numbered parameters there are; never past the 101
+        // buttons an applet can hold.
         var count = this.applet.count;
         if (count < 0)
             for (count = 0; String(count + 1) in params;)
                 count++;
+        count = Math.min(count, MAX_BUTTONS);
         this.images = {};
         this.ratio = global.devicePixelRatio || 1;
         this.selected = null;

@@ -8,6 +8,7 @@ const { execFileSync } = require('child_process');
 const fs = require('fs');
 const os = require('os');
 const path = require('path');
+const zlib = require('zlib');
 
 const binDir = process.env.ORVELIN_BIN_DIR || path.join(__dirname, '..', '..', 'build', 'bin');
 const cliPath = path.join(binDir, 'orvelin-cli');
@@ -108,15 +109,14 @@ async function comparePngs(page, first, second, tolerance) {
 
 /** The colour on screen at page position (x, y), as "#rrggbb". */
 async function pixelAt(page, x, y) {
-    const shot = await page.screenshot({ clip: { x, y, width: 1, height: 1 } });
-    return page.evaluate(async (b64) => {
-        const bytes = Uint8Array.from(atob(b64), (c) => c.charCodeAt(0));
-        const bitmap = await createImageBitmap(new Blob([bytes], { type: 'image/png' }));
-        const canvas = new OffscreenCanvas(1, 1);
-        canvas.getContext('2d').drawImage(bitmap, 0, 0);
-        const d = canvas.getContext('2d').getImageData(0, 0, 1, 1).data;
-        return '#' + [d[0], d[1], d[2]].map((c) => c.toString(16).padStart(2, '0')).join('');
-    }, shot.toString('base64'));
+    // The one row of a 1 by 1 PNG: its filter byte, then the pixel itself whatever the filter.
+    const png = await page.screenshot({ clip: { x, y, width: 1, height: 1 } });
+    const data = [];
+    for (let at = 8; at < png.length; at += 12 + png.readUInt32BE(at)) {
+        if (png.toString('latin1', at + 4, at + 8) === 'IDAT')
+            data.push(png.subarray(at + 8, at + 8 + png.readUInt32BE(at)));
+    }
+    return '#' + zlib.inflateSync(Buffer.concat(data)).subarray(1, 4).toString('hex');
 }
 
 module.exports = { binDir, cli, tempDir, makePage, launch, comparePngs, pixelAt };
