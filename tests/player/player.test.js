@@ -80,7 +80,7 @@ test('links open in their targets; Tab reaches the buttons in order by their lab
             document.activeElement.tagName.toLowerCase() + ' ' +
             document.activeElement.getAttribute('aria-label')));
     }
-    assert.deepStrictEqual(names, ['a Home', 'a News', 'a Frame', 'button', 'button']);
+    assert.deepStrictEqual(names, ['a Home', 'a News', 'a Frame', 'button', 'a Also']);
     assert.strictEqual(await page.getByRole('button', { name: 'Pick me' }).count(), 1);
     assert.strictEqual(await page.getByRole('link', { name: 'Home' }).getAttribute('title'),
                        'To the second ');
@@ -91,6 +91,10 @@ test('links open in their targets; Tab reaches the buttons in order by their lab
     assert.match(popup.url(), /second\.htm$/);
     await page.mouse.click(frame.x, frame.y);
     await page.frame({ name: 'side' }).waitForURL(/second\.htm$/);
+    // A "javascript:" link runs in the page, even with a target.
+    await page.mouse.click((await spot(page, 'bar', 5)).x, news.y);
+    await page.waitForFunction(() => document.title === 'ran');
+    assert.strictEqual(context.pages().length, 2);
 
     await page.getByRole('link', { name: 'Home' }).focus();
     await Promise.all([page.waitForURL(/second\.htm$/), page.keyboard.press('Enter')]);
