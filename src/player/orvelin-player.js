@@ -53,7 +53,7 @@
         'georgia': '"DejaVu Serif"'
     };
 
-    var tried = typeof WeakSet === 'function' ? new WeakSet() : null;
+    var tried = new WeakSet(); // applets played or failed: never again
     var players = [];
 
     function warn(text) {
@@ -96,8 +96,7 @@
             return readColor(text, what);
         case 'Label':
         case 'Text':
-            return decodeText(text);
-        case 'File':
+        case 'File': // a bare file name beside the page
             return decodeText(text);
         default:
             return text;
@@ -652,11 +651,9 @@
     }
 
     function play(applet) {
-        // An applet that could not be played once is not tried again.
-        if (!applet.parentNode || (tried && tried.has(applet)))
+        if (!applet.parentNode || tried.has(applet))
             return;
-        if (tried)
-            tried.add(applet);
+        tried.add(applet);
         guard(function () {
             addStyle();
             players.push(new Player(applet));
