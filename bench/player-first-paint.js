@@ -87,8 +87,11 @@ async function firstPaint(context, url) {
     }
     if (process.env.ORVELIN_BENCH_ALL)
         console.log(JSON.stringify(times));
-    const p = median(times.player), s = median(times.static);
-    console.log(`first contentful paint, median of ${rounds}: player ${p.toFixed(1)} ms, ` +
-        `static links ${s.toFixed(1)} ms, ratio ${(p / s).toFixed(2)} (limit 1.5)`);
-    process.exitCode = p / s <= 1.5 ? 0 : 1;
+    // Each pair loads back to back, under the same load of the machine: the median of the
+    // pairs' ratios is steadier than the ratio of the medians.
+    const ratio = median(times.player.map((p, i) => p / times.static[i]));
+    console.log(`first contentful paint, median of ${rounds}: player ` +
+        `${median(times.player).toFixed(1)} ms, static links ${median(times.static).toFixed(1)} ms; ` +
+        `median ratio of the pairs ${ratio.toFixed(2)} (limit 1.5)`);
+    process.exitCode = ratio <= 1.5 ? 0 : 1;
 })();

@@ -73,6 +73,9 @@
     }
 
     function readInt(text, what) {
+        var n = parseInt(text, 10);
+        if (String(n) === text)
+            return n; // the generator's own form, the quick way
         if (!/^\s*-?\d+\s*$/.test(text))
             throw new Error(what + ' is not a whole number: "' + text + '"');
         return parseInt(text, 10);
@@ -381,8 +384,9 @@
     };
 
     function attribute(name, value) {
-        return ' ' + name + '="' + String(value).replace(/&/g, '&amp;').replace(/"/g, '&quot;')
-            .replace(/</g, '&lt;') + '"';
+        if (/[&"<]/.test(value))
+            value = value.replace(/&/g, '&amp;').replace(/"/g, '&quot;').replace(/</g, '&lt;');
+        return ' ' + name + '="' + value + '"';
     }
 
     /** The element of a button: a link where it has a URL, else a button; named by its label. */
