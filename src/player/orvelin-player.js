@@ -493,8 +493,13 @@
         if (this.applet.behaviour === 1) {
             var before = this.selected;
             this.selected = b;
-            if (before && before !== b)
+            if (before && before !== b) {
+                before.element.removeAttribute('aria-pressed');
                 this.update(before);
+            }
+            // Screen readers hear which radio button is down.
+            if (b.element.tagName !== 'A')
+                b.element.setAttribute('aria-pressed', 'true');
         }
         this.update(b);
     };

@@ -64,6 +64,8 @@ test('hover, press and release show each state; a tap on a radio button keeps it
     await r.page.touchscreen.tap(also.x + 20, also.y + 10);
     assert.strictEqual(await kit.pixelAt(r.page, also.x, also.y), DOWN);
     assert.strictEqual(await kit.pixelAt(r.page, pick.x, pick.y), UP);
+    assert.deepStrictEqual(await r.page.evaluate(() => [...document.querySelectorAll('[role=button]')]
+        .map((e) => e.getAttribute('aria-pressed'))), [null, 'true']);
     await r.context.close();
 });
 
