@@ -63,6 +63,10 @@ enum class Msg : std::size_t {
     // Design surface dialogs.
     RestoreDefaultsQuestion,
     IniWriteFailed,
+    // Desktop integration.
+    AssociateDone,
+    AssociateFailed, ///< followed by the reason
+    ShortCutFailed,  ///< followed by the reason
     Count
 };
 
