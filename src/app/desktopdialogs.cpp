@@ -18,6 +18,7 @@ QVBoxLayout* BuildQuestion(QDialog& dialog, const QString& text) {
     auto* label = new QLabel(text, &dialog);
     label->setObjectName(QStringLiteral("lblQuestion"));
     label->setWordWrap(true);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 60);
     layout->addWidget(label);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No, &dialog);
     buttons->button(QDialogButtonBox::Yes)->setObjectName(QStringLiteral("btnYes"));

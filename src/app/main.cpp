@@ -5,6 +5,7 @@
 // and idle (start-up timing, the smoke test); ORVELIN_REPORT_WINDOWS=1 names each
 // shown window on stderr; ORVELIN_SCREENSHOT_DIR=DIR saves a picture of each window
 // there once idle.
+#include "appicon.h"
 #include "designer.h"
 #include "desktopsetup.h"
 #include "frmdesign.h"
@@ -16,7 +17,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QIcon>
 #include <QStringList>
 #include <cstdio>
 #include <cstdlib>
@@ -97,7 +97,7 @@ int main(int argc, char** argv) {
     g_defaultHandler = qInstallMessageHandler(DisplayMessageHandler);
     QApplication app(argc, argv);
     qInstallMessageHandler(g_defaultHandler);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/orvelin.png")));
+    QApplication::setWindowIcon(orvelin::AppIcon());
     QApplication::setOrganizationName(QStringLiteral("Orvelin"));
     QApplication::setApplicationName(QStringLiteral("Orvelin"));
     // The design window only hides when closed; the main editor's close path ends

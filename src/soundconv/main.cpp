@@ -3,11 +3,11 @@
 //   SoundConv [-o DIR] FILE...   converts on the command line, no display needed;
 //                                exit status 1 when any file failed, 2 for a wrong
 //                                command line
+#include "appicon.h"
 #include "soundconversion.h"
 #include "soundconvwindow.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <cstring>
 #include <iostream>
 #include <string>
@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
     if (argc > 1)
         return ConvertOnCommandLine(argc, argv);
     QApplication app(argc, argv);
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/orvelin.png")));
+    QApplication::setWindowIcon(orvelin::AppIcon());
     orvelin::SoundConvWindow window;
     window.show();
     return QApplication::exec();
