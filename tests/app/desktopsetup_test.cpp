@@ -44,6 +44,9 @@ TEST(DesktopSetup, TheStartUpPromptRegistersOrvelinForOrvFilesWithTheRealTools) 
     TempFolder home;
     qputenv("XDG_DATA_HOME", QByteArray::fromStdString((home.dir() / "data").string()));
     qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString((home.dir() / "config").string()));
+    // Nor what an installed Orvelin registered for the whole system.
+    qputenv("XDG_DATA_DIRS", QByteArray::fromStdString((home.dir() / "system").string()));
+    qputenv("XDG_CONFIG_DIRS", QByteArray::fromStdString((home.dir() / "system").string()));
     qunsetenv("XDG_CURRENT_DESKTOP"); // the generic desktop, whatever runs the tests
     const std::string project = (home.dir() / "navbar.orv").string();
     WriteBytes(project, "Orvelin Project 1.0  Beta 6\r\n");
