@@ -1,6 +1,7 @@
 #!/bin/sh
 # Configures and builds Orvelin. Usage: scripts/build.sh BUILD_DIR [CMAKE OPTIONS...]
-# Two parallel jobs by default (ORVELIN_JOBS changes it).
+# Two parallel jobs by default (ORVELIN_JOBS changes it); ORVELIN_TARGETS names the
+# targets to build when not everything is needed.
 set -eu
 
 build_dir="$1"
@@ -11,4 +12,5 @@ if command -v ccache >/dev/null 2>&1; then
     launcher="-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
 fi
 cmake -S . -B "$build_dir" -DCMAKE_BUILD_TYPE="${ORVELIN_BUILD_TYPE:-RelWithDebInfo}" $launcher "$@" >/dev/null
-cmake --build "$build_dir" -j "${ORVELIN_JOBS:-2}"
+# shellcheck disable=SC2086 # the target list is meant to split into words
+cmake --build "$build_dir" -j "${ORVELIN_JOBS:-2}" ${ORVELIN_TARGETS:+--target $ORVELIN_TARGETS}

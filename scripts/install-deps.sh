@@ -8,7 +8,7 @@ PACKAGES="build-essential cmake g++ pkg-config
     qt6-base-dev qt6-base-dev-tools libgl-dev
     xvfb xauth xdotool x11-utils fonts-liberation fonts-dejavu-core imagemagick
     chromium sox libsndfile1-dev libsamplerate0-dev
-    desktop-file-utils appstream shared-mime-info xdg-utils ccache"
+    desktop-file-utils appstream shared-mime-info xdg-utils libfile-mimeinfo-perl ccache"
 # Node.js may come from elsewhere than Debian (a newer nodejs package bundles
 # npm); Debian's own packages are installed only where the commands are missing.
 command -v node >/dev/null 2>&1 || PACKAGES="$PACKAGES nodejs"

@@ -126,6 +126,8 @@ void MainMenus::buildOptions(QMenu* menu) {
     menu->addSeparator();
     QAction* advanced = add(menu, "mnuAdvanced", QStringLiteral("&Advanced..."));
     connect(advanced, &QAction::triggered, this, &MainMenus::advancedRequested);
+    QAction* associate = add(menu, "mnuAssociate", QStringLiteral("Open .orv &Files with Orvelin"));
+    connect(associate, &QAction::triggered, this, &MainMenus::associateRequested);
 }
 
 void MainMenus::buildTools(QMenu* menu) {

@@ -42,6 +42,7 @@ signals:
     void htmlViewRequested();
     void aboutRequested();
     void advancedRequested();
+    void associateRequested();
 
 private:
     QAction* add(QMenu* menu, const char* name, const QString& text);

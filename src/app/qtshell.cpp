@@ -1,18 +1,44 @@
 #include "qtshell.h"
 
+#include "qtdesktoptools.h"
+
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QUrl>
 
 namespace orvelin {
 
+namespace {
+
+// openUrl only starts xdg-open, so it reports success even when xdg-open then finds
+// nothing to open the file with: no default program for its type, no $BROWSER and
+// none of the browsers xdg-open falls back to.
+bool SomeProgramOpens(const QString& file) {
+    QtDesktopTools tools;
+    const DesktopTools::Result query =
+        tools.run("xdg-mime",
+                  {"query", "default", QMimeDatabase().mimeTypeForFile(file).name().toStdString()});
+    if (!query.started || !QString::fromStdString(query.output).trimmed().isEmpty() ||
+        !qEnvironmentVariableIsEmpty("BROWSER"))
+        return true;
+    for (const char* browser :
+         {"x-www-browser", "firefox", "chromium", "google-chrome", "epiphany", "konqueror"})
+        if (!QStandardPaths::findExecutable(QLatin1String(browser)).isEmpty())
+            return true;
+    return false;
+}
+
+} // namespace
+
 bool QtShell::OpenDocument(const std::string& path) {
     const QString file = QString::fromStdString(path);
     // openUrl reports success for a file that is not there on some desktops; the
     // caller's message must still appear.
-    if (!QFileInfo::exists(file))
+    if (!QFileInfo::exists(file) || !SomeProgramOpens(file))
         return false;
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }

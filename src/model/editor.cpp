@@ -338,7 +338,11 @@ void Editor::SoundConverter() {
 
 void Editor::Help() {
     const std::string page = JoinPath(ProgramFolder(), "help/help.htm");
-    if (!m_shell.OpenDocument(page))
+    // A missing page and a page no program opens need different remedies.
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(page, ec))
+        m_ui.showWarning(page + Messages()[Msg::LanguageFileNotFound]);
+    else if (!m_shell.OpenDocument(page))
         m_ui.showWarning(page + Messages()[Msg::HelpNotFound]);
 }
 

@@ -82,7 +82,9 @@ const char* MessageTable::englishDefault(Msg id) {
     case Msg::LanguageFileNotFound:
         return " not found";
     case Msg::HelpNotFound:
-        return " could not be opened.";
+        return " could not be opened: no program for web pages was found. Install a web "
+               "browser (for example: sudo apt install chromium) or choose the one that "
+               "opens web pages (xdg-settings set default-web-browser chromium.desktop).";
     case Msg::RestoreDefaultsQuestion:
         return "The default button and the advanced options will get their original values.";
     case Msg::IniWriteFailed:
@@ -123,6 +125,12 @@ const char* MessageTable::englishDefault(Msg id) {
     case Msg::PageNotOpened:
         return " could not be opened in a browser. Choose another browser in the list next "
                "to \"Test in Browser\", or add yours to the list with the button beside it.";
+    case Msg::AssociateDone:
+        return "Orvelin now opens .orv project files.";
+    case Msg::AssociateFailed:
+        return "Orvelin could not become the program for .orv files: ";
+    case Msg::ShortCutFailed:
+        return "Orvelin could not be added to the applications menu: ";
     case Msg::Count:
         break;
     }

@@ -82,6 +82,10 @@ enum class Msg : std::size_t {
     // Publishing, later additions.
     PageNotWritten, ///< followed by the page's path, ": " and the reason
     PageNotOpened,  ///< after the page's path
+    // Desktop integration.
+    AssociateDone,
+    AssociateFailed, ///< followed by the reason
+    ShortCutFailed,  ///< followed by the reason
     Count
 };
 

@@ -68,6 +68,17 @@ std::string ProgramFolder() {
     return (exeFolder.parent_path() / "share" / "orvelin").string();
 }
 
+std::string ExecutablePath() {
+    std::error_code ec;
+    return fs::read_symlink("/proc/self/exe", ec).string();
+}
+
+bool RunFromBuildFolder() {
+    std::error_code ec;
+    const fs::path exeFolder = executableFolder();
+    return !exeFolder.empty() && fs::is_regular_file(exeFolder / "Orvel.ini", ec);
+}
+
 void SetProgramFolderOverride(const std::string& folder) {
     overrideFolder() = folder;
 }

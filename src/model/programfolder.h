@@ -13,6 +13,13 @@ namespace orvelin {
  */
 std::string ProgramFolder();
 
+/// The running program's own path ("" when it cannot be found).
+std::string ExecutablePath();
+
+/// Whether the program runs from its build folder (its own folder holds Orvel.ini)
+/// rather than from an installed copy.
+bool RunFromBuildFolder();
+
 /// Sets the override; an empty text removes it.
 void SetProgramFolderOverride(const std::string& folder);
 

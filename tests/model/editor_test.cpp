@@ -493,7 +493,11 @@ TEST_F(EditorFixture, MakeDefaultStoresTheCurrentButtonForNewOnes) {
 TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     Start();
     const std::string dir = folder.dir().string();
+    const std::string page = dir + "/help/help.htm";
     SetProgramFolderOverride(dir);
+    editor.Help(); // no page: not handed to the desktop at all
+    std::filesystem::create_directories(dir + "/help");
+    orvelin::testing::WriteBytes(page, "<html></html>");
     editor.SoundConverter();
     editor.Help();
     shell.succeed = false;
@@ -503,9 +507,13 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     ASSERT_EQ(shell.started.size(), 2u);
     EXPECT_EQ(shell.started[0].first, dir + "/SoundConv");
     EXPECT_TRUE(shell.started[0].second.empty());
-    EXPECT_EQ(shell.opened, (Texts{dir + "/help/help.htm", dir + "/help/help.htm"}));
-    EXPECT_EQ(ui.messages(),
-              (Texts{dir + "/SoundConv not found.", dir + "/help/help.htm could not be opened."}));
+    EXPECT_EQ(shell.opened, (Texts{page, page}));
+    ASSERT_EQ(ui.messages().size(), 3u);
+    EXPECT_EQ(ui.messages()[0], page + " not found");
+    EXPECT_EQ(ui.messages()[1], dir + "/SoundConv not found.");
+    // The page's path first, then what to install or choose.
+    EXPECT_TRUE(ui.messages()[2].starts_with(page + " could not be opened: "));
+    EXPECT_NE(ui.messages()[2].find("apt install"), std::string::npos);
 }
 
 TEST_F(EditorFixture, OptionCommandsStoreTheChoiceAndShowIt) {
