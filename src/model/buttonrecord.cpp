@@ -260,14 +260,55 @@ bool FieldCanHold(FieldKind kind, char c) {
 }
 
 std::string CleanFieldText(FieldKind kind, std::string_view text, bool* removed) {
-    std::string out;
-    out.reserve(text.size());
-    for (const char c : text)
-        if (FieldCanHold(kind, c))
-            out += c;
+    std::string out(text);
+    const bool any = CleanFieldInPlace(kind, out);
     if (removed)
-        *removed = out.size() != text.size();
+        *removed = any;
     return out;
+}
+
+bool CleanFieldInPlace(FieldKind kind, std::string& text) {
+    // FieldCanHold as a table per kind: every load passes every text of every button.
+    using Table = std::array<bool, 256>;
+    static const std::array<Table, 6> tables = [] {
+        std::array<Table, 6> all{};
+        for (std::size_t k = 0; k < all.size(); ++k)
+            for (std::size_t b = 0; b < 256; ++b)
+                all[k][b] = FieldCanHold(static_cast<FieldKind>(k), static_cast<char>(b));
+        return all;
+    }();
+    const Table& holds = tables.at(static_cast<std::size_t>(kind));
+    const auto refused = [&holds](char c) { return !holds[static_cast<unsigned char>(c)]; };
+    // Eight bytes at a time first: a word with no control character, DEL, "|" or '"'
+    // holds nothing any field refuses, and that is nearly every word of a project.
+    constexpr std::uint64_t ones = 0x0101010101010101ull;
+    constexpr std::uint64_t highs = 0x8080808080808080ull;
+    const auto hasZero = [](std::uint64_t w) { return (w - ones) & ~w & highs; };
+    std::size_t at = 0;
+    for (; at + 8 <= text.size(); at += 8) {
+        std::uint64_t w = 0;
+        std::memcpy(&w, text.data() + at, 8);
+        if (((w - 0x20 * ones) & ~w & highs) | hasZero(w ^ (0x7F * ones)) |
+            hasZero(w ^ ('|' * ones)) | hasZero(w ^ ('"' * ones)))
+            break;
+    }
+    const auto first =
+        std::find_if(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), refused);
+    if (first == text.end())
+        return false;
+    text.erase(std::remove_if(first, text.end(), refused), text.end());
+    return true;
+}
+
+std::vector<int> CleanTextFields(ButtonRecord& record) {
+    std::vector<int> changed;
+    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
+        const FieldSlot& slot = fieldSlot(pos);
+        if (slot.text && CleanFieldInPlace(ButtonFields()[static_cast<std::size_t>(pos)].kind,
+                                           record.*slot.text))
+            changed.push_back(pos);
+    }
+    return changed;
 }
 
 namespace {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvelin {
 
@@ -119,6 +120,12 @@ bool FieldCanHold(FieldKind kind, char c);
  * and where the user types. `removed`, when given, tells whether anything went.
  */
 std::string CleanFieldText(FieldKind kind, std::string_view text, bool* removed = nullptr);
+
+/// CleanFieldText in place; true when something was removed.
+bool CleanFieldInPlace(FieldKind kind, std::string& text);
+
+/// Cleans every text field of `record` in place; the positions of those that changed.
+std::vector<int> CleanTextFields(ButtonRecord& record);
 
 /// The 50 fields in their canonical order.
 const std::array<ButtonField, kButtonFieldCount>& ButtonFields();

@@ -289,15 +289,62 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
     return std::nullopt;
 }
 
-// Shared end of both readers: keep what was read completely and tell the user.
+constexpr std::size_t kCleanedLinesShown = 10;
+
+/**
+ * Removes from the loaded applet fields and buttons what their fields cannot hold (a
+ * damaged or hand-made file may put a double quote into a font name, which would end
+ * its parameter in every page built). Returns one line per place that changed, such
+ * as "Button 3: FontUP, URL".
+ */
+std::vector<std::string> cleanLoadedFields(ProjectModel& model) {
+    std::vector<std::string> lines;
+    const MessageTable& msg = Messages();
+    const std::pair<std::string*, const char*> appletTexts[] = {
+        {&model.BackImg, "BackImg"},
+        {&model.AppletProgramOVER, "AppletProgramOVER"},
+        {&model.AppletProgramDOWN, "AppletProgramDOWN"},
+        {&model.AppletProgramOUT, "AppletProgramOUT"},
+        {&model.AppletProgramStart, "AppletProgramStart"},
+        {&model.AppletName, "AppletName"}};
+    std::string names;
+    for (const auto& [text, name] : appletTexts) {
+        const FieldKind kind = text == &model.BackImg ? FieldKind::File : FieldKind::Raw;
+        if (CleanFieldInPlace(kind, *text))
+            names += (names.empty() ? "" : ", ") + std::string(name);
+    }
+    if (!names.empty())
+        lines.push_back(msg[Msg::AppletPrefix] + ": " + names);
+    for (int i = 1; i <= model.ButtonCount; ++i) {
+        names.clear();
+        for (const int pos : CleanTextFields(model.Button(i)))
+            names += (names.empty() ? "" : ", ") +
+                     std::string(ButtonFields()[static_cast<std::size_t>(pos)].name);
+        if (!names.empty())
+            lines.push_back(msg[Msg::ButtonPrefix] + std::to_string(i) + ": " + names);
+    }
+    return lines;
+}
+
+// Shared end of both readers: keep what was read completely, clean it and tell the user.
 bool finishLoad(ProjectModel& model, const std::string& path, UserInterface& ui,
                 const std::optional<LoadError>& error) {
     ui.hideProgress();
-    if (error) {
+    if (error)
         model.ButtonCount = static_cast<std::int16_t>(error->button >= 2 ? error->button - 1 : 0);
+    const std::vector<std::string> cleaned = cleanLoadedFields(model);
+    if (error)
         ui.showMessage(Messages()[Msg::ErrorLoading] + std::string(kCrLf) + error->cause);
-        return false;
+    if (!cleaned.empty()) {
+        std::string text = Messages()[Msg::CharactersRemoved];
+        for (std::size_t i = 0; i < cleaned.size() && i < kCleanedLinesShown; ++i)
+            text.append(kCrLf).append(cleaned[i]);
+        if (cleaned.size() > kCleanedLinesShown)
+            text.append(kCrLf).append("...");
+        ui.showMessage(text);
     }
+    if (error)
+        return false;
     model.Saved = true;
     model.ProjectFileName = path;
     return true;

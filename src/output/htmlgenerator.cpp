@@ -69,11 +69,25 @@ void closeParam(std::string& out) {
     out.append(kCrLf);
 }
 
+/// `text` without what an attribute value read by "|" cannot hold (a double quote would
+/// end it, a "|" shift the fields, a line break split the line): whatever the model holds,
+/// every parameter stays inside its quotes with its fields in place.
+void appendParameterText(std::string& out, std::string_view text) {
+    const auto holds = [](char c) { return FieldCanHold(FieldKind::Raw, c); };
+    if (std::all_of(text.begin(), text.end(), holds)) {
+        out.append(text);
+        return;
+    }
+    for (const char c : text)
+        if (holds(c))
+            out += c;
+}
+
 // The field writers below each add one field in its applet encoding and the "|"
 // that ends it.
 
 void raw(std::string& out, std::string_view field) {
-    out.append(field);
+    appendParameterText(out, field);
     out += '|';
 }
 
@@ -237,7 +251,7 @@ GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
     out.append(kCrLf);
 
     out.append("<applet name = \"");
-    out.append(model.AppletName);
+    appendParameterText(out, model.AppletName);
     out.append("\" code=\"");
     out.append(kAppletClassFile);
     out.append("\" archive=\"");

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <optional>
+#include <random>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -60,11 +62,11 @@ ProjectModel RichProject() {
     m.BackImg = "C:\\Bilder\\Hintergrund äöü.gif";
     m.BackImgStyle = 2;
     m.AppletProgramOVER = "ShowButton(2);";
-    m.AppletProgramDOWN = "GoToURL(\"http://example.org/a b\",\"_top\");";
-    m.AppletProgramOUT = "HideButton(2);PlaySound(\"out.au\");";
+    m.AppletProgramDOWN = "GoToURL('http://example.org/a b','_top');";
+    m.AppletProgramOUT = "HideButton(2);PlaySound('out.au');";
     m.BgOffsetX = -7;
     m.BgOffsetY = 32767;
-    m.AppletProgramStart = "SetLabel(1,\"Grüße\");";
+    m.AppletProgramStart = "SetLabel(1,'Grüße');";
     m.AppletName = "written but never read back";
     for (int b = 1; b <= 3; ++b) {
         for (int pos = 0; pos < kButtonFieldCount; ++pos) {
@@ -75,9 +77,10 @@ ProjectModel RichProject() {
                          : kind == FieldKind::Color ? std::to_string(b * 1000000 + pos)
                          : kind == FieldKind::Label
                              ? "Line " + n + "\\nsays \"hi\" | ünïcödé  ; &amp"
-                             : "field " + n + " \"q\" é;");
+                         : kind == FieldKind::Raw ? "field " + n + " 'q' é;"
+                                                  : "field " + n + " \"q\" é;");
         }
-        m.Button(b).ProgramDOWN = "ShowButton(" + std::to_string(b) + ");SetStatus(\"a;b\");";
+        m.Button(b).ProgramDOWN = "ShowButton(" + std::to_string(b) + ");SetStatus('a;b');";
     }
     m.ButtonCount = 3;
     return m;
@@ -291,4 +294,83 @@ TEST_F(ProjectFileTest, ProgressCountsTheButtonsInTheMessageTablesWords) {
     ASSERT_TRUE(LoadProject(model, path(), loading));
     EXPECT_EQ(loading.progressTexts.back(), "Please Wait...|Loading Button # 3 of 3");
     EXPECT_FALSE(loading.progressVisible);
+}
+
+TEST_F(ProjectFileTest, CharactersAFieldCannotHoldAreRemovedWithOneWarning) {
+    Texts buttons = ButtonsUpTo(3);
+    buttons[0].replace(buttons[0].find("|Arial|"), 7, "|Arial\"><script>|");
+    buttons[0].replace(buttons[0].rfind("||||"), 4, "|1 2;\r6 5;|||");
+    buttons[2].replace(buttons[2].find("|_self|"), 7, "|_se\tlf|");
+    std::string text = ProjectWith(3, buttons);
+    text.replace(text.find("|0|0|||\r\n"), 9, "|0|0|1 \"2\";||\r\n");
+    ASSERT_TRUE(LoadProject(model, write(text), ui));
+    EXPECT_EQ(model.Button(1).FontUP, "Arial><script>");
+    EXPECT_EQ(model.Button(1).ProgramUP, "1 2;6 5;");
+    EXPECT_EQ(model.Button(3).Target, "_self");
+    EXPECT_EQ(model.AppletProgramStart, "1 2;");
+    EXPECT_EQ(ui.messages(), Texts{"Characters that these fields cannot hold were removed:\r\n"
+                                   "Applet: AppletProgramStart\r\nButton 1: FontUP, ProgramUP\r\n"
+                                   "Button 3: Target"});
+    FakeUserInterface legacy;
+    ASSERT_TRUE(LoadProject_OLD(
+        model, folder.write("old.ini", "[Buttons]\nButtonCount=1\nFontDOWN_1=Ari\"al\n"), legacy));
+    EXPECT_EQ(model.Button(1).FontDOWN, "Arial");
+    EXPECT_EQ(
+        legacy.messages(),
+        Texts{"Characters that these fields cannot hold were removed:\r\nButton 1: FontDOWN"});
+}
+
+TEST_F(ProjectFileTest, EverySavedProjectLoadsBackUnchanged) {
+    // Random projects of the values each field can hold load back as they were saved.
+    // Labels leave out "|" (read back as "I" by design) and "&" (the start of the label
+    // encoding's own tokens, such as "&nbsp").
+    const std::string characters[] = {
+        "a",    "Z", "0",   " ",        "\"",           "|",
+        ";",    "&", "\\n", "\t",       "\r",           "\n",
+        "=",    "[", "%",   "\xC3\xA9", "\xE2\x82\xAC", "\xF0\x9F\x98\x80",
+        "\x7F", "-", ",",   "'"};
+    std::mt19937 random(1);
+    const auto text = [&](FieldKind kind) {
+        std::string value;
+        for (int n = static_cast<int>(random() % 8); n > 0; --n) {
+            const std::string& c = characters[random() % std::size(characters)];
+            const bool holds =
+                std::all_of(c.begin(), c.end(), [kind](char b) { return FieldCanHold(kind, b); });
+            if (holds && !(kind == FieldKind::Label && (c == "|" || c == "&")))
+                value += c;
+        }
+        return value;
+    };
+    const auto number = [&](std::int64_t low, std::int64_t high) {
+        return std::to_string(std::uniform_int_distribution<std::int64_t>(low, high)(random));
+    };
+    for (int round = 0; round < 100; ++round) {
+        ProjectModel saved;
+        saved.AppletWidth = static_cast<std::int16_t>(random());
+        saved.BackGround = static_cast<std::int32_t>(random());
+        saved.BgOffsetY = static_cast<std::int16_t>(random());
+        saved.BackImg = text(FieldKind::File);
+        for (std::string* program : {&saved.AppletProgramOVER, &saved.AppletProgramDOWN,
+                                     &saved.AppletProgramOUT, &saved.AppletProgramStart})
+            *program = text(FieldKind::Raw);
+        saved.ButtonCount = static_cast<std::int16_t>(round == 0 ? kMaxButtons : random() % 5);
+        for (int i = 1; i <= saved.ButtonCount; ++i)
+            for (int pos = 0; pos < kButtonFieldCount; ++pos) {
+                const FieldKind kind = ButtonFields()[static_cast<std::size_t>(pos)].kind;
+                ASSERT_FALSE(SetFieldText(saved.Button(i), pos,
+                                          kind == FieldKind::Int16 ? number(-32768, 32767)
+                                          : kind == FieldKind::Color
+                                              ? number(-2147483648LL, 2147483647)
+                                              : text(kind)));
+            }
+        ASSERT_TRUE(SaveProject(saved, path(), ui));
+        ProjectModel loaded;
+        ASSERT_TRUE(LoadProject(loaded, path(), ui));
+        ASSERT_TRUE(ui.messages().empty()) << ui.messages()[0];
+        saved.AppletName = loaded.AppletName; // never read back, by design
+        saved.ProjectFileName = saved.LoadedFrom = path();
+        ASSERT_EQ(AppletFields(loaded), AppletFields(saved));
+        for (int i = 1; i <= saved.ButtonCount; ++i)
+            ASSERT_EQ(loaded.Button(i), saved.Button(i)) << "round " << round << " button " << i;
+    }
 }
