@@ -223,7 +223,11 @@ void removeStaleTemporaries(const fs::path& target) {
             name.compare(0, prefix.size(), prefix) != 0 ||
             name.find_first_not_of(kTemporaryLetters, prefix.size()) != std::string::npos)
             continue;
-        const int fd = ::open(entry.path().c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+        // A killed save may have given its file the target's write-only mode already.
+        constexpr int flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+        int fd = ::open(entry.path().c_str(), O_RDONLY | flags);
+        if (fd < 0 && errno == EACCES)
+            fd = ::open(entry.path().c_str(), O_WRONLY | flags);
         if (fd < 0)
             continue;
         struct stat info {};
