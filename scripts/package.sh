@@ -12,7 +12,11 @@ if ! command -v dpkg-shlibdeps >/dev/null 2>&1; then
     echo "package: dpkg-shlibdeps is missing; install the package dpkg-dev" >&2
     exit 1
 fi
-scripts/build.sh "$build_dir" -DBUILD_TESTING=OFF -DORVELIN_BENCHMARKS=OFF >&2
+# Debian's hardening flags (stack protector, fortified functions, full RELRO).
+export DEB_BUILD_MAINT_OPTIONS=hardening=+all
+scripts/build.sh "$build_dir" -DBUILD_TESTING=OFF -DORVELIN_BENCHMARKS=OFF \
+    -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CPPFLAGS) $(dpkg-buildflags --get CXXFLAGS)" \
+    -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" >&2
 cd "$build_dir"
 cpack -G DEB >&2
 ls "$PWD"/orvelin_*.deb
