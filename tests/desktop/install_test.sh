@@ -21,7 +21,7 @@ cmake --install "$build" --prefix "$prefix" >"$scratch/install.log" ||
     { cat "$scratch/install.log"; fail "cmake --install failed"; }
 
 share="$prefix/share"
-for file in bin/orvelin bin/orvelin-cli share/orvelin/Orvel.ini share/orvelin/help/help.htm \
+for file in bin/orvelin bin/orvelin-cli share/orvelin/Orvel.ini share/orvelin/orvelin-player.js share/orvelin/help/help.htm \
     share/orvelin/desktop/org.orvelin.Orvelin.desktop share/man/man1/orvelin.1.gz \
     share/man/man1/orvelin-cli.1.gz share/icons/hicolor/scalable/apps/orvelin.svg \
     share/icons/hicolor/48x48/apps/orvelin.png \
