@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -109,6 +110,12 @@ QWidget* FrmMain::buildButtonColumn() {
     commands->addWidget(remove);
     layout->addWidget(duplicate);
     layout->addLayout(commands);
+    auto* build = new QPushButton(QStringLiteral("Build HTML"), column);
+    build->setObjectName(QStringLiteral("btnBuild"));
+    build->setToolTip(QStringLiteral("Show the applet code and build the page"));
+    // The same request as View > Build HTML (F5), so both open the one HTML window.
+    connect(build, &QPushButton::clicked, this, &FrmMain::htmlViewRequested);
+    layout->addWidget(build);
     column->setFixedWidth(120);
     return column;
 }

@@ -123,6 +123,13 @@ const char* MessageTable::englishDefault(Msg id) {
     case Msg::PageNotOpened:
         return " could not be opened in a browser. Choose another browser in the list next "
                "to \"Test in Browser\", or add yours to the list with the button beside it.";
+    case Msg::PlayerMissing:
+        return "The HTML5 player %1 is missing, so no page was written: without it the page "
+               "would show nothing in today's browsers. Put orvelin-player.js back in the "
+               "program folder, or turn off \"Play pages with the HTML5 player\" in "
+               "Options > Advanced (orvelin-cli: --no-player).";
+    case Msg::PlayerNotCopied:
+        return "Can't copy the HTML5 player to ";
     case Msg::Count:
         break;
     }

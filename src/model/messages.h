@@ -82,6 +82,9 @@ enum class Msg : std::size_t {
     // Publishing, later additions.
     PageNotWritten, ///< followed by the page's path, ": " and the reason
     PageNotOpened,  ///< after the page's path
+    // HTML5 player.
+    PlayerMissing,   ///< "%1" stands for the player's path in the program folder
+    PlayerNotCopied, ///< followed by the path it was to be copied to
     Count
 };
 

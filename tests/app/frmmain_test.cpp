@@ -302,3 +302,11 @@ TEST(MainMenus, RecentEntryOpensItsProject) {
     EXPECT_EQ(w.model.ProjectFileName, kExample);
     EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
 }
+
+TEST(MainWindow, BuildButtonAndF5MenuCommandBothAskForTheHtmlWindow) {
+    MainWindow w;
+    QSignalSpy requested(&w.window, &FrmMain::htmlViewRequested);
+    w.click("btnBuild");
+    w.action("mnuBuildHtml")->trigger();
+    EXPECT_EQ(requested.count(), 2);
+}
