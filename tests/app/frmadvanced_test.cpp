@@ -47,8 +47,7 @@ TEST(FrmAdvanced, EachClickOnAutoTileIsStoredAtOnce) {
     EXPECT_EQ(changed.count(), 2);
     ASSERT_TRUE(d.form.chkHtml5Player()->isChecked()); // plays by default
     d.click("chkHtml5Player");
-    EXPECT_EQ(d.settings.value(SettingKey::Html5Player), "0");
-    EXPECT_EQ(d.autoTile(), "0");
+    EXPECT_EQ(d.settings.value(SettingKey::Html5Player) + d.autoTile(), "00");
     EXPECT_TRUE(d.ui.shown.empty()); // no confirmation
 
     d.click("btnOk");
