@@ -79,7 +79,12 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
             });
 }
 
-FrmMain::~FrmMain() = default;
+FrmMain::~FrmMain() {
+    // A field that still has focus ends its edit when the window goes, and that edit
+    // writes back through this window: let it happen while the window is still whole.
+    if (QWidget* field = focusWidget())
+        field->clearFocus();
+}
 
 QWidget* FrmMain::buildButtonColumn() {
     auto* column = new QWidget(this);
