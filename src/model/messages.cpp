@@ -125,8 +125,8 @@ const char* MessageTable::englishDefault(Msg id) {
                "to \"Test in Browser\", or add yours to the list with the button beside it.";
     case Msg::PlayerMissing:
         return "The HTML5 player %1 is missing, so no page was written: without it the page "
-               "would show nothing in today's browsers. Put orvelin-player.js back in the "
-               "program folder, or turn off \"Play pages with the HTML5 player\" in "
+               "would show nothing in today's browsers.\r\n\r\nPut orvelin-player.js back in "
+               "the program folder, or turn off \"Play pages with the HTML5 player\" in "
                "Options > Advanced (orvelin-cli: --no-player).";
     case Msg::PlayerNotCopied:
         return "Can't copy the HTML5 player to ";
