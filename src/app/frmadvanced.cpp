@@ -21,6 +21,11 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     m_chkAutoTile =
         new QCheckBox(QStringLiteral("Tile small background images automatically"), this);
     m_chkAutoTile->setObjectName(QStringLiteral("chkAutoTile"));
+    m_chkHtml5Player = new QCheckBox(QStringLiteral("Play pages with the HTML5 player"), this);
+    m_chkHtml5Player->setObjectName(QStringLiteral("chkHtml5Player"));
+    m_chkHtml5Player->setToolTip(
+        QStringLiteral("Test in Browser and Build Applet put orvelin-player.js beside the page, "
+                       "so that the buttons play in today's browsers without Java"));
     m_btnRestoreDefaults = new QPushButton(QStringLiteral("Restore Defaults"), this);
     m_btnRestoreDefaults->setObjectName(QStringLiteral("btnRestoreDefaults"));
     m_btnRestoreDefaults->setAutoDefault(false);
@@ -34,19 +39,27 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     buttons->addWidget(m_btnOk);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_chkAutoTile);
+    layout->addWidget(m_chkHtml5Player);
     layout->addStretch(1);
     layout->addLayout(buttons);
 
-    m_chkAutoTile->setChecked(m_settings.flag(SettingKey::AutoTile));
+    showOptions();
     // clicked, not toggled: only the user's click stores, filling the box does not.
     connect(m_chkAutoTile, &QCheckBox::clicked, this, &FrmAdvanced::chkAutoTile_Click);
+    connect(m_chkHtml5Player, &QCheckBox::clicked, this,
+            [this](bool on) { m_settings.setFlag(SettingKey::Html5Player, on); });
     connect(m_btnRestoreDefaults, &QPushButton::clicked, this,
             &FrmAdvanced::btnRestoreDefaults_Click);
     connect(m_btnOk, &QPushButton::clicked, this, &FrmAdvanced::btnOk_Click);
 }
 
-void FrmAdvanced::showEvent(QShowEvent* event) {
+void FrmAdvanced::showOptions() {
     m_chkAutoTile->setChecked(m_settings.flag(SettingKey::AutoTile));
+    m_chkHtml5Player->setChecked(m_settings.flag(SettingKey::Html5Player));
+}
+
+void FrmAdvanced::showEvent(QShowEvent* event) {
+    showOptions();
     QDialog::showEvent(event);
 }
 
@@ -59,10 +72,10 @@ void FrmAdvanced::btnRestoreDefaults_Click() {
     if (m_ui.askOkCancel(Messages()[Msg::RestoreDefaultsQuestion]) != UserInterface::Answer::Ok)
         return;
     m_settings.SetDefaultButton(kFactoryDefaultButton);
-    m_settings.setValue(SettingKey::AutoTile, SettingDefinition(SettingKey::AutoTile).defaultValue);
-    const bool autoTile = m_settings.flag(SettingKey::AutoTile);
-    m_chkAutoTile->setChecked(autoTile);
-    emit autoTileChanged(autoTile);
+    for (SettingKey option : {SettingKey::AutoTile, SettingKey::Html5Player})
+        m_settings.setValue(option, SettingDefinition(option).defaultValue);
+    showOptions();
+    emit autoTileChanged(m_settings.flag(SettingKey::AutoTile));
     emit defaultsRestored();
 }
 

@@ -11,8 +11,9 @@ class Settings;
 class UserInterface;
 
 /**
- * frmAdvanced: the automatic tiling option, stored the moment it is clicked, and the
- * way back to the factory settings of the default button and of this dialog's options.
+ * frmAdvanced: the automatic tiling and HTML5 player options, each stored the moment it
+ * is clicked, and the way back to the factory settings of the default button and of
+ * this dialog's options.
  */
 class FrmAdvanced : public QDialog {
     Q_OBJECT
@@ -20,6 +21,7 @@ public:
     FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent = nullptr);
 
     QCheckBox* chkAutoTile() const { return m_chkAutoTile; }
+    QCheckBox* chkHtml5Player() const { return m_chkHtml5Player; }
 
 signals:
     /// AutoTile was stored; the main window's own check mark follows it.
@@ -34,10 +36,13 @@ private:
     void chkAutoTile_Click(bool checked);
     void btnRestoreDefaults_Click();
     void btnOk_Click();
+    /// The check boxes show the stored options.
+    void showOptions();
 
     Settings& m_settings;
     UserInterface& m_ui;
     QCheckBox* m_chkAutoTile = nullptr;
+    QCheckBox* m_chkHtml5Player = nullptr;
     QPushButton* m_btnRestoreDefaults = nullptr;
     QPushButton* m_btnOk = nullptr;
 };

@@ -147,11 +147,15 @@ void FrmHTML::btnPreview_Click() {
     // The first entry is the desktop's default browser, whatever program it lists.
     const std::string program =
         position == 0 ? std::string() : m_browsers[static_cast<std::size_t>(position)].program;
-    PreviewPage(m_model, {m_code, m_usesJavaScript}, program, m_ui, m_shell);
+    PreviewPage(m_model, pageSource(), program, m_ui, m_shell);
 }
 
 void FrmHTML::btnSave_Click() {
-    BuildApplet(m_model, {m_code, m_usesJavaScript}, m_ui);
+    BuildApplet(m_model, pageSource(), m_ui);
+}
+
+PageSource FrmHTML::pageSource() const {
+    return {m_code, m_usesJavaScript, m_settings.flag(SettingKey::Html5Player)};
 }
 
 void FrmHTML::btnCopyToClb_Click() {

@@ -2,6 +2,7 @@
 
 #include "browserlist.h"
 #include "projectmodel.h"
+#include "publishing.h"
 #include "settings.h"
 #include "shell.h"
 #include "userinterface.h"
@@ -56,6 +57,8 @@ private:
     void btnBrowsers_Click();
     /// Fills cmbBrowser and its hidden program list from the settings.
     void loadBrowsers();
+    /// The generated code as preview and build write it, with the player when it is on.
+    PageSource pageSource() const;
 
     ProjectModel& m_model;
     UserInterface& m_ui;

@@ -17,6 +17,7 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -78,7 +79,12 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
             });
 }
 
-FrmMain::~FrmMain() = default;
+FrmMain::~FrmMain() {
+    // A field that still has focus ends its edit when the window goes, and that edit
+    // writes back through this window: let it happen while the window is still whole.
+    if (QWidget* field = focusWidget())
+        field->clearFocus();
+}
 
 QWidget* FrmMain::buildButtonColumn() {
     auto* column = new QWidget(this);
@@ -109,6 +115,12 @@ QWidget* FrmMain::buildButtonColumn() {
     commands->addWidget(remove);
     layout->addWidget(duplicate);
     layout->addLayout(commands);
+    auto* build = new QPushButton(QStringLiteral("Build HTML"), column);
+    build->setObjectName(QStringLiteral("btnBuild"));
+    build->setToolTip(QStringLiteral("Show the applet code and build the page"));
+    // The same request as View > Build HTML (F5), so both open the one HTML window.
+    connect(build, &QPushButton::clicked, this, &FrmMain::htmlViewRequested);
+    layout->addWidget(build);
     column->setFixedWidth(120);
     return column;
 }

@@ -21,21 +21,26 @@ const char* const kHtmlUsage =
     "      file's name.\n";
 
 const char* const kPageUsage =
-    "  orvelin-cli page PROJECT [--applet-name TEXT]\n"
+    "  orvelin-cli page PROJECT [--applet-name TEXT] [--no-player]\n"
     "      Writes the whole page that the designer's \"Test in Browser\" and \"Build\n"
     "      Applet\" write to stdout: the applet code inside <Html>, <Body> (which\n"
-    "      calls InitJSCaller() when a button links to JavaScript) and <Center>.\n"
-    "      A page with characters beyond ASCII starts with a UTF-8 byte-order mark.\n";
+    "      calls InitJSCaller() when a button links to JavaScript) and <Center>,\n"
+    "      then the line <script src=\"orvelin-player.js\"></script> that plays the\n"
+    "      buttons in today's browsers. --no-player leaves that line out: the plain\n"
+    "      applet page. A page with characters beyond ASCII starts with a UTF-8\n"
+    "      byte-order mark.\n";
 
 const char* const kBuildUsage =
-    "  orvelin-cli build PROJECT OUT.html [--applet-name TEXT]\n"
+    "  orvelin-cli build PROJECT OUT.html [--applet-name TEXT] [--no-player]\n"
     "      Does what the designer's \"Build Applet\" does: writes the page as\n"
-    "      OUT.html and copies beside it the applet files (Orvel1b6.class and\n"
-    "      Orvel1b6.jar from the program folder) and every image and sound of the\n"
-    "      project under the names the applet code gives them. Each message the\n"
+    "      OUT.html and copies beside it the HTML5 player (orvelin-player.js), the\n"
+    "      applet files the program folder holds (Orvel1b6.class, Orvel1b6.jar) and\n"
+    "      every image and sound of the project under the names the applet code\n"
+    "      gives them. Without the player in the program folder nothing is written.\n"
+    "      --no-player builds the plain applet page, which needs the applet files:\n"
+    "      missing ones stop the build after the page is written. Each message the\n"
     "      designer would show goes to stderr; the build goes on and stops where\n"
-    "      the designer's does (missing applet files stop it after the page is\n"
-    "      written). Exit status 1 when any message was shown.\n";
+    "      the designer's does. Exit status 1 when any message was shown.\n";
 
 namespace {
 
@@ -44,17 +49,20 @@ struct LoadedCode {
     ProjectModel model;
     GeneratedHtml html;
     std::vector<std::string> positional;
+    bool withPlayer = false;
 };
 
 /**
- * Reads "PROJECT [OTHER...] [--applet-name TEXT]" with `count` positional words, loads
- * the project and generates its code. Gives the exit status when the command must
- * end here.
+ * Reads "PROJECT [OTHER...] [--applet-name TEXT]" with `count` positional words (and
+ * "--no-player" for the commands that write a page), loads the project and generates
+ * its code. Gives the exit status when the command must end here.
  */
 std::optional<int> loadCode(const char* command, const char* usage, std::size_t count,
-                            const std::vector<std::string>& args, std::ostream& err,
-                            ConsoleUserInterface& ui, LoadedCode& loaded) {
-    const Arguments parsed = ParseArguments(args, {"--applet-name"});
+                            bool writesPage, const std::vector<std::string>& args,
+                            std::ostream& err, ConsoleUserInterface& ui, LoadedCode& loaded) {
+    const Arguments parsed =
+        ParseArguments(args, {"--applet-name"},
+                       writesPage ? std::set<std::string>{"--no-player"} : std::set<std::string>{});
     if (parsed.error.empty() && parsed.positional.size() != count)
         err << "orvelin-cli " << command
             << (count == 1 ? ": give exactly one project file\n"
@@ -71,6 +79,7 @@ std::optional<int> loadCode(const char* command, const char* usage, std::size_t 
         SetAppletNameFromBox(loaded.model, *name);
     loaded.html = MakeHTML(loaded.model, &ui);
     loaded.positional = parsed.positional;
+    loaded.withPlayer = writesPage && !parsed.has("--no-player");
     return std::nullopt;
 }
 
@@ -89,7 +98,7 @@ int writeOut(const std::string& text, const char* command, std::ostream& out, st
 int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
-    if (const auto status = loadCode("html", kHtmlUsage, 1, args, err, ui, loaded))
+    if (const auto status = loadCode("html", kHtmlUsage, 1, false, args, err, ui, loaded))
         return *status;
     return writeOut(loaded.html.text, "html", out, err);
 }
@@ -97,18 +106,19 @@ int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostrea
 int RunPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
-    if (const auto status = loadCode("page", kPageUsage, 1, args, err, ui, loaded))
+    if (const auto status = loadCode("page", kPageUsage, 1, true, args, err, ui, loaded))
         return *status;
-    return writeOut(PageText(loaded.html.text, loaded.html.usesJavaScript), "page", out, err);
+    return writeOut(PageText(loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer),
+                    "page", out, err);
 }
 
 int RunBuild(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
-    if (const auto status = loadCode("build", kBuildUsage, 2, args, err, ui, loaded))
+    if (const auto status = loadCode("build", kBuildUsage, 2, true, args, err, ui, loaded))
         return *status;
-    BuildPage(loaded.model, {loaded.html.text, loaded.html.usesJavaScript}, loaded.positional[1],
-              ui);
+    BuildPage(loaded.model, {loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer},
+              loaded.positional[1], ui);
     return ui.messageCount() == 0 ? kExitOk : kExitFailed;
 }
 

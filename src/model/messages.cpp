@@ -131,6 +131,13 @@ const char* MessageTable::englishDefault(Msg id) {
         return "Orvelin could not become the program for .orv files: ";
     case Msg::ShortCutFailed:
         return "Orvelin could not be added to the applications menu: ";
+    case Msg::PlayerMissing:
+        return "The HTML5 player %1 is missing, so no page was written: without it the page "
+               "would show nothing in today's browsers.\r\n\r\nPut orvelin-player.js back in "
+               "the program folder, or turn off \"Play pages with the HTML5 player\" in "
+               "Options > Advanced (orvelin-cli: --no-player).";
+    case Msg::PlayerNotCopied:
+        return "Can't copy the HTML5 player to ";
     case Msg::Count:
         break;
     }

@@ -86,6 +86,9 @@ enum class Msg : std::size_t {
     AssociateDone,
     AssociateFailed, ///< followed by the reason
     ShortCutFailed,  ///< followed by the reason
+    // HTML5 player.
+    PlayerMissing,   ///< "%1" stands for the player's path in the program folder
+    PlayerNotCopied, ///< followed by the path it was to be copied to
     Count
 };
 

@@ -17,6 +17,7 @@ constexpr std::array<SettingInfo, static_cast<std::size_t>(SettingKey::Count)> k
     {SettingsSection::Params, "AutoTile", "1"},
     {SettingsSection::Params, "DontAskToAssociate", "0"},
     {SettingsSection::Params, "ShortCut", "none"},
+    {SettingsSection::Params, "Html5Player", "1"},
     {SettingsSection::Language, "Current", "English"},
     {SettingsSection::Recent, "File", kUnsetValue},
     {SettingsSection::Browsers, "Count", "0"},

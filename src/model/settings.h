@@ -55,6 +55,7 @@ enum class SettingKey {
     AutoTile,
     DontAskToAssociate,
     ShortCut,
+    Html5Player, ///< "1": preview and build write pages that play through orvelin-player.js
     LanguageCurrent,
     RecentFile, ///< "File" + 1..4
     BrowsersCount,

@@ -4,6 +4,7 @@
 #include "messages.h"
 #include "programfolder.h"
 #include "textfile.h"
+#include "texthelpers.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -70,24 +71,66 @@ std::string withCancelHint(std::string text) {
     return text;
 }
 
-/// Writes the page; a failure names the file and says why.
-bool writePage(const std::string& path, const PageSource& page, UserInterface& ui) {
-    TextFileError error;
+bool isProgramFile(const PageFile& file) {
+    return file.kind == PageFile::Kind::Applet || file.kind == PageFile::Kind::Player;
+}
+
+/// Writes the page; a failure names the file and says why. A page that would play
+/// without its player shows nothing at all, so it is not written and the message
+/// names the missing player.
+bool writePage(const std::string& path, const PageSource& page, const std::vector<PageFile>& files,
+               UserInterface& ui) {
     std::error_code ec;
+    for (const PageFile& file : files) {
+        if (file.kind == PageFile::Kind::Player && !fs::is_regular_file(file.source, ec)) {
+            ui.showMessage(ReplaceAll(Messages()[Msg::PlayerMissing], "%1", file.source));
+            return false;
+        }
+    }
+    TextFileError error;
     if (fs::is_directory(path, ec))
         error.description = "it is a folder";
-    else if (WriteFileAtomically(path, PageText(page.code, page.usesJavaScript), &error))
+    else if (WriteFileAtomically(path, PageText(page.code, page.usesJavaScript, page.withPlayer),
+                                 &error))
         return true;
     ui.showMessage(Messages()[Msg::PageNotWritten] + path + ": " + error.description);
     return false;
 }
 
+/**
+ * Copies the applet files and the player into `folder`. An applet file that the
+ * program folder does not hold is passed over when `appletOptional`; any other
+ * failure shows `appletFailure` (or, for the player, a message naming its
+ * destination) and stops.
+ */
+bool copyProgramFiles(const std::vector<PageFile>& files, const std::string& folder,
+                      bool appletOptional, Msg appletFailure, UserInterface& ui) {
+    std::error_code ec;
+    for (const PageFile& file : files) {
+        if (!isProgramFile(file) || copyInto(file, folder))
+            continue;
+        if (file.kind == PageFile::Kind::Player) {
+            ui.showMessage(Messages()[Msg::PlayerNotCopied] + JoinPath(folder, file.name));
+            return false;
+        }
+        if (!appletOptional || fs::exists(file.source, ec)) {
+            ui.showMessage(Messages()[appletFailure]);
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
-std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder) {
+std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder,
+                                bool withPlayer) {
     std::vector<PageFile> files;
     for (const char* name : {kAppletClassFile, kAppletArchiveFile})
         files.push_back({PageFile::Kind::Applet, 0, JoinPath(programFolder, name), name});
+    if (withPlayer)
+        files.push_back(
+            {PageFile::Kind::Player, 0, JoinPath(programFolder, kPlayerFile), kPlayerFile});
     const std::string projectFolder = ProjectFolderOf(model.ProjectFileName);
     addFile(files, PageFile::Kind::Background, 0, model.BackImg, projectFolder);
     for (int i = 1; i <= LastButton(model); ++i)
@@ -99,7 +142,7 @@ std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& pr
     return files;
 }
 
-std::string PageText(std::string_view code, bool usesJavaScript) {
+std::string PageText(std::string_view code, bool usesJavaScript, bool withPlayer) {
     std::string page;
     const bool beyondAscii = std::any_of(
         code.begin(), code.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
@@ -115,7 +158,15 @@ std::string PageText(std::string_view code, bool usesJavaScript) {
     }
     page.append(code);
     page.append(kCrLf);
-    for (std::string_view line : {"</Center>", "</Body>", "</Html>"}) {
+    page.append("</Center>");
+    page.append(kCrLf);
+    if (withPlayer) {
+        page.append("<script src=\"");
+        page.append(kPlayerFile);
+        page.append("\"></script>");
+        page.append(kCrLf);
+    }
+    for (std::string_view line : {"</Body>", "</Html>"}) {
         page.append(line);
         page.append(kCrLf);
     }
@@ -131,7 +182,7 @@ int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder
     int failed = 0;
     bool showMessages = true;
     for (const PageFile& file : files) {
-        if (file.kind == PageFile::Kind::Applet || copyInto(file, folder))
+        if (isProgramFile(file) || copyInto(file, folder))
             continue;
         ++failed;
         if (!showMessages)
@@ -151,20 +202,13 @@ bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::s
     const std::string folder = FolderOf(path);
     std::error_code ec;
     fs::create_directories(folder, ec); // an existing folder is no error
-    if (!writePage(path, page, ui))
+    const std::vector<PageFile> files = PageFiles(model, ProgramFolder(), page.withPlayer);
+    if (!writePage(path, page, files, ui))
         return false;
-
-    const std::vector<PageFile> files = PageFiles(model, ProgramFolder());
-    for (const PageFile& file : files) {
-        // The applet files are not part of this program: a machine without them still
-        // previews the page, but one that has them must get them copied.
-        if (file.kind != PageFile::Kind::Applet || !fs::exists(file.source, ec))
-            continue;
-        if (!copyInto(file, folder)) {
-            ui.showMessage(Messages()[Msg::CantCopyClassFiles]);
-            return false;
-        }
-    }
+    // The applet files are not part of this program: a machine without them still
+    // previews the page, but one that has them must get them copied.
+    if (!copyProgramFiles(files, folder, true, Msg::CantCopyClassFiles, ui))
+        return false;
     CopyMediaFiles(files, folder, ui);
 
     const bool opened =
@@ -176,17 +220,14 @@ bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::s
 
 bool BuildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
                UserInterface& ui) {
-    if (!writePage(target, page, ui))
+    const std::vector<PageFile> files = PageFiles(model, ProgramFolder(), page.withPlayer);
+    if (!writePage(target, page, files, ui))
         return false;
     const std::string folder = FolderOf(target);
-    const std::vector<PageFile> files = PageFiles(model, ProgramFolder());
-    for (const PageFile& file : files) {
-        if (file.kind == PageFile::Kind::Applet && !copyInto(file, folder)) {
-            // The page stays: it is complete, only its applet is missing.
-            ui.showMessage(Messages()[Msg::CantCopyAppletClassFiles]);
-            return false;
-        }
-    }
+    // A failure leaves the page: it is complete, only what plays it is missing. A page
+    // that the player plays needs no applet files.
+    if (!copyProgramFiles(files, folder, page.withPlayer, Msg::CantCopyAppletClassFiles, ui))
+        return false;
     return CopyMediaFiles(files, folder, ui) == 0;
 }
 

@@ -18,11 +18,15 @@
  */
 namespace orvelin {
 
+/// The HTML5 player in the program folder; a page that plays loads it from its own folder.
+inline constexpr const char* kPlayerFile = "orvelin-player.js";
+
 /// One file a page needs in its folder.
 struct PageFile {
-    enum class Kind { Applet, Background, Image, Sound };
+    enum class Kind { Applet, Player, Background, Image, Sound };
     Kind kind = Kind::Applet;
-    int button = 0; ///< the button the file belongs to; 0 for applet and background files
+    int button =
+        0; ///< the button the file belongs to; 0 for the program's files and the background
     /// The file to copy: the stored path resolved as the design window resolves it, or
     /// the stored path itself when no such file exists (its copy then fails and says so).
     std::string source;
@@ -32,19 +36,22 @@ struct PageFile {
 
 /**
  * The files a page of `model` needs, in copy order: the two applet files from
- * `programFolder`, the background image, each button's images (UP, OVER, DOWN) for
- * buttons 1..ButtonCount, then each button's sounds in the same order. Empty paths
- * are left out; a file named by two buttons is listed (and copied) twice.
+ * `programFolder` (then the player from there when the page plays), the background
+ * image, each button's images (UP, OVER, DOWN) for buttons 1..ButtonCount, then each
+ * button's sounds in the same order. Empty paths are left out; a file named by two
+ * buttons is listed (and copied) twice.
  */
-std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder);
+std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder,
+                                bool withPlayer = false);
 
 /**
  * The page that preview and build write: the applet code inside a minimal document
- * whose body calls InitJSCaller on load when the code holds the JavaScript block. A
- * page holding characters beyond ASCII starts with a UTF-8 byte-order mark so that
+ * whose body calls InitJSCaller on load when the code holds the JavaScript block, and
+ * with `withPlayer` the line loading the HTML5 player after "</Center>". A page
+ * holding characters beyond ASCII starts with a UTF-8 byte-order mark so that
  * browsers read it right; the text is otherwise exactly the same.
  */
-std::string PageText(std::string_view code, bool usesJavaScript);
+std::string PageText(std::string_view code, bool usesJavaScript, bool withPlayer = false);
 
 /// The preview page: AppletTemp/Temp.htm in the program's writable folder.
 std::string PreviewPagePath();
@@ -59,27 +66,32 @@ std::string PreviewPagePath();
 int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
                    UserInterface& ui);
 
-/// What the applet code was generated as: its text and whether it calls JavaScript.
+/// What the applet code was generated as: its text and whether it calls JavaScript;
+/// and whether its page plays through the HTML5 player.
 struct PageSource {
     std::string_view code;
     bool usesJavaScript = false;
+    bool withPlayer = false;
 };
 
 /**
  * Test in Browser: writes the preview page, copies the applet files that the program
- * folder holds and the project's media beside it, and opens it: with the desktop's
- * default browser when `program` is empty, else by starting `program` with the page's
- * path. Returns true when the page was handed to a browser; every failure is shown.
+ * folder holds, the player when the page plays, and the project's media beside it, and
+ * opens it: with the desktop's default browser when `program` is empty, else by
+ * starting `program` with the page's path. Returns true when the page was handed to a
+ * browser; every failure is shown. A page that would play without its player is not
+ * written: the message names the missing file.
  */
 bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
                  UserInterface& ui, Shell& shell);
 
 /**
  * Build Applet: writes the page as `target` and copies the applet files (unless the
- * target's folder is the program folder itself) and the project's media beside it.
- * A page that cannot be written stops with a message and leaves any earlier file as
- * it was; missing applet files stop with "Can't copy Applet Class files" after the
- * page is written. Returns true when nothing failed.
+ * target's folder is the program folder itself), the player when the page plays, and
+ * the project's media beside it. A page that cannot be written stops with a message
+ * and leaves any earlier file as it was; missing applet files stop with "Can't copy
+ * Applet Class files" after the page is written, unless the page plays through the
+ * player, which needs no applet. Returns true when nothing failed.
  */
 bool BuildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
                UserInterface& ui);

@@ -45,6 +45,9 @@ TEST(FrmAdvanced, EachClickOnAutoTileIsStoredAtOnce) {
     d.click("chkAutoTile");
     EXPECT_EQ(d.autoTile(), "0");
     EXPECT_EQ(changed.count(), 2);
+    ASSERT_TRUE(d.form.chkHtml5Player()->isChecked()); // plays by default
+    d.click("chkHtml5Player");
+    EXPECT_EQ(d.settings.value(SettingKey::Html5Player) + d.autoTile(), "00");
     EXPECT_TRUE(d.ui.shown.empty()); // no confirmation
 
     d.click("btnOk");
@@ -54,6 +57,7 @@ TEST(FrmAdvanced, EachClickOnAutoTileIsStoredAtOnce) {
 
 TEST(FrmAdvanced, RestoreDefaultsAsksAndPutsBackTheFactoryButtonAndOptions) {
     Dialog d;
+    d.click("chkHtml5Player");
     QSignalSpy restored(&d.form, &FrmAdvanced::defaultsRestored);
     d.ui.answers = {Answer::Cancel, Answer::Ok};
     d.click("btnRestoreDefaults");
@@ -67,5 +71,7 @@ TEST(FrmAdvanced, RestoreDefaultsAsksAndPutsBackTheFactoryButtonAndOptions) {
               kFactoryDefaultButton);
     EXPECT_EQ(d.autoTile(), SettingDefinition(SettingKey::AutoTile).defaultValue);
     EXPECT_EQ(d.form.chkAutoTile()->isChecked(), d.settings.flag(SettingKey::AutoTile));
+    EXPECT_EQ(d.settings.value(SettingKey::Html5Player), "1");
+    EXPECT_TRUE(d.form.chkHtml5Player()->isChecked());
     EXPECT_EQ(restored.count(), 1);
 }

@@ -55,6 +55,7 @@ TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
     orvelin::testing::TestApplication();
     const orvelin::testing::TempFolder temp;
     SetProgramFolderOverride(temp.path(""));
+    temp.write("orvelin-player.js", "player"); // the page plays by default
     // A browser that writes down the arguments it was started with.
     const std::string browser = temp.write(
         "fakebrowser", "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + temp.path("args.tmp") + "'\nmv '" +
@@ -80,6 +81,8 @@ TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !temp.read("args").empty(); }, 10000));
     EXPECT_EQ(temp.read("args"), page + "\n");
     EXPECT_TRUE(ui.messages().empty());
+    EXPECT_NE(orvelin::testing::ReadBytes(page).find("</Center>\r\n<script src="),
+              std::string::npos);
     window.close();
     EXPECT_NE(settings.StoredGeometry("frmHTML").width, 0);
     SetProgramFolderOverride("");

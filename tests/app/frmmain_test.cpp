@@ -302,3 +302,10 @@ TEST(MainMenus, RecentEntryOpensItsProject) {
     EXPECT_EQ(w.model.ProjectFileName, kExample);
     EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
 }
+
+TEST(MainWindow, BuildButtonAsksForTheHtmlWindowAsTheF5CommandDoes) {
+    MainWindow w;
+    QSignalSpy requested(&w.window, &FrmMain::htmlViewRequested);
+    w.click("btnBuild");
+    EXPECT_EQ(requested.count(), 1);
+}

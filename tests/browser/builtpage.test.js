@@ -52,8 +52,10 @@ async function main() {
     let browser;
     try {
         const page = path.join(site, 'navbar.html');
-        const build = spawnSync(cli, ['build', project, page, '--program-dir', program],
-                                { encoding: 'utf8' });
+        // The plain applet page: what this test reads is the applet element itself.
+        const build = spawnSync(
+            cli, ['build', project, page, '--program-dir', program, '--no-player'],
+            { encoding: 'utf8' });
         if (build.status !== 0)
             fail('orvelin-cli build exited with ' + build.status + ': ' + build.stderr);
         const code = execFileSync(cli, ['html', project, '--program-dir', program],

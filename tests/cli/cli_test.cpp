@@ -173,8 +173,8 @@ TEST_F(OrvelinCli, HelpExplainsEveryCommandAndExitStatus) {
         const CliRun run = RunCli({word});
         EXPECT_EQ(run.status, 0) << word;
         for (const char* part : {"html PROJECT", "--applet-name TEXT", "resave IN OUT", "--legacy",
-                                 "page PROJECT", "build PROJECT OUT.html", "--program-dir DIR",
-                                 "Exit status", "  0  ", "  1  ", "  2  "})
+                                 "page PROJECT", "build PROJECT OUT.html", "--no-player",
+                                 "--program-dir DIR", "Exit status", "  0  ", "  1  ", "  2  "})
             EXPECT_NE(run.out.find(part), std::string::npos) << word << ": " << part;
     }
 }
@@ -182,13 +182,27 @@ TEST_F(OrvelinCli, HelpExplainsEveryCommandAndExitStatus) {
 TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportItsMessages) {
     const CliRun page = RunCli({"page", kExample, "--applet-name", "Top"});
     ASSERT_EQ(page.status, 0) << page.err;
-    EXPECT_EQ(page.out, PageText(Generated(kExample, "Top"), true));
+    EXPECT_EQ(page.out, PageText(Generated(kExample, "Top"), true, true));
+    const CliRun plain = RunCli({"page", kExample, "--no-player", "--applet-name", "Top"});
+    ASSERT_EQ(plain.status, 0) << plain.err;
+    EXPECT_EQ(plain.out, PageText(Generated(kExample, "Top"), true));
+    EXPECT_EQ(RunCli({"html", kExample, "--no-player"}).status, 2);
 
-    // bin/ holds no applet files: the page is written and the build stops there.
-    const CliRun noApplet = RunCli({"build", kExample, path("a.html"), "--applet-name", "Top"});
+    // A program folder with the player but no applet files: the page plays, and only the
+    // plain page stops at the missing applet files.
+    fs::create_directories(dir.dir() / "program");
+    fs::copy_file(kBin + "/Orvel.ini", path("program/Orvel.ini"));
+    dir.write("program/orvelin-player.js", "player");
+    const std::string program = "--program-dir=" + path("program");
+    const CliRun played = RunCli({"build", kExample, path("a.html"), "--applet-name=Top", program});
+    EXPECT_EQ(played.status, 0) << played.err;
+    EXPECT_EQ(dir.read("a.html"), page.out);
+    EXPECT_EQ(dir.read("orvelin-player.js"), "player");
+    const CliRun noApplet =
+        RunCli({"build", kExample, path("b.html"), "--applet-name=Top", program, "--no-player"});
     EXPECT_EQ(noApplet.status, 1);
     EXPECT_EQ(noApplet.err, "Can't copy Applet Class files\n");
-    EXPECT_EQ(dir.read("a.html"), page.out);
+    EXPECT_EQ(dir.read("b.html"), plain.out);
 }
 
 TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSave) {

@@ -53,9 +53,9 @@ protected:
     }
     void TearDown() override { SetProgramFolderOverride(""); }
 
-    bool Build(const std::string& target) {
+    bool Build(const std::string& target, bool withPlayer = false) {
         html = MakeHTML(model);
-        return BuildPage(model, {html.text, html.usesJavaScript}, target, ui);
+        return BuildPage(model, {html.text, html.usesJavaScript, withPlayer}, target, ui);
     }
 
     TempFolder temp;
@@ -72,6 +72,9 @@ TEST(PageText, WrapsTheCodeWithTheBodyTagOfItsJavaScriptFlagAndMarksUtf8) {
               "CODE\r\n\r\n</Center>\r\n</Body>\r\n</Html>\r\n");
     EXPECT_EQ(PageText("CODE\r\n", true).substr(45, 33), "<body onload=\"InitJSCaller();\">\r\n");
     EXPECT_EQ(PageText("Caf\xC3\xA9\r\n", false).substr(0, 11), "\xEF\xBB\xBF<Html>\r\n");
+    EXPECT_EQ(PageText("CODE\r\n", false, true).substr(65),
+              "CODE\r\n\r\n</Center>\r\n<script src=\"orvelin-player.js\"></script>\r\n"
+              "</Body>\r\n</Html>\r\n");
 }
 
 TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
@@ -134,4 +137,26 @@ TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
     EXPECT_FALSE(PreviewPage(model, {html.text, true}, "", ui, shell));
     ASSERT_EQ(ui.messages().size(), 1u);
     EXPECT_EQ(ui.messages()[0].rfind(page + " could not be opened", 0), 0u);
+}
+
+TEST_F(Publishing, APageThatPlaysTakesThePlayerAlongAndNeedsNoAppletFiles) {
+    fs::remove(temp.dir() / "program/Orvel1b6.class");
+    fs::remove(temp.dir() / "program/Orvel1b6.jar");
+    temp.write("program/orvelin-player.js", "player");
+    ASSERT_TRUE(Build(temp.path("site/nav.html"), true));
+    EXPECT_TRUE(ui.shown.empty());
+    EXPECT_EQ(temp.read("site/nav.html"), PageText(html.text, false, true));
+    EXPECT_EQ(temp.read("site/orvelin-player.js"), "player");
+
+    // The plain page still needs its applet.
+    EXPECT_FALSE(Build(temp.path("site/plain.html")));
+    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't copy Applet Class files"});
+
+    // Without the player nothing is written, and the message says which file is missing.
+    fs::remove(temp.dir() / "program/orvelin-player.js");
+    EXPECT_FALSE(Build(temp.path("site/lost.html"), true));
+    EXPECT_FALSE(fs::exists(temp.dir() / "site/lost.html"));
+    ASSERT_EQ(ui.messages().size(), 2u);
+    EXPECT_NE(ui.messages()[1].find(temp.path("program/orvelin-player.js") + " is missing"),
+              std::string::npos);
 }
