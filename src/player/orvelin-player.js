@@ -140,7 +140,11 @@
             backImage: field(5, 'File', ''),
             backImageStyle: field(6, 'Int16', 0),
             offsetX: field(12, 'Int16', 0),
-            offsetY: field(13, 'Int16', 0)
+            offsetY: field(13, 'Int16', 0),
+            ProgramOVER: field(9, 'Raw', ''),
+            ProgramDOWN: field(10, 'Raw', ''),
+            ProgramOUT: field(11, 'Raw', ''),
+            ProgramStart: field(15, 'Raw', '')
         };
     }
 
@@ -356,6 +360,8 @@
         this.redraw();
         if (!this.waiting)
             this.resolveReady();
+        this.runs = {};
+        this.run(this.applet.ProgramStart, 'Start');
     }
 
     /** The image of a bare file name beside the page; null while it loads or when it fails. */
@@ -421,13 +427,50 @@
                     guard(function () { handler(e, b, b.element.tagName === 'A'); });
             });
         }
+        // The applet's own programs: entering, leaving (by pointer or focus) and pressing.
+        // Pointer (1) and focus (2) may both be inside; the programs run on the first in
+        // and the last out.
+        function cross(o, into, bit) {
+            var before = o.inside | 0;
+            o.inside = into ? before | bit : before & ~bit;
+            return !before !== !o.inside;
+        }
+        function edge(into, bit) {
+            if (cross(self, into, bit))
+                guard(function () { self.run(self.applet[into ? 'ProgramOVER' : 'ProgramOUT'], 'A'); });
+        }
+        function enter(b, into, bit) {
+            if (cross(b, into, bit))
+                self.program(b, into ? 'OVER' : 'UP');
+        }
+        var el = self.element;
+        el.addEventListener('pointerenter', function () { edge(true, 1); });
+        el.addEventListener('pointerleave', function () { edge(false, 1); });
+        el.addEventListener('focusin', function () { edge(true, 2); });
+        el.addEventListener('focusout', function (e) {
+            if (!el.contains(e.relatedTarget))
+                edge(false, 2);
+        });
+        el.addEventListener('pointerdown', function (e) {
+            if (e.button === 0)
+                guard(function () { self.run(self.applet.ProgramDOWN, 'A'); });
+        });
+        // The keyboard: a focused button is entered, a blurred one left.
+        on('focusin', function (e, b) {
+            enter(b, true, 2);
+        });
+        on('focusout', function (e, b) {
+            enter(b, false, 2);
+        });
         on('pointerover', function (e, b) {
+            enter(b, true, 1);
             b.hover = true;
             if (!e.buttons)
                 b.pressed = false; // released elsewhere
             self.update(b);
         });
         on('pointerout', function (e, b) {
+            enter(b, false, 1);
             b.hover = false;
             self.update(b);
         });
@@ -435,6 +478,7 @@
             if (e.button !== 0)
                 return;
             b.pressed = 'pointer';
+            self.program(b, 'DOWN');
             // A touch captures its pointer; released, a finger sliding off leaves the button.
             if (b.element.hasPointerCapture && b.element.hasPointerCapture(e.pointerId))
                 b.element.releasePointerCapture(e.pointerId);
@@ -458,6 +502,8 @@
             if (e.key === ' ')
                 e.preventDefault(); // no scrolling
             if (!e.repeat) {
+                self.program(b, 'DOWN');
+                self.run(self.applet.ProgramDOWN, 'A');
                 b.pressed = 'key';
                 self.update(b);
             }
@@ -637,6 +683,111 @@
         }
     };
 
+    // ---- Programs -------------------------------------------------------------------
+
+    /** Runs the program of a button's state slot. */
+    Player.prototype.program = function (b, s) {
+        this.run(b['Program' + s], s + b.number);
+    };
+
+    /**
+     * Runs program text; `slot` names where it comes from. A run that starts while an
+     * earlier run of the same slot still waits replaces it: the earlier run's remaining
+     * commands are dropped. Runs of different slots go on side by side.
+     */
+    Player.prototype.run = function (text, slot) {
+        var lines = String(text || '').split(';');
+        lines.pop(); // what follows the last ";" is no command
+        var runs = this.runs, self = this, mark = {};
+        if (slot)
+            runs[slot] = mark;
+        var i = 0;
+        (function next() {
+            while (i < lines.length) {
+                if (slot && runs[slot] !== mark)
+                    return;
+                var line = lines[i++];
+                var wait = -1;
+                try {
+                    wait = self.command(line);
+                } catch (e) {
+                    warn('applet "' + self.name + '": command "' + line + '" skipped: ' + e.message);
+                }
+                if (wait >= 0)
+                    return void setTimeout(function () { guard(next); }, wait);
+            }
+        })();
+    };
+
+    /** Carries out one command line; a Wait gives its milliseconds, the others -1. */
+    Player.prototype.command = function (line) {
+        var w = line.split(' ');
+        var need = [0, 2, 2, 6, 4, 4, 2, 3][w[0]];
+        if (!/^[1-7]$/.test(w[0]) || w.length < need)
+            throw new Error('no command');
+        if (w[0] === '6') {
+            var ms = Number(w[1].replace(',', '.')); // a decimal comma too
+            if (!(ms >= 0))
+                throw new Error('no time');
+            return ms;
+        }
+        if (w[0] === '7') {
+            var code = decodeText(w.slice(2).join(' '));
+            try {
+                (0, global.eval)(code); // in the page's own scope
+            } catch (e) {
+                warn('applet "' + this.name + '": JavaScript "' + code + '" failed: ' + e.message);
+            }
+            return -1;
+        }
+        var n = readInt(w[1], 'the button'), b = this.button(n);
+        if (!b)
+            throw new Error('there is no button ' + n);
+        var s = w[0] === '4' || w[0] === '5' ? STATES[readInt(w[2], 'the state') - 1] : '';
+        if (s === undefined)
+            throw new Error('no state ' + w[2]);
+        switch (w[0]) {
+        case '1':
+        case '2':
+            this.setHidden(n, w[0] === '2');
+            break;
+        case '3':
+            var box = w.slice(2, 6).map(function (v) { return readInt(v, 'a size'); });
+            this.move(b, box[0], box[1], box[2], box[3]);
+            break;
+        case '4':
+            b['Label' + s] = decodeText(w.slice(3).join(' '));
+            if (s === 'UP' && b.LabelUP.trim())
+                b.element.setAttribute('aria-label', b.LabelUP.split('\\n').join(' ').trim());
+            this.paint(b.x, b.y, b.Width, b.Height);
+            break;
+        default:
+            b['BackColor' + s] = readColor(w[3], 'the colour') || b['BackColor' + s];
+            this.paint(b.x, b.y, b.Width, b.Height);
+        }
+        return -1;
+    };
+
+    /** Moves and sizes a button; -999 keeps a value. A hidden button moves unseen. */
+    Player.prototype.move = function (b, x, y, w, h) {
+        var old = [b.x, b.y, b.Width, b.Height];
+        if (x !== -999)
+            b.x = x;
+        if (y !== -999)
+            b.y = y;
+        if (w !== -999)
+            b.Width = w;
+        if (h !== -999)
+            b.Height = h;
+        var st = b.element.style;
+        st.left = b.x + 'px';
+        st.top = b.y + 'px';
+        st.width = Math.max(0, b.Width) + 'px';
+        st.height = Math.max(0, b.Height) + 'px';
+        this.paint(old[0], old[1], old[2], old[3]);
+        this.paint(b.x, b.y, b.Width, b.Height);
+    };
+
     Player.prototype.button = function (n) {
         for (var i = 0; i < this.buttons.length; i++)
             if (this.buttons[i].number === n)
@@ -714,5 +865,44 @@
         });
     });
 
-    global.OrvelinPlayer = { scan: function () { guard(scan); }, players: players };
+    function encode(text) {
+        return String(text).replace(/ /g, '&nbsp').replace(/;/g, '&y01').replace(/"/g, '&y02');
+    }
+
+    /** What page scripts drive a bar with: the commands of a program, by button number
+     *  (1-based) and state (1 UP, 2 OVER, 3 DOWN). */
+    function bar(name) {
+        var p = null;
+        players.forEach(function (q) {
+            if (!p && q.name === name && doc.contains(q.element))
+                p = q;
+        });
+        if (!p)
+            return null;
+        function one(line) {
+            p.run(line + ';');
+        }
+        return {
+            show: function (n) { one('1 ' + n); },
+            hide: function (n) { one('2 ' + n); },
+            move: function (n, x, y, w, h) {
+                one(['3', n, x, y, w, h].map(function (v) {
+                    return v === undefined || v === null ? -999 : v;
+                }).join(' '));
+            },
+            setLabel: function (n, s, text) { one('4 ' + n + ' ' + s + ' ' + encode(text)); },
+            setColor: function (n, s, rgb) { one('5 ' + n + ' ' + s + ' ' + String(rgb).replace('#', '')); },
+            /** As if pressed: its DOWN program runs, and in radio mode it stays down. */
+            press: function (n) {
+                var b = p.button(Number(n));
+                if (!b)
+                    return warn('applet "' + name + '": there is no button ' + n);
+                p.program(b, 'DOWN');
+                p.activate(b);
+            },
+            run: function (text) { p.run(text); }
+        };
+    }
+
+    global.OrvelinPlayer = { scan: function () { guard(scan); }, players: players, bar: bar };
 })(typeof window !== 'undefined' ? window : this);
