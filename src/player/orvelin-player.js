@@ -265,6 +265,131 @@
         }
     }
 
+    // ---- Sounds -------------------------------------------------------------------
+
+    /** Sun audio as channels of samples from -1 to 1: mu-law, A-law, linear 8 to 32 bits
+     *  and floats, big-endian as the format has it. */
+    function decodeAu(bytes) {
+        var v = new DataView(bytes.buffer, bytes.byteOffset, bytes.byteLength);
+        if (bytes.length < 24 || v.getUint32(0) !== 0x2e736e64)
+            throw new Error('no Sun audio');
+        var start = v.getUint32(4), size = v.getUint32(8), code = v.getUint32(12);
+        var rate = v.getUint32(16), channels = v.getUint32(20);
+        var width = { 1: 1, 2: 1, 3: 2, 4: 3, 5: 4, 6: 4, 7: 8, 27: 1 }[code];
+        if (!width || !channels || !rate)
+            throw new Error('encoding ' + code + ' is not played');
+        var end = Math.min(bytes.length, size === 0xffffffff ? Infinity : start + size);
+        var frames = Math.max(0, Math.floor((end - start) / width / channels));
+        var out = [];
+        for (var c = 0; c < channels; c++)
+            out.push(new Float32Array(frames));
+        for (var i = 0, at = start; i < frames; i++) {
+            for (c = 0; c < channels; c++, at += width) {
+                var x;
+                switch (code) {
+                case 1:
+                case 27:
+                    x = code === 1 ? ulaw(bytes[at]) : alaw(bytes[at]);
+                    break;
+                case 2: x = v.getInt8(at) / 128; break;
+                case 3: x = v.getInt16(at) / 32768; break;
+                case 4: x = ((v.getInt8(at) << 16) | v.getUint16(at + 1)) / 8388608; break;
+                case 5: x = v.getInt32(at) / 2147483648; break;
+                case 6: x = v.getFloat32(at); break;
+                default: x = v.getFloat64(at);
+                }
+                out[c][i] = x;
+            }
+        }
+        return { rate: rate, channels: out };
+    }
+
+    function ulaw(u) {
+        u = ~u & 255;
+        var t = (((u & 15) << 3) + 132) << ((u & 112) >> 4);
+        return (u & 128 ? 132 - t : t - 132) / 32768;
+    }
+
+    function alaw(a) {
+        a ^= 85;
+        var seg = (a & 112) >> 4, t = ((a & 15) << 4) + (seg ? 264 : 8);
+        if (seg > 1)
+            t <<= seg - 1;
+        return (a & 128 ? t : -t) / 32768;
+    }
+
+    // The first gesture of the visitor lets sounds start, as browsers require.
+    var audio = null, sounds = {}, GESTURES = ['pointerdown', 'pointerup', 'keydown', 'touchend'];
+    function unlock() {
+        GESTURES.forEach(function (t) { doc.removeEventListener(t, unlock, true); });
+        var Context = global.AudioContext || global.webkitAudioContext;
+        guard(function () {
+            if (Context)
+                audio = new Context();
+        });
+    }
+    GESTURES.forEach(function (t) { doc.addEventListener(t, unlock, true); });
+
+    /** Gets a sound ready: a Sun audio file comes as the script the build writes beside it
+     *  ("click.au.js" registers the bytes of "click.au"), which a page opened from disk
+     *  may load where it may not read the file itself; other formats the browser plays. */
+    function loadSound(name, owner) {
+        if (!name || sounds[name])
+            return;
+        var entry = sounds[name] = {};
+        if (!/\.au$/i.test(name)) {
+            entry.element = new Audio(encodeURIComponent(name));
+            entry.element.preload = 'auto';
+            return;
+        }
+        var script = doc.createElement('script');
+        script.src = encodeURIComponent(name) + '.js';
+        script.onerror = function () {
+            warn('applet "' + owner + '": sound ' + name + ' could not be loaded (' +
+                 name + '.js is missing)');
+        };
+        (doc.head || doc.documentElement).appendChild(script);
+    }
+
+    function playSound(name, owner) {
+        var entry = sounds[name];
+        if (!entry || !audio || entry.failed)
+            return;
+        try {
+            startSound(entry, name);
+        } catch (e) {
+            entry.failed = true;
+            warn('applet "' + owner + '": sound ' + name + ': ' + e.message);
+        }
+    }
+
+    function startSound(entry, name) {
+        if (entry.element) {
+            entry.element.currentTime = 0;
+            var played = entry.element.play();
+            if (played && played.catch)
+                played.catch(function () {});
+            return;
+        }
+        if (!entry.buffer) {
+            var text = (global.OrvelinSounds || {})[name];
+            if (!text)
+                return; // not loaded (yet)
+            var bin = atob(text), bytes = new Uint8Array(bin.length);
+            for (var i = 0; i < bin.length; i++)
+                bytes[i] = bin.charCodeAt(i);
+            var d = decodeAu(bytes);
+            entry.buffer = audio.createBuffer(d.channels.length, Math.max(1, d.channels[0].length), d.rate);
+            d.channels.forEach(function (data, c) { entry.buffer.getChannelData(c).set(data); });
+        }
+        if (audio.state === 'suspended')
+            audio.resume();
+        var source = audio.createBufferSource();
+        source.buffer = entry.buffer;
+        source.connect(audio.destination);
+        source.start();
+    }
+
     // ---- The player ---------------------------------------------------------------
 
     var STYLE = '.orvelin-player{display:inline-block;position:relative;overflow:hidden;' +
@@ -354,7 +479,10 @@
         // Every state's image starts loading now, so that a hover shows it at once.
         this.image(this.applet.backImage);
         this.buttons.forEach(function (b) {
-            STATES.forEach(function (s) { self.image(b['Image' + s]); });
+            STATES.forEach(function (s) {
+                self.image(b['Image' + s]);
+                loadSound(b['Snd' + s], self.name);
+            });
         });
         applet.parentNode.replaceChild(el, applet);
         this.redraw();
@@ -565,6 +693,7 @@
         var s = this.stateOf(b);
         if (s !== b.state) {
             b.state = s;
+            playSound(b['Snd' + s], this.name);
             this.paint(b.x, b.y, b.Width, b.Height);
         }
     };
@@ -904,5 +1033,7 @@
         };
     }
 
-    global.OrvelinPlayer = { scan: function () { guard(scan); }, players: players, bar: bar };
+    global.OrvelinPlayer = {
+        scan: function () { guard(scan); }, players: players, bar: bar, decodeAu: decodeAu
+    };
 })(typeof window !== 'undefined' ? window : this);
