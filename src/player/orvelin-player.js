@@ -556,8 +556,9 @@
             });
         }
         // The applet's own programs: entering, leaving (by pointer or focus) and pressing.
-        // Pointer (1) and focus (2) may both be inside; the programs run on the first in
-        // and the last out.
+        // Pointer (1) and keyboard focus (2) may both be inside; the programs run on the
+        // first in and the last out. Focus that a click gives counts for nothing, or a
+        // clicked button would never be left.
         function cross(o, into, bit) {
             var before = o.inside | 0;
             o.inside = into ? before | bit : before & ~bit;
@@ -572,9 +573,23 @@
                 self.program(b, into ? 'OVER' : 'UP');
         }
         var el = self.element;
-        el.addEventListener('pointerenter', function () { edge(true, 1); });
+        // Over, not enter: the bar is entered before the button under the pointer.
+        el.addEventListener('pointerover', function (e) {
+            if (!el.contains(e.relatedTarget))
+                edge(true, 1);
+        });
         el.addEventListener('pointerleave', function () { edge(false, 1); });
-        el.addEventListener('focusin', function () { edge(true, 2); });
+        function keyed(e) {
+            try {
+                return e.target.matches(':focus-visible');
+            } catch (x) {
+                return true; // a browser without :focus-visible
+            }
+        }
+        el.addEventListener('focusin', function (e) {
+            if (keyed(e))
+                edge(true, 2);
+        });
         el.addEventListener('focusout', function (e) {
             if (!el.contains(e.relatedTarget))
                 edge(false, 2);
@@ -585,7 +600,8 @@
         });
         // The keyboard: a focused button is entered, a blurred one left.
         on('focusin', function (e, b) {
-            enter(b, true, 2);
+            if (keyed(e))
+                enter(b, true, 2);
         });
         on('focusout', function (e, b) {
             enter(b, false, 2);

@@ -87,11 +87,9 @@ test('the OVER sound of a built page opened from disk plays after the first gest
     kit.cli(['build', project, path.join(site, 'built.html'), '--program-dir', program]);
     assert.ok(fs.existsSync(path.join(site, 'over.au.js')));
 
-    const page = await browser.newPage();
-    const messages = [];
-    page.on('console', (m) => messages.push(m.type() + ': ' + m.text()));
     // Every node that reaches the output is also heard by an analyser.
-    await page.addInitScript(() => {
+    const url = kit.makePage([project], site);
+    const { context, page, messages } = await kit.open(browser, url, {}, () => {
         window.heard = [];
         const connect = AudioNode.prototype.connect;
         AudioNode.prototype.connect = function (target, ...rest) {
@@ -108,7 +106,6 @@ test('the OVER sound of a built page opened from disk plays after the first gest
             return Math.max(...data.map(Math.abs));
         }));
     });
-    await page.goto(kit.makePage([project], site, { name: 'page.htm' }));
     const box = await page.locator('[name="sound"]').boundingBox();
     // Before any gesture the pointer over the button stays silent, without errors.
     await page.mouse.move(box.x + 20, box.y + 20);
@@ -118,5 +115,5 @@ test('the OVER sound of a built page opened from disk plays after the first gest
     await page.mouse.move(box.x + 20, box.y + 20);
     await page.waitForFunction(() => loudest() > 0.3);
     assert.deepStrictEqual(messages, []);
-    await page.close();
+    await context.close();
 });
