@@ -489,7 +489,6 @@
         if (!this.waiting)
             this.resolveReady();
         this.runs = {};
-        this.run(this.applet.ProgramStart, 'Start');
     }
 
     /** The image of a bare file name beside the page; null while it loads or when it fails. */
@@ -666,8 +665,10 @@
         });
         on('click', function (e, b, link) {
             // A click of no pointer and no key: assistive technology.
-            if (!link && e.detail === 0 && !b.pressed)
+            if (!link && e.detail === 0 && !b.pressed) {
+                self.program(b, 'DOWN');
                 self.activate(b);
+            }
         });
         self.element.addEventListener('focusout', function (e) {
             var b = e.target && e.target.orvelinButton;
@@ -961,7 +962,9 @@
         tried.add(applet);
         guard(function () {
             addStyle();
-            players.push(new Player(applet));
+            var p = new Player(applet);
+            players.push(p);
+            p.run(p.applet.ProgramStart, 'Start'); // page scripts may already find the bar
         });
     }
 
