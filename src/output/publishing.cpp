@@ -44,14 +44,24 @@ std::optional<std::string> readBytes(const std::string& path) {
     return bytes;
 }
 
+bool isSunAudio(const std::string& name) {
+    return name.size() > 3 && ToLowerAscii(name.substr(name.size() - 3)) == ".au";
+}
+
 /// Copies `file` into `folder`. The copy is written beside its destination and renamed
 /// over it, so a disk that fills leaves the earlier file, never half of the new one.
+/// A Sun audio sound gets the player's script beside it (see SoundScriptText).
 bool copyInto(const PageFile& file, const std::string& folder) {
     const std::string destination = JoinPath(folder, file.name);
-    if (samePlace(file.source, destination))
+    const bool same = samePlace(file.source, destination);
+    const bool sunAudio = file.kind == PageFile::Kind::Sound && isSunAudio(file.name);
+    if (same && !sunAudio)
         return true;
     const std::optional<std::string> bytes = readBytes(file.source);
-    return bytes && WriteFileAtomically(destination, *bytes);
+    return bytes &&
+           (!sunAudio ||
+            WriteFileAtomically(destination + ".js", SoundScriptText(file.name, *bytes))) &&
+           (same || WriteFileAtomically(destination, *bytes));
 }
 
 void addFile(std::vector<PageFile>& files, PageFile::Kind kind, int button,
@@ -140,6 +150,36 @@ std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& pr
         for (ButtonState s : kStates)
             addFile(files, PageFile::Kind::Sound, i, model.Button(i).Sound(s), projectFolder);
     return files;
+}
+
+std::string SoundScriptText(std::string_view name, std::string_view bytes) {
+    static constexpr char kDigits[] =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text = "(window.OrvelinSounds = window.OrvelinSounds || {})[\"";
+    for (char c : name) {
+        // The name as a script string: the few characters a file name may hold that a
+        // string cannot, escaped.
+        if (c == '"' || c == '\\' || c == '<' || static_cast<unsigned char>(c) < 0x20) {
+            static constexpr char kHex[] = "0123456789abcdef";
+            const auto u = static_cast<unsigned char>(c);
+            text += "\\x";
+            text += kHex[u >> 4];
+            text += kHex[u & 15];
+        } else {
+            text += c;
+        }
+    }
+    text += "\"] =\n\"";
+    for (std::size_t i = 0; i < bytes.size(); i += 3) {
+        const std::size_t n = std::min<std::size_t>(3, bytes.size() - i);
+        unsigned v = 0;
+        for (std::size_t k = 0; k < 3; ++k)
+            v = (v << 8) | (k < n ? static_cast<unsigned char>(bytes[i + k]) : 0U);
+        for (std::size_t k = 0; k < 4; ++k)
+            text += k <= n ? kDigits[(v >> (18 - 6 * k)) & 63] : '=';
+    }
+    text += "\";\n";
+    return text;
 }
 
 std::string PageText(std::string_view code, bool usesJavaScript, bool withPlayer) {

@@ -66,6 +66,14 @@ std::string PreviewPagePath();
 int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
                    UserInterface& ui);
 
+/**
+ * The script that the player loads for a Sun audio sound (a name ending in ".au"),
+ * named `name` + ".js": it registers the sound's bytes, in base64, under its name in
+ * the page's OrvelinSounds map. Browsers play no Sun audio and a page opened from disk
+ * may not read a file beside it, but it may load a script.
+ */
+std::string SoundScriptText(std::string_view name, std::string_view bytes);
+
 /// What the applet code was generated as: its text and whether it calls JavaScript;
 /// and whether its page plays through the HTML5 player.
 struct PageSource {

@@ -140,7 +140,11 @@
             backImage: field(5, 'File', ''),
             backImageStyle: field(6, 'Int16', 0),
             offsetX: field(12, 'Int16', 0),
-            offsetY: field(13, 'Int16', 0)
+            offsetY: field(13, 'Int16', 0),
+            ProgramOVER: field(9, 'Raw', ''),
+            ProgramDOWN: field(10, 'Raw', ''),
+            ProgramOUT: field(11, 'Raw', ''),
+            ProgramStart: field(15, 'Raw', '')
         };
     }
 
@@ -261,6 +265,131 @@
         }
     }
 
+    // ---- Sounds -------------------------------------------------------------------
+
+    /** Sun audio as channels of samples from -1 to 1: mu-law, A-law, linear 8 to 32 bits
+     *  and floats, big-endian as the format has it. */
+    function decodeAu(bytes) {
+        var v = new DataView(bytes.buffer, bytes.byteOffset, bytes.byteLength);
+        if (bytes.length < 24 || v.getUint32(0) !== 0x2e736e64)
+            throw new Error('no Sun audio');
+        var start = v.getUint32(4), size = v.getUint32(8), code = v.getUint32(12);
+        var rate = v.getUint32(16), channels = v.getUint32(20);
+        var width = { 1: 1, 2: 1, 3: 2, 4: 3, 5: 4, 6: 4, 7: 8, 27: 1 }[code];
+        if (!width || !channels || !rate)
+            throw new Error('encoding ' + code + ' is not played');
+        var end = Math.min(bytes.length, size === 0xffffffff ? Infinity : start + size);
+        var frames = Math.max(0, Math.floor((end - start) / width / channels));
+        var out = [];
+        for (var c = 0; c < channels; c++)
+            out.push(new Float32Array(frames));
+        for (var i = 0, at = start; i < frames; i++) {
+            for (c = 0; c < channels; c++, at += width) {
+                var x;
+                switch (code) {
+                case 1:
+                case 27:
+                    x = code === 1 ? ulaw(bytes[at]) : alaw(bytes[at]);
+                    break;
+                case 2: x = v.getInt8(at) / 128; break;
+                case 3: x = v.getInt16(at) / 32768; break;
+                case 4: x = ((v.getInt8(at) << 16) | v.getUint16(at + 1)) / 8388608; break;
+                case 5: x = v.getInt32(at) / 2147483648; break;
+                case 6: x = v.getFloat32(at); break;
+                default: x = v.getFloat64(at);
+                }
+                out[c][i] = x;
+            }
+        }
+        return { rate: rate, channels: out };
+    }
+
+    function ulaw(u) {
+        u = ~u & 255;
+        var t = (((u & 15) << 3) + 132) << ((u & 112) >> 4);
+        return (u & 128 ? 132 - t : t - 132) / 32768;
+    }
+
+    function alaw(a) {
+        a ^= 85;
+        var seg = (a & 112) >> 4, t = ((a & 15) << 4) + (seg ? 264 : 8);
+        if (seg > 1)
+            t <<= seg - 1;
+        return (a & 128 ? t : -t) / 32768;
+    }
+
+    // The first gesture of the visitor lets sounds start, as browsers require.
+    var audio = null, sounds = {}, GESTURES = ['pointerdown', 'pointerup', 'keydown', 'touchend'];
+    function unlock() {
+        GESTURES.forEach(function (t) { doc.removeEventListener(t, unlock, true); });
+        var Context = global.AudioContext || global.webkitAudioContext;
+        guard(function () {
+            if (Context)
+                audio = new Context();
+        });
+    }
+    GESTURES.forEach(function (t) { doc.addEventListener(t, unlock, true); });
+
+    /** Gets a sound ready: a Sun audio file comes as the script the build writes beside it
+     *  ("click.au.js" registers the bytes of "click.au"), which a page opened from disk
+     *  may load where it may not read the file itself; other formats the browser plays. */
+    function loadSound(name, owner) {
+        if (!name || sounds[name])
+            return;
+        var entry = sounds[name] = {};
+        if (!/\.au$/i.test(name)) {
+            entry.element = new Audio(encodeURIComponent(name));
+            entry.element.preload = 'auto';
+            return;
+        }
+        var script = doc.createElement('script');
+        script.src = encodeURIComponent(name) + '.js';
+        script.onerror = function () {
+            warn('applet "' + owner + '": sound ' + name + ' could not be loaded (' +
+                 name + '.js is missing)');
+        };
+        (doc.head || doc.documentElement).appendChild(script);
+    }
+
+    function playSound(name, owner) {
+        var entry = sounds[name];
+        if (!entry || !audio || entry.failed)
+            return;
+        try {
+            startSound(entry, name);
+        } catch (e) {
+            entry.failed = true;
+            warn('applet "' + owner + '": sound ' + name + ': ' + e.message);
+        }
+    }
+
+    function startSound(entry, name) {
+        if (entry.element) {
+            entry.element.currentTime = 0;
+            var played = entry.element.play();
+            if (played && played.catch)
+                played.catch(function () {});
+            return;
+        }
+        if (!entry.buffer) {
+            var text = (global.OrvelinSounds || {})[name];
+            if (!text)
+                return; // not loaded (yet)
+            var bin = atob(text), bytes = new Uint8Array(bin.length);
+            for (var i = 0; i < bin.length; i++)
+                bytes[i] = bin.charCodeAt(i);
+            var d = decodeAu(bytes);
+            entry.buffer = audio.createBuffer(d.channels.length, Math.max(1, d.channels[0].length), d.rate);
+            d.channels.forEach(function (data, c) { entry.buffer.getChannelData(c).set(data); });
+        }
+        if (audio.state === 'suspended')
+            audio.resume();
+        var source = audio.createBufferSource();
+        source.buffer = entry.buffer;
+        source.connect(audio.destination);
+        source.start();
+    }
+
     // ---- The player ---------------------------------------------------------------
 
     var STYLE = '.orvelin-player{display:inline-block;position:relative;overflow:hidden;' +
@@ -350,12 +479,16 @@
         // Every state's image starts loading now, so that a hover shows it at once.
         this.image(this.applet.backImage);
         this.buttons.forEach(function (b) {
-            STATES.forEach(function (s) { self.image(b['Image' + s]); });
+            STATES.forEach(function (s) {
+                self.image(b['Image' + s]);
+                loadSound(b['Snd' + s], self.name);
+            });
         });
         applet.parentNode.replaceChild(el, applet);
         this.redraw();
         if (!this.waiting)
             this.resolveReady();
+        this.runs = {};
     }
 
     /** The image of a bare file name beside the page; null while it loads or when it fails. */
@@ -421,13 +554,66 @@
                     guard(function () { handler(e, b, b.element.tagName === 'A'); });
             });
         }
+        // The applet's own programs: entering, leaving (by pointer or focus) and pressing.
+        // Pointer (1) and keyboard focus (2) may both be inside; the programs run on the
+        // first in and the last out. Focus that a click gives counts for nothing, or a
+        // clicked button would never be left.
+        function cross(o, into, bit) {
+            var before = o.inside | 0;
+            o.inside = into ? before | bit : before & ~bit;
+            return !before !== !o.inside;
+        }
+        function edge(into, bit) {
+            if (cross(self, into, bit))
+                guard(function () { self.run(self.applet[into ? 'ProgramOVER' : 'ProgramOUT'], 'A'); });
+        }
+        function enter(b, into, bit) {
+            if (cross(b, into, bit))
+                self.program(b, into ? 'OVER' : 'UP');
+        }
+        var el = self.element;
+        // Over, not enter: the bar is entered before the button under the pointer.
+        el.addEventListener('pointerover', function (e) {
+            if (!el.contains(e.relatedTarget))
+                edge(true, 1);
+        });
+        el.addEventListener('pointerleave', function () { edge(false, 1); });
+        function keyed(e) {
+            try {
+                return e.target.matches(':focus-visible');
+            } catch (x) {
+                return true; // a browser without :focus-visible
+            }
+        }
+        el.addEventListener('focusin', function (e) {
+            if (keyed(e))
+                edge(true, 2);
+        });
+        el.addEventListener('focusout', function (e) {
+            if (!el.contains(e.relatedTarget))
+                edge(false, 2);
+        });
+        el.addEventListener('pointerdown', function (e) {
+            if (e.button === 0)
+                guard(function () { self.run(self.applet.ProgramDOWN, 'A'); });
+        });
+        // The keyboard: a focused button is entered, a blurred one left.
+        on('focusin', function (e, b) {
+            if (keyed(e))
+                enter(b, true, 2);
+        });
+        on('focusout', function (e, b) {
+            enter(b, false, 2);
+        });
         on('pointerover', function (e, b) {
+            enter(b, true, 1);
             b.hover = true;
             if (!e.buttons)
                 b.pressed = false; // released elsewhere
             self.update(b);
         });
         on('pointerout', function (e, b) {
+            enter(b, false, 1);
             b.hover = false;
             self.update(b);
         });
@@ -435,6 +621,7 @@
             if (e.button !== 0)
                 return;
             b.pressed = 'pointer';
+            self.program(b, 'DOWN');
             // A touch captures its pointer; released, a finger sliding off leaves the button.
             if (b.element.hasPointerCapture && b.element.hasPointerCapture(e.pointerId))
                 b.element.releasePointerCapture(e.pointerId);
@@ -458,6 +645,8 @@
             if (e.key === ' ')
                 e.preventDefault(); // no scrolling
             if (!e.repeat) {
+                self.program(b, 'DOWN');
+                self.run(self.applet.ProgramDOWN, 'A');
                 b.pressed = 'key';
                 self.update(b);
             }
@@ -476,8 +665,10 @@
         });
         on('click', function (e, b, link) {
             // A click of no pointer and no key: assistive technology.
-            if (!link && e.detail === 0 && !b.pressed)
+            if (!link && e.detail === 0 && !b.pressed) {
+                self.program(b, 'DOWN');
                 self.activate(b);
+            }
         });
         self.element.addEventListener('focusout', function (e) {
             var b = e.target && e.target.orvelinButton;
@@ -519,6 +710,7 @@
         var s = this.stateOf(b);
         if (s !== b.state) {
             b.state = s;
+            playSound(b['Snd' + s], this.name);
             this.paint(b.x, b.y, b.Width, b.Height);
         }
     };
@@ -637,6 +829,111 @@
         }
     };
 
+    // ---- Programs -------------------------------------------------------------------
+
+    /** Runs the program of a button's state slot. */
+    Player.prototype.program = function (b, s) {
+        this.run(b['Program' + s], s + b.number);
+    };
+
+    /**
+     * Runs program text; `slot` names where it comes from. A run that starts while an
+     * earlier run of the same slot still waits replaces it: the earlier run's remaining
+     * commands are dropped. Runs of different slots go on side by side.
+     */
+    Player.prototype.run = function (text, slot) {
+        var lines = String(text || '').split(';');
+        lines.pop(); // what follows the last ";" is no command
+        var runs = this.runs, self = this, mark = {};
+        if (slot)
+            runs[slot] = mark;
+        var i = 0;
+        (function next() {
+            while (i < lines.length) {
+                if (slot && runs[slot] !== mark)
+                    return;
+                var line = lines[i++];
+                var wait = -1;
+                try {
+                    wait = self.command(line);
+                } catch (e) {
+                    warn('applet "' + self.name + '": command "' + line + '" skipped: ' + e.message);
+                }
+                if (wait >= 0)
+                    return void setTimeout(function () { guard(next); }, wait);
+            }
+        })();
+    };
+
+    /** Carries out one command line; a Wait gives its milliseconds, the others -1. */
+    Player.prototype.command = function (line) {
+        var w = line.split(' ');
+        var need = [0, 2, 2, 6, 4, 4, 2, 3][w[0]];
+        if (!/^[1-7]$/.test(w[0]) || w.length < need)
+            throw new Error('no command');
+        if (w[0] === '6') {
+            var ms = Number(w[1].replace(',', '.')); // a decimal comma too
+            if (!(ms >= 0))
+                throw new Error('no time');
+            return ms;
+        }
+        if (w[0] === '7') {
+            var code = decodeText(w.slice(2).join(' '));
+            try {
+                (0, global.eval)(code); // in the page's own scope
+            } catch (e) {
+                warn('applet "' + this.name + '": JavaScript "' + code + '" failed: ' + e.message);
+            }
+            return -1;
+        }
+        var n = readInt(w[1], 'the button'), b = this.button(n);
+        if (!b)
+            throw new Error('there is no button ' + n);
+        var s = w[0] === '4' || w[0] === '5' ? STATES[readInt(w[2], 'the state') - 1] : '';
+        if (s === undefined)
+            throw new Error('no state ' + w[2]);
+        switch (w[0]) {
+        case '1':
+        case '2':
+            this.setHidden(n, w[0] === '2');
+            break;
+        case '3':
+            var box = w.slice(2, 6).map(function (v) { return readInt(v, 'a size'); });
+            this.move(b, box[0], box[1], box[2], box[3]);
+            break;
+        case '4':
+            b['Label' + s] = decodeText(w.slice(3).join(' '));
+            if (s === 'UP' && b.LabelUP.trim())
+                b.element.setAttribute('aria-label', b.LabelUP.split('\\n').join(' ').trim());
+            this.paint(b.x, b.y, b.Width, b.Height);
+            break;
+        default:
+            b['BackColor' + s] = readColor(w[3], 'the colour') || b['BackColor' + s];
+            this.paint(b.x, b.y, b.Width, b.Height);
+        }
+        return -1;
+    };
+
+    /** Moves and sizes a button; -999 keeps a value. A hidden button moves unseen. */
+    Player.prototype.move = function (b, x, y, w, h) {
+        var old = [b.x, b.y, b.Width, b.Height];
+        if (x !== -999)
+            b.x = x;
+        if (y !== -999)
+            b.y = y;
+        if (w !== -999)
+            b.Width = w;
+        if (h !== -999)
+            b.Height = h;
+        var st = b.element.style;
+        st.left = b.x + 'px';
+        st.top = b.y + 'px';
+        st.width = Math.max(0, b.Width) + 'px';
+        st.height = Math.max(0, b.Height) + 'px';
+        this.paint(old[0], old[1], old[2], old[3]);
+        this.paint(b.x, b.y, b.Width, b.Height);
+    };
+
     Player.prototype.button = function (n) {
         for (var i = 0; i < this.buttons.length; i++)
             if (this.buttons[i].number === n)
@@ -665,7 +962,9 @@
         tried.add(applet);
         guard(function () {
             addStyle();
-            players.push(new Player(applet));
+            var p = new Player(applet);
+            players.push(p);
+            p.run(p.applet.ProgramStart, 'Start'); // page scripts may already find the bar
         });
     }
 
@@ -714,5 +1013,46 @@
         });
     });
 
-    global.OrvelinPlayer = { scan: function () { guard(scan); }, players: players };
+    function encode(text) {
+        return String(text).replace(/ /g, '&nbsp').replace(/;/g, '&y01').replace(/"/g, '&y02');
+    }
+
+    /** What page scripts drive a bar with: the commands of a program, by button number
+     *  (1-based) and state (1 UP, 2 OVER, 3 DOWN). */
+    function bar(name) {
+        var p = null;
+        players.forEach(function (q) {
+            if (!p && q.name === name && doc.contains(q.element))
+                p = q;
+        });
+        if (!p)
+            return null;
+        function one(line) {
+            p.run(line + ';');
+        }
+        return {
+            show: function (n) { one('1 ' + n); },
+            hide: function (n) { one('2 ' + n); },
+            move: function (n, x, y, w, h) {
+                one(['3', n, x, y, w, h].map(function (v) {
+                    return v === undefined || v === null ? -999 : v;
+                }).join(' '));
+            },
+            setLabel: function (n, s, text) { one('4 ' + n + ' ' + s + ' ' + encode(text)); },
+            setColor: function (n, s, rgb) { one('5 ' + n + ' ' + s + ' ' + String(rgb).replace('#', '')); },
+            /** As if pressed: its DOWN program runs, and in radio mode it stays down. */
+            press: function (n) {
+                var b = p.button(Number(n));
+                if (!b)
+                    return warn('applet "' + name + '": there is no button ' + n);
+                p.program(b, 'DOWN');
+                p.activate(b);
+            },
+            run: function (text) { p.run(text); }
+        };
+    }
+
+    global.OrvelinPlayer = {
+        scan: function () { guard(scan); }, players: players, bar: bar, decodeAu: decodeAu
+    };
 })(typeof window !== 'undefined' ? window : this);

@@ -77,6 +77,12 @@ TEST(PageText, WrapsTheCodeWithTheBodyTagOfItsJavaScriptFlagAndMarksUtf8) {
               "</Body>\r\n</Html>\r\n");
 }
 
+TEST(SoundScriptText, NameIsAScriptStringAndBytesAreBase64) {
+    EXPECT_EQ(SoundScriptText("a\"<\\.au", std::string("\xFF\0b!", 4)),
+              "(window.OrvelinSounds = window.OrvelinSounds || {})[\"a\\x22\\x3c\\x5c.au\"] =\n"
+              "\"/wBiIQ==\";\n");
+}
+
 TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
     // Two buttons name one image; one path uses Windows separators.
     model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
@@ -89,6 +95,8 @@ TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
     EXPECT_NE(html.text.find("|home&nbspup.gif|"), std::string::npos);
     EXPECT_EQ(temp.read("site/home&nbspup.gif"), "GIF89a home");
     EXPECT_EQ(temp.read("site/click.au"), "au");
+    EXPECT_EQ(temp.read("site/click.au.js"),
+              "(window.OrvelinSounds = window.OrvelinSounds || {})[\"click.au\"] =\n\"YXU=\";\n");
     EXPECT_EQ(temp.read("site/Orvel1b6.jar"), "jar");
     EXPECT_EQ(PageFiles(model, temp.path("program")).size(), 5u);
 
@@ -118,6 +126,8 @@ TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoe
     EXPECT_EQ(ui.shown[0].kind, "okcancel");
     EXPECT_EQ(ui.shown[1].text, kCantCopyButton2);
     EXPECT_EQ(temp.read("site/click.au"), "au");
+    EXPECT_EQ(temp.read("site/click.au.js"),
+              "(window.OrvelinSounds = window.OrvelinSounds || {})[\"click.au\"] =\n\"YXU=\";\n");
 }
 
 TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {

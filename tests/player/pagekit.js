@@ -69,6 +69,20 @@ function launch() {
     return chromium.launch({ executablePath: process.env.ORVELIN_CHROMIUM || '/usr/bin/chromium' });
 }
 
+/** A fresh context and page of `browser` at `url`, with the console messages and page
+ *  errors it collects; `init` runs in the page before its own scripts. */
+async function open(browser, url, contextOptions = {}, init = null) {
+    const context = await browser.newContext(contextOptions);
+    const page = await context.newPage();
+    const messages = [];
+    page.on('console', (m) => messages.push(m.type() + ': ' + m.text()));
+    page.on('pageerror', (e) => messages.push('error: ' + e.message));
+    if (init)
+        await page.addInitScript(init);
+    await page.goto(url);
+    return { context, page, messages };
+}
+
 /**
  * Compares two PNG images in the browser of `page` (decoded without colour management):
  * how many pixels differ by at most `tolerance` levels in every channel, and a mask
@@ -119,4 +133,4 @@ async function pixelAt(page, x, y) {
     return '#' + zlib.inflateSync(Buffer.concat(data)).subarray(1, 4).toString('hex');
 }
 
-module.exports = { binDir, cli, tempDir, makePage, launch, comparePngs, pixelAt };
+module.exports = { binDir, cli, tempDir, makePage, launch, open, comparePngs, pixelAt };

@@ -11,15 +11,7 @@ const bar = path.join(__dirname, 'data', 'bar.orv');
 const UP = '#ffff00', OVER = '#00ffff', DOWN = '#ff0000';
 let browser, dir;
 
-async function open(url, contextOptions = {}) {
-    const context = await browser.newContext(contextOptions);
-    const page = await context.newPage();
-    const messages = [];
-    page.on('console', (m) => messages.push(m.type() + ': ' + m.text()));
-    page.on('pageerror', (e) => messages.push('error: ' + e.message));
-    await page.goto(url);
-    return { context, page, messages };
-}
+const open = (url, options) => kit.open(browser, url, options);
 
 /** Page position of the middle of a button's top-left corner area (clear of the label). */
 async function spot(page, appletName, n) {
