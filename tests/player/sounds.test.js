@@ -78,12 +78,11 @@ test('the OVER sound of a built page opened from disk plays after the first gest
     fs.writeFileSync(project, lines.join('\n'));
     const site = path.join(dir, 'site');
     fs.mkdirSync(site);
-    // A program folder with stand-ins for the applet files, which the build copies.
+    // A program folder of its own: the build copies the player from it.
     const program = path.join(dir, 'program');
     fs.mkdirSync(program);
-    fs.copyFileSync(path.join(kit.binDir, 'Orvel.ini'), path.join(program, 'Orvel.ini'));
-    for (const name of ['Orvel1b6.class', 'Orvel1b6.jar'])
-        fs.writeFileSync(path.join(program, name), 'stand-in');
+    for (const name of ['Orvel.ini', 'orvelin-player.js'])
+        fs.copyFileSync(path.join(kit.binDir, name), path.join(program, name));
     kit.cli(['build', project, path.join(site, 'built.html'), '--program-dir', program]);
     assert.ok(fs.existsSync(path.join(site, 'over.au.js')));
 
