@@ -99,8 +99,11 @@
       return readColor(text, what);
     case 'Label':
     case 'Text':
-    case 'File': // a bare file name beside the page
       return decodeText(text);
+    case 'File':
+      // A bare file name beside the page, in the form the build wrote the file under
+      // ("my&nbspclick.au"): only what the HTML parser decoded goes back.
+      return text.replace(/\u00a0/g, '&nbsp');
     default:
       return text;
     }
