@@ -63,6 +63,7 @@ void MainMenus::buildFile(QMenu* menu) {
 
 void MainMenus::buildEdit(QMenu* menu) {
     menu->setObjectName(QStringLiteral("mnuEdit"));
+    m_edit = menu;
     Editor& e = m_editor;
     QAction* addButton = add(menu, "mnuAdd", QStringLiteral("&Add Button"));
     addButton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Plus));
@@ -166,6 +167,13 @@ void MainMenus::setLanguageChecked(const QString& language) {
 
 void MainMenus::setAutoTileChecked(bool checked) {
     m_autoTile->setChecked(checked);
+}
+
+void MainMenus::addUndoActions(QAction* undo, QAction* redo) {
+    QAction* first = m_edit->actions().value(0);
+    m_edit->insertActions(first, {undo, redo});
+    m_edit->insertSeparator(first);
+    m_shared << undo << redo;
 }
 
 QList<QAction*> MainMenus::sharedActions() const {

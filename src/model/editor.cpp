@@ -118,6 +118,7 @@ void Editor::New() {
     m_view.SetCaption(MainTitle());
     ApplyKeepOnTop();
     m_model.Saved = true;
+    m_view.ProjectReplaced();
 }
 
 void Editor::Open() {
@@ -190,6 +191,7 @@ void Editor::ImportLegacy() {
     m_model.ProjectFileName.clear();
     m_model.Saved = false;
     m_view.SetCaption(MainTitle());
+    m_view.ProjectReplaced();
 }
 
 SaveAnswer Editor::AskToSave() {
@@ -377,6 +379,24 @@ void Editor::SetMainParams() {
     m_properties.SetMainParams();
 }
 
+void Editor::ShowRestored(const DocumentChange& change) {
+    if (change.countChanged) {
+        m_design.ClearButtons();
+        for (int i = 1; i <= m_model.ButtonCount; ++i)
+            m_design.LoadButton(i);
+    }
+    // The background shows through transparent buttons, also where buttons came or went.
+    if (change.applet || change.countChanged)
+        m_design.AppletChanged();
+    SetMainParams();
+    m_view.ShowButtonList();
+    if (m_model.CurrentButton >= 1 && m_model.CurrentButton <= m_model.ButtonCount)
+        ShowProp(m_model.CurrentButton);
+    else
+        m_design.HideMarks();
+    m_design.RedrawAll();
+}
+
 bool Editor::LoadFile(const std::string& path) {
     ClearProject();
     const bool loaded = LoadProject(m_model, path, m_ui);
@@ -386,6 +406,7 @@ bool Editor::LoadFile(const std::string& path) {
     m_view.SetCaption(loaded ? MainTitle() + " " + path : MainTitle());
     if (loaded)
         m_recent.WriteRecent(path);
+    m_view.ProjectReplaced();
     return loaded;
 }
 

@@ -4,6 +4,7 @@
 #include "designview.h"
 #include "editorview.h"
 #include "projectmodel.h"
+#include "projectsnapshot.h"
 #include "propertyeditor.h"
 #include "recentfiles.h"
 #include "settings.h"
@@ -104,6 +105,9 @@ public:
     void ShowProp(int index);
     /// Fills the applet controls with Updating set.
     void SetMainParams();
+    /// The document was put back as it stood at another moment (undo, redo): the
+    /// surface, the list, the applet controls and the panel show it again.
+    void ShowRestored(const DocumentChange& change);
 
     PropertyEditor& Properties() { return m_properties; }
     RecentFiles& Recent() { return m_recent; }
