@@ -177,7 +177,7 @@ void UndoHistory::restore(const ProjectSnapshot& from, const Snapshot& to) {
 }
 
 QString UndoHistory::typingField() const {
-    const QWidget* focus = QApplication::focusWidget();
+    const QWidget* focus = m_keyTarget.data();
     if (!m_lastInputWasKey || !IsTextField(focus))
         return {};
     // An editable combo box's line edit has no name of its own.
@@ -193,6 +193,7 @@ bool UndoHistory::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
     case QEvent::InputMethod:
         m_lastInputWasKey = true;
+        m_keyTarget = qobject_cast<QWidget*>(watched);
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

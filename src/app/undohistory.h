@@ -5,6 +5,7 @@
 #include "projectsnapshot.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QUndoStack>
 #include <memory>
@@ -51,7 +52,7 @@ private:
     class Step;
     using Snapshot = std::shared_ptr<const ProjectSnapshot>;
     void restore(const ProjectSnapshot& from, const Snapshot& to);
-    /// The text field keys were typed into, when the last input was a key there.
+    /// The text field the last key went to, when the last input was a key.
     QString typingField() const;
 
     ProjectModel& m_model;
@@ -65,6 +66,7 @@ private:
     bool m_active = false;
     bool m_restoring = false;
     bool m_lastInputWasKey = false;
+    QPointer<QWidget> m_keyTarget; ///< where the last key went
 };
 
 } // namespace orvelin

@@ -5,11 +5,14 @@
 #include "fakeui.h"
 #include "frmdesign.h"
 #include "frmmain.h"
+#include "projectfile.h"
 #include "sizerhandle.h"
 #include "tempfolder.h"
 #include "testapplication.h"
+#include "undohistory.h"
 #include "windowgeometry.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QLabel>
@@ -57,6 +60,14 @@ struct Program {
         edit->selectAll();
         QTest::keyClicks(edit, text);
     }
+    /// Lets the program wait for the next event once, as it does between the user's.
+    void idle() {
+        QEventLoop loop;
+        QTimer::singleShot(20, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    QString undoText() { return undoAction()->text().remove(QLatin1Char('&')); }
+    QAction* undoAction() { return main().history().undoAction(); }
     /// Where the right handle would stand around button `index`.
     QPoint rightHandleOf(int index) {
         const QRect b = design().pButtons(index)->geometry();
@@ -181,6 +192,82 @@ TEST(Designer, AfterNewThePanelIsEmpty) {
     EXPECT_TRUE(p.find<QLineEdit>("txtLabel")->text().isEmpty());
     EXPECT_FALSE(p.find<QLineEdit>("txtWidth")->isEnabled());
     EXPECT_EQ(p.model().ButtonCount, 0);
+}
+
+TEST(Designer, TypingInOneFieldIsOneStepAndUndoingToTheSavedProjectLeavesItUnchanged) {
+    Program p;
+    p.idle();
+    const QString label = p.find<QLineEdit>("txtLabel")->text();
+    p.type("txtLabel", QStringLiteral("H"));
+    for (const char* key : {"i", "!"}) {
+        p.idle();
+        QTest::keyClicks(p.find<QLineEdit>("txtLabel"), QString::fromLatin1(key));
+    }
+    p.idle();
+    p.type("txtURL", QStringLiteral("a.htm"));
+    p.idle();
+    EXPECT_EQ(p.main().history().stack().count(), 2);
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change URL"));
+
+    // The keys undo the document, also where a field would undo its own text.
+    QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(p.model().Button(1).URL, "");
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Label"));
+    QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), label);
+    EXPECT_TRUE(p.model().Saved);
+    p.idle();
+    EXPECT_FALSE(p.main().isWindowModified());
+
+    QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(p.model().Button(1).LabelUP, "Hi!");
+    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), QStringLiteral("Hi!"));
+    EXPECT_FALSE(p.model().Saved);
+
+    p.model().Saved = true;
+    p.main().editor().New();
+    p.idle();
+    EXPECT_EQ(p.main().history().stack().count(), 0);
+}
+
+TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollows) {
+    Program p;
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    p.model().Button(2).x = 200;
+    p.design().RedrawAll();
+    p.idle();
+    p.main().history().clear();
+    const std::string start = ProjectText(p.model());
+
+    ButtonPicture* picture = p.design().pButtons(2);
+    QTest::mousePress(picture, Qt::LeftButton, {}, QPoint(5, 5));
+    for (int dx : {10, 20, 30}) {
+        QTest::mouseMove(picture, QPoint(5 + dx, 5));
+        p.idle();
+    }
+    QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(35, 5));
+    p.idle();
+    ASSERT_NE(p.model().Button(2).x, 200);
+    EXPECT_EQ(p.main().history().stack().count(), 1);
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Move Button"));
+
+    p.main().editor().DuplicateButton();
+    p.idle();
+    p.main().editor().RemoveButton();
+    p.idle();
+    const std::string end = ProjectText(p.model());
+    EXPECT_EQ(p.main().history().stack().count(), 3);
+
+    for (int i = 0; i < 3; ++i)
+        p.main().history().undo();
+    EXPECT_EQ(ProjectText(p.model()), start);
+    // Nothing but the restored document told the surface what to show.
+    EXPECT_EQ(p.design().pButtons(2)->x(), 200);
+    EXPECT_EQ(p.design().pButtons(3), nullptr);
+    EXPECT_EQ(p.find<QListWidget>("lstButtons")->count(), 2);
+    for (int i = 0; i < 3; ++i)
+        p.main().history().redo();
+    EXPECT_EQ(ProjectText(p.model()), end);
 }
 
 TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {
