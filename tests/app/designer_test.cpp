@@ -13,6 +13,7 @@
 #include "windowgeometry.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QLabel>
@@ -268,6 +269,46 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     for (int i = 0; i < 3; ++i)
         p.main().history().redo();
     EXPECT_EQ(ProjectText(p.model()), end);
+}
+
+TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
+    Program a;
+    a.main().editor().AddButton();
+    a.main().editor().AddButton();
+    a.model().Button(3).LabelUP = "Copied | \"label\"";
+    a.main().editor().SetListSelection({2, 3});
+    QTest::keyClick(a.find("lstButtons"), Qt::Key_C, Qt::ControlModifier);
+
+    Program b;
+    b.idle();
+    b.main().history().clear();
+    QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
+    ASSERT_EQ(b.model().ButtonCount, 3);
+    ButtonRecord expected = a.model().Button(3);
+    expected.x += kDuplicateOffset;
+    expected.y += kDuplicateOffset;
+    // As a project file keeps it: a "|" in a label comes back as "I".
+    EXPECT_EQ(SerializeButton(b.model().Button(3)), SerializeButton(expected));
+    EXPECT_EQ(b.designer.selection().selectedButtons(), std::vector<int>({2, 3}));
+    EXPECT_NE(b.design().pButtons(3), nullptr);
+    b.idle();
+    EXPECT_EQ(b.undoText(), QStringLiteral("Undo Add 2 Buttons"));
+
+    // Past the limit nothing is added; text that is not buttons is ignored.
+    while (b.model().ButtonCount < 100)
+        b.main().editor().AddButton();
+    b.ui.shown.clear();
+    QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(b.model().ButtonCount, 100);
+    EXPECT_EQ(b.ui.messages().size(), 1u);
+    QGuiApplication::clipboard()->setText(QStringLiteral("Orvelin\r\n1|2|"));
+    QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(b.model().ButtonCount, 100);
+
+    a.main().findChild<QAction*>(QStringLiteral("mnuCut"))->trigger(); // b's window is active
+    EXPECT_EQ(a.model().ButtonCount, 1);
+    EXPECT_EQ(a.design().pButtons(2), nullptr);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QStringLiteral("Copied")));
 }
 
 TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {
