@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
+#include <chrono>
 
 using namespace orvelin;
 
@@ -86,29 +87,30 @@ void UndoRedo(benchmark::State& state, bool timeUndo) {
     history.capture();
     if (history.stack().count() != 1)
         state.SkipWithError("the group move made no single step");
-    for (auto _ : state) {
-        if (!timeUndo)
-            state.PauseTiming();
+    if (!timeUndo)
         history.undo();
-        state.ResumeTiming();
-        if (timeUndo)
-            state.PauseTiming();
-        history.redo();
-        if (timeUndo)
-            state.ResumeTiming();
+    // Only the timed half counts: the clock runs around one undo or one redo.
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        timeUndo ? history.undo() : history.redo();
+        const auto end = std::chrono::steady_clock::now();
+        state.SetIterationTime(std::chrono::duration<double>(end - start).count());
+        timeUndo ? history.redo() : history.undo();
     }
-    if (bench.designer.model().Button(kButtons).x != 5 + 9 * 50 + 3)
+    if (!timeUndo)
+        history.redo();
+    if (bench.designer.model().Button(kButtons).x != 5 + 3)
         state.SkipWithError("redo did not put the move back");
 }
 
 void BM_UndoGroupMoveOf101Buttons(benchmark::State& state) {
     UndoRedo(state, true);
 }
-BENCHMARK(BM_UndoGroupMoveOf101Buttons);
+BENCHMARK(BM_UndoGroupMoveOf101Buttons)->UseManualTime();
 
 void BM_RedoGroupMoveOf101Buttons(benchmark::State& state) {
     UndoRedo(state, false);
 }
-BENCHMARK(BM_RedoGroupMoveOf101Buttons);
+BENCHMARK(BM_RedoGroupMoveOf101Buttons)->UseManualTime();
 
 } // namespace

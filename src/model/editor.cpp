@@ -482,15 +482,29 @@ void Editor::ShowRestored(const DocumentChange& change) {
             m_design.LoadButton(i);
     }
     // The background shows through transparent buttons, also where buttons came or went.
-    if (change.applet || change.countChanged)
+    if (change.applet || change.countChanged) {
         m_design.AppletChanged();
-    SetMainParams();
-    m_view.ShowButtonList();
-    if (m_model.CurrentButton >= 1 && m_model.CurrentButton <= m_model.ButtonCount)
-        ShowProp(m_model.CurrentButton);
-    else
+        SetMainParams();
+    }
+    const int current = m_model.CurrentButton;
+    if (change.countChanged || change.selection) {
+        m_view.ShowButtonList();
+        // Markers of the selection change on buttons that did not change themselves.
+        m_design.RedrawAll();
+    } else {
+        for (int index : change.buttons) {
+            if (std::binary_search(change.moved.begin(), change.moved.end(), index))
+                m_design.MoveButton(index);
+            else
+                m_design.RedrawButton(index, false, false, false);
+        }
+    }
+    if (current >= 1 && current <= m_model.ButtonCount) {
+        ShowProp(current);
+        m_design.RedrawButton(current, true, true, false);
+    } else {
         m_design.HideMarks();
-    m_design.RedrawAll();
+    }
 }
 
 bool Editor::LoadFile(const std::string& path) {

@@ -116,9 +116,20 @@ DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapsho
     DocumentChange change;
     change.applet = before.applet != after.applet;
     change.countChanged = before.buttons.size() != after.buttons.size();
-    for (std::size_t i = 0; i < after.buttons.size(); ++i)
-        if (i >= before.buttons.size() || before.buttons[i] != after.buttons[i])
-            change.buttons.push_back(static_cast<int>(i) + 1);
+    change.selection =
+        before.selection != after.selection || before.currentButton != after.currentButton;
+    for (std::size_t i = 0; i < after.buttons.size(); ++i) {
+        if (i < before.buttons.size() && before.buttons[i] == after.buttons[i])
+            continue;
+        change.buttons.push_back(static_cast<int>(i) + 1);
+        if (i < before.buttons.size()) {
+            ButtonRecord placed = before.buttons[i];
+            placed.x = after.buttons[i].x;
+            placed.y = after.buttons[i].y;
+            if (placed == after.buttons[i])
+                change.moved.push_back(static_cast<int>(i) + 1);
+        }
+    }
     return change;
 }
 

@@ -59,6 +59,8 @@ struct DocumentChange {
     bool applet = false;       ///< an applet setting
     bool countChanged = false; ///< buttons were added or removed
     std::vector<int> buttons;  ///< buttons (1-based, in `after`) whose record differs
+    std::vector<int> moved;    ///< those of them that differ only in x and y
+    bool selection = false;    ///< the selection or the current button
 };
 DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after);
 
