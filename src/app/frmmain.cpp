@@ -14,6 +14,7 @@
 #include "windowgeometry.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -84,7 +85,13 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
             });
 }
 
-FrmMain::~FrmMain() = default;
+FrmMain::~FrmMain() {
+    // A field that loses the focus as the window goes writes what it holds: let it do so
+    // while the editor it writes to still exists.
+    QWidget* focus = QApplication::focusWidget();
+    if (focus != nullptr && isAncestorOf(focus))
+        focus->clearFocus();
+}
 
 QWidget* FrmMain::buildButtonColumn() {
     auto* column = new QWidget(this);
