@@ -20,6 +20,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -256,17 +257,28 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     p.idle();
     p.main().editor().RemoveButton();
     p.idle();
+    // The offset dialog previews as the user turns its boxes: one step, on OK.
+    QTimer::singleShot(0, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        dialog->findChild<QSpinBox*>(QStringLiteral("txtOffsetX"))->setValue(4);
+        p.idle();
+        dialog->findChild<QSpinBox*>(QStringLiteral("txtOffsetY"))->setValue(5);
+        dialog->findChild<QPushButton*>(QStringLiteral("btnOk"))->click();
+    });
+    p.find<QPushButton>("btnBgOffset")->click();
+    p.idle();
     const std::string end = ProjectText(p.model());
-    EXPECT_EQ(p.main().history().stack().count(), 3);
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Background Offset"));
+    EXPECT_EQ(p.main().history().stack().count(), 4);
 
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 4; ++i)
         p.main().history().undo();
     EXPECT_EQ(ProjectText(p.model()), start);
     // Nothing but the restored document told the surface what to show.
     EXPECT_EQ(p.design().pButtons(2)->x(), 200);
     EXPECT_EQ(p.design().pButtons(3), nullptr);
     EXPECT_EQ(p.find<QListWidget>("lstButtons")->count(), 2);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 4; ++i)
         p.main().history().redo();
     EXPECT_EQ(ProjectText(p.model()), end);
 }
