@@ -200,11 +200,15 @@ bool UndoHistory::eventFilter(QObject* watched, QEvent* event) {
         m_lastInputWasKey = false;
         break;
     case QEvent::ShortcutOverride: {
-        // Outside dialogs the undo keys undo the document, not the text of one field.
+        // In the two windows that hold the undo keys they undo the document, not the text
+        // of one field; other windows and dialogs keep their fields' own undo.
         auto* widget = qobject_cast<QWidget*>(watched);
         if (m_active && IsTextField(widget) && QApplication::activeModalWidget() == nullptr &&
-            IsUndoKey(*static_cast<QKeyEvent*>(event)))
-            return true;
+            IsUndoKey(*static_cast<QKeyEvent*>(event))) {
+            const QString window = widget->window()->objectName();
+            if (window == QLatin1String("frmMain") || window == QLatin1String("frmDesign"))
+                return true;
+        }
         break;
     }
     default:
