@@ -8,6 +8,7 @@
 #include "globalini.h"
 #include "mainmenus.h"
 #include "messages.h"
+#include "undohistory.h"
 #include "windowgeometry.h"
 
 #include <QCoreApplication>
@@ -56,6 +57,11 @@ void Designer::connectWindows() {
             [&editor] { editor.RemoveButton(); });
     connect(m_design.get(), &FrmDesign::btnViewHtmlClicked, this, [this] { showHtml(); });
     connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
+    // An open HTML window shows the code of the document an undo or redo put back.
+    connect(&m_main->history(), &UndoHistory::restored, this, [this] {
+        if (m_html && m_html->isVisible())
+            m_html->MakeHTML();
+    });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         TextFileError error;
         if (!GlobalIni::ForProgram().SetNoBackGround(on, &error))
@@ -131,6 +137,9 @@ StartupResult Designer::start(const QString& commandLine) {
     m_main->show();
     m_design->show();
     const StartupResult result = m_main->editor().Startup(commandLine.toStdString());
+    // The first button is where the history starts (a project named on the command line
+    // has started it already; doing it again is harmless).
+    m_main->history().clear();
     // Until the user sizes it, the design window is as large as the applet it shows.
     if (m_settings.StoredGeometry(kDesignForm.toStdString()).width == 0) {
         fitDesignWindow();

@@ -289,6 +289,17 @@ void FrmDesign::resizeSurface() {
     m_surface->setFixedSize(applet + QSize(2 * kMargin, 2 * kMargin));
 }
 
+void FrmDesign::MoveButton(int index) {
+    ButtonPicture* picture = pButtons(index);
+    if (!picture)
+        return;
+    const ButtonRecord& button = m_model.Button(index);
+    picture->move(button.x, button.y);
+    // A transparent button shows the background beneath its new place.
+    if (button.noBackGround == 1)
+        RedrawButton(index, false, false, true);
+}
+
 void FrmDesign::HideMarks() {
     HideSizers();
     m_positioner->hide();

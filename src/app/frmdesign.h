@@ -56,6 +56,7 @@ public:
     void UpdateTransparentBtns() override;
     void AppletChanged() override;
     void HideMarks() override;
+    void MoveButton(int index) override;
     void SetOnTop(bool onTop) override;
 
     /// Places the four handles around button `index` and raises them above the pictures.

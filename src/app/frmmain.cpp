@@ -10,9 +10,11 @@
 #include "mainmenus.h"
 #include "messages.h"
 #include "propertypanel.h"
+#include "undohistory.h"
 #include "windowgeometry.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -45,6 +47,10 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
       m_design(design), m_editor(model, list, ui, settings, design, shell, *this) {
     setObjectName(kFormName);
     m_menus = new MainMenus(*this, m_editor);
+    m_history = new UndoHistory(m_model, m_list, this);
+    m_menus->addUndoActions(m_history->undoAction(), m_history->redoAction());
+    connect(m_history, &UndoHistory::restored, this,
+            [this](const DocumentChange& change) { m_editor.ShowRestored(change); });
 
     auto* central = new QWidget(this);
     auto* columns = new QHBoxLayout(central);
@@ -74,6 +80,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     // event has been handled, before the program waits for the next one.
     connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
             [this] {
+                m_history->capture();
                 if (isWindowModified() == m_model.Saved)
                     setWindowModified(!m_model.Saved);
             });
@@ -232,6 +239,10 @@ std::optional<ImageSize> FrmMain::ImageSizeOf(const std::string& path) {
     if (!size.isValid())
         return std::nullopt;
     return ImageSize{size.width(), size.height()};
+}
+
+void FrmMain::ProjectReplaced() {
+    m_history->clear();
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {

@@ -15,6 +15,7 @@ class ButtonListBinding;
 class FrmMultiLineEditor;
 class MainMenus;
 class PropertyPanel;
+class UndoHistory;
 
 /**
  * The main editor window `frmMain`: the button list, the property panel and the
@@ -32,6 +33,7 @@ public:
 
     Editor& editor() { return m_editor; }
     MainMenus& menus() { return *m_menus; }
+    UndoHistory& history() { return *m_history; }
 
     // EditorView
     void ShowProp(int index, const std::string& caption) override;
@@ -47,6 +49,7 @@ public:
     void CloseLabelEditor() override;
     void QuitProgram() override;
     std::optional<ImageSize> ImageSizeOf(const std::string& path) override;
+    void ProjectReplaced() override;
 
 signals:
     void designWindowRequested();
@@ -76,6 +79,7 @@ private:
     PropertyPanel* m_properties = nullptr;
     AppletPanel* m_applet = nullptr;
     MainMenus* m_menus = nullptr;
+    UndoHistory* m_history = nullptr;
     QPointer<FrmMultiLineEditor> m_labelEditor;
     bool m_quitting = false;
 };

@@ -4,6 +4,8 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -63,6 +65,7 @@ void MainMenus::buildFile(QMenu* menu) {
 
 void MainMenus::buildEdit(QMenu* menu) {
     menu->setObjectName(QStringLiteral("mnuEdit"));
+    m_edit = menu;
     Editor& e = m_editor;
     QAction* addButton = add(menu, "mnuAdd", QStringLiteral("&Add Button"));
     addButton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Plus));
@@ -74,10 +77,30 @@ void MainMenus::buildEdit(QMenu* menu) {
     m_remove->setShortcut(QKeySequence::Delete);
     connect(m_remove, &QAction::triggered, this, [&e] { e.RemoveButton(); });
     menu->addSeparator();
+    // The selected buttons as text, so that they paste into another running designer.
+    QAction* cut = add(menu, "mnuCut", QStringLiteral("Cu&t Buttons"));
+    cut->setShortcut(QKeySequence::Cut);
+    connect(cut, &QAction::triggered, this, [&e] {
+        const std::string text = e.CutButtons();
+        if (!text.empty())
+            QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    });
+    QAction* copy = add(menu, "mnuCopy", QStringLiteral("&Copy Buttons"));
+    copy->setShortcut(QKeySequence::Copy);
+    connect(copy, &QAction::triggered, this, [&e] {
+        const std::string text = e.CopyButtons();
+        if (!text.empty())
+            QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    });
+    QAction* paste = add(menu, "mnuPaste", QStringLiteral("&Paste Buttons"));
+    paste->setShortcut(QKeySequence::Paste);
+    connect(paste, &QAction::triggered, this,
+            [&e] { e.PasteButtons(QGuiApplication::clipboard()->text().toStdString()); });
+    menu->addSeparator();
     QAction* makeDefault = add(menu, "mnuMakeDefault", QStringLiteral("Make &Default"));
     makeDefault->setToolTip(QStringLiteral("New buttons take the properties of this one"));
     connect(makeDefault, &QAction::triggered, this, [&e] { e.MakeDefault(); });
-    m_shared << addButton << duplicate << m_remove;
+    m_shared << addButton << duplicate << m_remove << cut << copy << paste;
 }
 
 void MainMenus::buildView(QMenu* menu) {
@@ -168,6 +191,13 @@ void MainMenus::setLanguageChecked(const QString& language) {
 
 void MainMenus::setAutoTileChecked(bool checked) {
     m_autoTile->setChecked(checked);
+}
+
+void MainMenus::addUndoActions(QAction* undo, QAction* redo) {
+    QAction* first = m_edit->actions().value(0);
+    m_edit->insertActions(first, {undo, redo});
+    m_edit->insertSeparator(first);
+    m_shared << undo << redo;
 }
 
 QList<QAction*> MainMenus::sharedActions() const {

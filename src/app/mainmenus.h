@@ -30,6 +30,8 @@ public:
     /// "English", "rus" or "heb".
     void setLanguageChecked(const QString& language);
     void setAutoTileChecked(bool checked);
+    /// Puts undo and redo at the top of the Edit menu, in the design window as well.
+    void addUndoActions(QAction* undo, QAction* redo);
 
     /// The commands worth having in the design window as well (file keys, button
     /// commands), so the same keys work there.
@@ -57,6 +59,7 @@ private:
     Editor& m_editor;
     std::array<QAction*, 4> m_recent{};
     QList<QAction*> m_shared;
+    QMenu* m_edit = nullptr;
     QAction* m_onTop = nullptr;
     QAction* m_html = nullptr;
     QAction* m_remove = nullptr;

@@ -19,6 +19,9 @@ public:
     /// Places and paints one button from its record (see the surface's painting order).
     virtual void RedrawButton(int index, bool placeHandles, bool placePositioner,
                               bool keepGeometry) = 0;
+    /// Puts button `index` where its record places it; its picture is otherwise as it
+    /// was (only the position changed).
+    virtual void MoveButton(int index) { RedrawButton(index, false, false, false); }
     /// Repaints every button (state switch, selection change).
     virtual void RedrawAll() = 0;
     /// Repaints every transparent button (the background under them changed).

@@ -46,6 +46,46 @@ std::string ActionTitle(ButtonState state) {
     return "Set Action: On Leaving Button...";
 }
 
+std::string ButtonsClipboardHeader() {
+    return std::string(kProgramTitle) + " Buttons " + kVersionText;
+}
+
+std::string ButtonsClipboardText(const ProjectModel& model, const std::vector<int>& buttons) {
+    std::string text = ButtonsClipboardHeader() + std::string(kCrLf);
+    for (int index : buttons) {
+        AppendSerializedButton(text, model.Button(index));
+        text += kCrLf;
+    }
+    return text;
+}
+
+std::optional<std::vector<ButtonRecord>> ButtonsFromClipboardText(std::string_view text) {
+    std::vector<ButtonRecord> buttons;
+    bool header = true;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        if (!line.empty() && line.back() == '\r')
+            line.remove_suffix(1);
+        if (header) {
+            if (line != ButtonsClipboardHeader())
+                return std::nullopt;
+            header = false;
+        } else if (!line.empty()) {
+            ButtonRecord record;
+            if (ParseButton(line, record))
+                return std::nullopt;
+            // Text typed elsewhere may hold what no field can store.
+            CleanTextFields(record);
+            buttons.push_back(std::move(record));
+        }
+    }
+    if (header)
+        return std::nullopt;
+    return buttons;
+}
+
 std::string ProjectSavePath(std::string_view chosen, std::string_view chosenFilter) {
     const std::string_view projectFilter =
         std::string_view(kProjectFilter).substr(0, std::string_view(kProjectFilter).find(";;"));
@@ -118,6 +158,7 @@ void Editor::New() {
     m_view.SetCaption(MainTitle());
     ApplyKeepOnTop();
     m_model.Saved = true;
+    m_view.ProjectReplaced();
 }
 
 void Editor::Open() {
@@ -190,6 +231,7 @@ void Editor::ImportLegacy() {
     m_model.ProjectFileName.clear();
     m_model.Saved = false;
     m_view.SetCaption(MainTitle());
+    m_view.ProjectReplaced();
 }
 
 SaveAnswer Editor::AskToSave() {
@@ -281,6 +323,62 @@ void Editor::RemoveButton() {
         m_view.ShowButtonList();
         m_design.HideMarks();
     }
+    m_design.RedrawAll();
+}
+
+std::string Editor::CopyButtons() const {
+    const std::vector<int> selected = m_list.selectedButtons();
+    return selected.empty() ? std::string() : ButtonsClipboardText(m_model, selected);
+}
+
+std::string Editor::CutButtons() {
+    std::string text = CopyButtons();
+    const std::vector<int> selected = m_list.selectedButtons();
+    for (auto it = selected.rbegin(); it != selected.rend(); ++it) {
+        m_model.RemoveButton(*it);
+        m_design.HideLastButton(m_list.count());
+        m_list.removeLast();
+    }
+    if (selected.empty())
+        return text;
+    m_model.CurrentButton = m_model.ButtonCount > 0 ? 1 : 0;
+    if (m_model.ButtonCount > 0)
+        m_list.selectOnly(1);
+    m_view.ShowButtonList();
+    if (m_model.ButtonCount > 0)
+        ShowProp(1);
+    else
+        m_design.HideMarks();
+    m_design.RedrawAll();
+    return text;
+}
+
+void Editor::PasteButtons(std::string_view text) {
+    const std::optional<std::vector<ButtonRecord>> buttons = ButtonsFromClipboardText(text);
+    if (!buttons || buttons->empty())
+        return;
+    if (m_model.ButtonCount + static_cast<int>(buttons->size()) > kMaxButtons) {
+        const MessageTable& msg = Messages();
+        m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
+        return;
+    }
+    const int first = m_model.ButtonCount + 1;
+    for (ButtonRecord record : *buttons) {
+        // Offset like a duplicate, so that the copies do not hide their originals.
+        record.x = static_cast<std::int16_t>(std::min(record.x + kDuplicateOffset, 32767));
+        record.y = static_cast<std::int16_t>(std::min(record.y + kDuplicateOffset, 32767));
+        ++m_model.ButtonCount;
+        m_model.Button(m_model.ButtonCount) = std::move(record);
+        m_list.append();
+        m_design.LoadButton(m_model.ButtonCount);
+    }
+    m_model.Saved = false;
+    m_model.CurrentButton = m_model.ButtonCount;
+    m_list.selectOnly(first);
+    for (int i = first + 1; i <= m_model.ButtonCount; ++i)
+        m_list.addSelection(i);
+    m_view.ShowButtonList();
+    ShowProp(m_model.CurrentButton);
     m_design.RedrawAll();
 }
 
@@ -381,6 +479,38 @@ void Editor::SetMainParams() {
     m_properties.SetMainParams();
 }
 
+void Editor::ShowRestored(const DocumentChange& change) {
+    if (change.countChanged) {
+        m_design.ClearButtons();
+        for (int i = 1; i <= m_model.ButtonCount; ++i)
+            m_design.LoadButton(i);
+    }
+    // The background shows through transparent buttons, also where buttons came or went.
+    if (change.applet || change.countChanged) {
+        m_design.AppletChanged();
+        SetMainParams();
+    }
+    const int current = m_model.CurrentButton;
+    if (change.countChanged || change.selection) {
+        m_view.ShowButtonList();
+        // Markers of the selection change on buttons that did not change themselves.
+        m_design.RedrawAll();
+    } else {
+        for (int index : change.buttons) {
+            if (std::binary_search(change.moved.begin(), change.moved.end(), index))
+                m_design.MoveButton(index);
+            else
+                m_design.RedrawButton(index, false, false, false);
+        }
+    }
+    if (current >= 1 && current <= m_model.ButtonCount) {
+        ShowProp(current);
+        m_design.RedrawButton(current, true, true, false);
+    } else {
+        m_design.HideMarks();
+    }
+}
+
 bool Editor::LoadFile(const std::string& path) {
     ClearProject();
     const bool loaded = LoadProject(m_model, path, m_ui);
@@ -390,6 +520,7 @@ bool Editor::LoadFile(const std::string& path) {
     m_view.SetCaption(loaded ? MainTitle() + " " + path : MainTitle());
     if (loaded)
         m_recent.WriteRecent(path);
+    m_view.ProjectReplaced();
     return loaded;
 }
 

@@ -4,12 +4,14 @@
 #include "designview.h"
 #include "editorview.h"
 #include "projectmodel.h"
+#include "projectsnapshot.h"
 #include "propertyeditor.h"
 #include "recentfiles.h"
 #include "settings.h"
 #include "shell.h"
 #include "userinterface.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,6 +81,17 @@ public:
     void AddButton();
     void DuplicateButton();
     void RemoveButton();
+    /// The selected buttons as clipboard text (ButtonsClipboardText); "" when none is.
+    std::string CopyButtons() const;
+    /// CopyButtons, then the selected buttons are removed; "" when none is selected.
+    std::string CutButtons();
+    /**
+     * Adds the buttons of clipboard text at the end, 10 pixels right of and below where
+     * they were copied from, and selects them. Text that is not Orvelin buttons is
+     * ignored; buttons beyond the 101-button limit refuse the whole paste with its
+     * message.
+     */
+    void PasteButtons(std::string_view text);
     /// A click on the list entry of button `index` (1-based): it becomes current. The
     /// selection itself is the list's: report it first with SetListSelection.
     void ClickList(int index);
@@ -104,6 +117,9 @@ public:
     void ShowProp(int index);
     /// Fills the applet controls with Updating set.
     void SetMainParams();
+    /// The document was put back as it stood at another moment (undo, redo): the
+    /// surface, the list, the applet controls and the panel show it again.
+    void ShowRestored(const DocumentChange& change);
 
     PropertyEditor& Properties() { return m_properties; }
     RecentFiles& Recent() { return m_recent; }
@@ -130,6 +146,13 @@ private:
     RecentFiles m_recent;
     PropertyEditor m_properties;
 };
+
+/// The first line of buttons on the clipboard, "Orvelin Buttons 1.0  Beta 6".
+std::string ButtonsClipboardHeader();
+/// The header line, then one serialised button per line, each line ending in CR LF.
+std::string ButtonsClipboardText(const ProjectModel& model, const std::vector<int>& buttons);
+/// The buttons of clipboard text; nothing when it is not Orvelin buttons.
+std::optional<std::vector<ButtonRecord>> ButtonsFromClipboardText(std::string_view text);
 
 /// The main window's title, "Orvelin 1.0  Beta 6".
 std::string MainTitle();

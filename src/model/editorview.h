@@ -49,6 +49,9 @@ public:
     virtual void QuitProgram() = 0;
     /// The pixel size of an image file, or nothing when it cannot be read.
     virtual std::optional<ImageSize> ImageSizeOf(const std::string& path) = 0;
+    /// A new, opened or imported project took the place of the old one (whose edits
+    /// can no longer be undone).
+    virtual void ProjectReplaced() {}
 };
 
 } // namespace orvelin

@@ -5,17 +5,22 @@
 #include "fakeui.h"
 #include "frmdesign.h"
 #include "frmmain.h"
+#include "projectfile.h"
 #include "sizerhandle.h"
 #include "tempfolder.h"
 #include "testapplication.h"
+#include "undohistory.h"
 #include "windowgeometry.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -57,6 +62,14 @@ struct Program {
         edit->selectAll();
         QTest::keyClicks(edit, text);
     }
+    /// Lets the program wait for the next event once, as it does between the user's.
+    void idle() {
+        QEventLoop loop;
+        QTimer::singleShot(20, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+    QString undoText() { return undoAction()->text().remove(QLatin1Char('&')); }
+    QAction* undoAction() { return main().history().undoAction(); }
     /// Where the right handle would stand around button `index`.
     QPoint rightHandleOf(int index) {
         const QRect b = design().pButtons(index)->geometry();
@@ -181,6 +194,133 @@ TEST(Designer, AfterNewThePanelIsEmpty) {
     EXPECT_TRUE(p.find<QLineEdit>("txtLabel")->text().isEmpty());
     EXPECT_FALSE(p.find<QLineEdit>("txtWidth")->isEnabled());
     EXPECT_EQ(p.model().ButtonCount, 0);
+}
+
+TEST(Designer, TypingInOneFieldIsOneStepAndUndoingToTheSavedProjectLeavesItUnchanged) {
+    Program p;
+    p.idle();
+    const QString label = p.find<QLineEdit>("txtLabel")->text();
+    p.type("txtLabel", QStringLiteral("H"));
+    for (const char* key : {"i", "!"}) {
+        p.idle();
+        QTest::keyClicks(p.find<QLineEdit>("txtLabel"), QString::fromLatin1(key));
+    }
+    p.idle();
+    p.type("txtURL", QStringLiteral("a.htm"));
+    p.idle();
+    EXPECT_EQ(p.main().history().stack().count(), 2);
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change URL"));
+
+    // The keys undo the document, also where a field would undo its own text.
+    QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(p.model().Button(1).URL, "");
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Label"));
+    QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), label);
+    EXPECT_TRUE(p.model().Saved);
+    p.idle();
+    EXPECT_FALSE(p.main().isWindowModified());
+
+    QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(p.model().Button(1).LabelUP, "Hi!");
+    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), QStringLiteral("Hi!"));
+    EXPECT_FALSE(p.model().Saved);
+
+    p.model().Saved = true;
+    p.main().editor().New();
+    p.idle();
+    EXPECT_EQ(p.main().history().stack().count(), 0);
+}
+
+TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollows) {
+    Program p;
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    p.model().Button(2).x = 200;
+    p.design().RedrawAll();
+    p.idle();
+    p.main().history().clear();
+    const std::string start = ProjectText(p.model());
+
+    ButtonPicture* picture = p.design().pButtons(2);
+    QTest::mousePress(picture, Qt::LeftButton, {}, QPoint(5, 5));
+    for (int dx : {10, 20, 30}) {
+        QTest::mouseMove(picture, QPoint(5 + dx, 5));
+        p.idle();
+    }
+    QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(35, 5));
+    p.idle();
+    ASSERT_NE(p.model().Button(2).x, 200);
+    EXPECT_EQ(p.main().history().stack().count(), 1);
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Move Button"));
+
+    p.main().editor().DuplicateButton();
+    p.idle();
+    p.main().editor().RemoveButton();
+    p.idle();
+    // The offset dialog previews as the user turns its boxes: one step, on OK.
+    QTimer::singleShot(0, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        dialog->findChild<QSpinBox*>(QStringLiteral("txtOffsetX"))->setValue(4);
+        p.idle();
+        dialog->findChild<QSpinBox*>(QStringLiteral("txtOffsetY"))->setValue(5);
+        dialog->findChild<QPushButton*>(QStringLiteral("btnOk"))->click();
+    });
+    p.find<QPushButton>("btnBgOffset")->click();
+    p.idle();
+    const std::string end = ProjectText(p.model());
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Background Offset"));
+    EXPECT_EQ(p.main().history().stack().count(), 4);
+
+    for (int i = 0; i < 4; ++i)
+        p.main().history().undo();
+    EXPECT_EQ(ProjectText(p.model()), start);
+    // Nothing but the restored document told the surface what to show.
+    EXPECT_EQ(p.design().pButtons(2)->x(), 200);
+    EXPECT_EQ(p.design().pButtons(3), nullptr);
+    EXPECT_EQ(p.find<QListWidget>("lstButtons")->count(), 2);
+    for (int i = 0; i < 4; ++i)
+        p.main().history().redo();
+    EXPECT_EQ(ProjectText(p.model()), end);
+}
+
+TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
+    Program a;
+    a.main().editor().AddButton();
+    a.main().editor().AddButton();
+    a.model().Button(3).LabelUP = "Copied | \"label\"";
+    a.main().editor().SetListSelection({2, 3});
+    QTest::keyClick(a.find("lstButtons"), Qt::Key_C, Qt::ControlModifier);
+
+    Program b;
+    b.idle();
+    b.main().history().clear();
+    QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
+    ASSERT_EQ(b.model().ButtonCount, 3);
+    ButtonRecord expected = a.model().Button(3);
+    expected.x += kDuplicateOffset;
+    expected.y += kDuplicateOffset;
+    // As a project file keeps it: a "|" in a label comes back as "I".
+    EXPECT_EQ(SerializeButton(b.model().Button(3)), SerializeButton(expected));
+    EXPECT_EQ(b.designer.selection().selectedButtons(), std::vector<int>({2, 3}));
+    EXPECT_NE(b.design().pButtons(3), nullptr);
+    b.idle();
+    EXPECT_EQ(b.undoText(), QStringLiteral("Undo Add 2 Buttons"));
+
+    // Past the limit nothing is added; text that is not buttons is ignored.
+    while (b.model().ButtonCount < 100)
+        b.main().editor().AddButton();
+    b.ui.shown.clear();
+    QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(b.model().ButtonCount, 100);
+    EXPECT_EQ(b.ui.messages().size(), 1u);
+    QGuiApplication::clipboard()->setText(QStringLiteral("Orvelin\r\n1|2|"));
+    QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(b.model().ButtonCount, 100);
+
+    a.main().findChild<QAction*>(QStringLiteral("mnuCut"))->trigger(); // b's window is active
+    EXPECT_EQ(a.model().ButtonCount, 1);
+    EXPECT_EQ(a.design().pButtons(2), nullptr);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QStringLiteral("Copied")));
 }
 
 TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {

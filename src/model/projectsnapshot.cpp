@@ -1,0 +1,197 @@
+#include "projectsnapshot.h"
+
+#include <algorithm>
+#include <set>
+#include <string_view>
+
+namespace orvelin {
+
+namespace {
+
+// Calls f(name, a's member, b's member) for each applet setting; `a` and `b` are a
+// ProjectModel or an AppletSettings, in either order.
+template <typename A, typename B, typename F> void EachAppletSetting(A& a, B& b, F&& f) {
+    f("Applet Width", a.AppletWidth, b.AppletWidth);
+    f("Applet Height", a.AppletHeight, b.AppletHeight);
+    f("Behaviour", a.Behaviour, b.Behaviour);
+    f("DOWN Button", a.DOWNBtn, b.DOWNBtn);
+    f("Background Color", a.BackGround, b.BackGround);
+    f("Background Image", a.BackImg, b.BackImg);
+    f("Background Image Placement", a.BackImgStyle, b.BackImgStyle);
+    f("Applet Program", a.AppletProgramOVER, b.AppletProgramOVER);
+    f("Applet Program", a.AppletProgramDOWN, b.AppletProgramDOWN);
+    f("Applet Program", a.AppletProgramOUT, b.AppletProgramOUT);
+    f("Background Offset", a.BgOffsetX, b.BgOffsetX);
+    f("Background Offset", a.BgOffsetY, b.BgOffsetY);
+    f("Applet Program", a.AppletProgramStart, b.AppletProgramStart);
+    f("Applet Name", a.AppletName, b.AppletName);
+}
+
+// The name a step gives button field `pos`: the per-state triples share one name.
+std::string FieldDisplayName(int pos) {
+    std::string_view name = ButtonFields()[static_cast<std::size_t>(pos)].name;
+    for (std::string_view state : {"UP", "OVER", "DOWN"})
+        if (name.size() > state.size() && name.ends_with(state)) {
+            name.remove_suffix(state.size());
+            break;
+        }
+    static const std::pair<std::string_view, const char*> kNames[] = {
+        {"x", "Position"},
+        {"y", "Position"},
+        {"Width", "Size"},
+        {"Height", "Size"},
+        {"LabelPosX", "Label Position"},
+        {"LabelPosY", "Label Position"},
+        {"PositionText", "Label Placement"},
+        {"noBackGround", "No Background"},
+        {"ShowHand", "Hand Cursor"},
+        {"Snd", "Sound"},
+        {"ImgStyle", "Image Placement"},
+        {"BackColor", "Back Color"},
+        {"FontColor", "Font Color"},
+        {"FontStyle", "Font Style"},
+        {"FontSize", "Font Size"},
+        {"Program", "Action Program"},
+    };
+    for (const auto& [field, display] : kNames)
+        if (name == field)
+            return display;
+    return std::string(name);
+}
+
+std::string Counted(const char* verb, std::size_t n) {
+    return n == 1 ? std::string(verb) + " Button"
+                  : std::string(verb) + " " + std::to_string(n) + " Buttons";
+}
+
+} // namespace
+
+ProjectSnapshot MakeSnapshot(const ProjectModel& model, const ButtonList& list) {
+    ProjectSnapshot s;
+    EachAppletSetting(s.applet, model, [](const char*, auto& to, const auto& from) { to = from; });
+    const int count = std::clamp<int>(model.ButtonCount, 0, kMaxButtons);
+    s.buttons.assign(model.Buttons.begin() + 1, model.Buttons.begin() + 1 + count);
+    for (int i = 0; i < kButtonSlots; ++i)
+        s.slotPositions[static_cast<std::size_t>(i)] = {model.Button(i).x, model.Button(i).y};
+    s.currentButton = model.CurrentButton;
+    s.selection = list.selectedButtons();
+    return s;
+}
+
+void RestoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& list) {
+    EachAppletSetting(model, s.applet, [](const char*, auto& to, const auto& from) { to = from; });
+    const int count = static_cast<int>(s.buttons.size());
+    for (int i = 0; i < kButtonSlots; ++i) {
+        ButtonRecord& slot = model.Button(i);
+        if (i >= 1 && i <= count) {
+            slot = s.buttons[static_cast<std::size_t>(i - 1)];
+        } else {
+            slot.x = s.slotPositions[static_cast<std::size_t>(i)].first;
+            slot.y = s.slotPositions[static_cast<std::size_t>(i)].second;
+        }
+    }
+    model.ButtonCount = static_cast<std::int16_t>(count);
+    model.CurrentButton = s.currentButton;
+    while (list.count() > count)
+        list.removeLast();
+    while (list.count() < count)
+        list.append();
+    for (int i = 1; i <= count; ++i)
+        list.setSelected(i, std::binary_search(s.selection.begin(), s.selection.end(), i));
+}
+
+bool SameDocument(const ProjectSnapshot& s, const ProjectModel& model) {
+    bool same = model.ButtonCount == static_cast<int>(s.buttons.size());
+    EachAppletSetting(s.applet, model, [&same](const char*, const auto& a, const auto& b) {
+        same = same && a == b;
+    });
+    return same && std::equal(s.buttons.begin(), s.buttons.end(), model.Buttons.begin() + 1);
+}
+
+bool SameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b) {
+    return a.applet == b.applet && a.buttons == b.buttons;
+}
+
+DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after) {
+    DocumentChange change;
+    change.applet = before.applet != after.applet;
+    change.countChanged = before.buttons.size() != after.buttons.size();
+    change.selection =
+        before.selection != after.selection || before.currentButton != after.currentButton;
+    for (std::size_t i = 0; i < after.buttons.size(); ++i) {
+        if (i < before.buttons.size() && before.buttons[i] == after.buttons[i])
+            continue;
+        change.buttons.push_back(static_cast<int>(i) + 1);
+        if (i < before.buttons.size()) {
+            ButtonRecord placed = before.buttons[i];
+            placed.x = after.buttons[i].x;
+            placed.y = after.buttons[i].y;
+            if (placed == after.buttons[i])
+                change.moved.push_back(static_cast<int>(i) + 1);
+        }
+    }
+    return change;
+}
+
+std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot& after) {
+    const std::size_t was = before.buttons.size();
+    const std::size_t is = after.buttons.size();
+    if (is > was) {
+        if (is - was > 1)
+            return Counted("Add", is - was);
+        // A copy of a button, put elsewhere, is a duplicate.
+        ButtonRecord added = after.buttons.back();
+        for (const ButtonRecord& b : before.buttons) {
+            added.x = b.x;
+            added.y = b.y;
+            if (added == b)
+                return "Duplicate Button";
+        }
+        return "Add Button";
+    }
+    if (is < was)
+        return Counted("Remove", was - is);
+
+    const DocumentChange change = ChangeBetween(before, after);
+    // The stacking commands move one button to either end of the table.
+    const auto found = [&before](const ButtonRecord& r) {
+        return std::find(before.buttons.begin(), before.buttons.end(), r) != before.buttons.end();
+    };
+    if (change.buttons.size() >= 2 && !change.applet) {
+        if (change.buttons.back() == static_cast<int>(is) && found(after.buttons.back()))
+            return "Bring to Front";
+        if (change.buttons.front() == 1 && found(after.buttons.front()))
+            return "Send to Back";
+    }
+
+    std::set<std::string> names;
+    EachAppletSetting(before.applet, after.applet,
+                      [&names](const char* name, const auto& a, const auto& b) {
+                          if (a != b)
+                              names.insert(name);
+                      });
+    for (int index : change.buttons) {
+        const ButtonRecord& a = before.buttons[static_cast<std::size_t>(index - 1)];
+        const ButtonRecord& b = after.buttons[static_cast<std::size_t>(index - 1)];
+        for (int pos = 0; pos < kButtonFieldCount; ++pos)
+            if (FieldText(a, pos) != FieldText(b, pos))
+                names.insert(FieldDisplayName(pos));
+    }
+    const std::size_t n = change.buttons.size();
+    const auto only = [&names](std::initializer_list<const char*> allowed) {
+        return !names.empty() && std::all_of(names.begin(), names.end(), [&](const auto& name) {
+            return std::find(allowed.begin(), allowed.end(), name) != allowed.end();
+        });
+    };
+    if (only({"Position"}))
+        return Counted("Move", n);
+    if (only({"Position", "Size"}))
+        return Counted("Resize", n);
+    if (only({"Label Position", "Label Placement"}))
+        return "Place Label";
+    if (names.size() == 1)
+        return "Change " + *names.begin();
+    return "Change Properties";
+}
+
+} // namespace orvelin

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "projectmodel.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace orvelin {
+
+/// The applet-level part of the document, as ProjectModel holds it.
+struct AppletSettings {
+    std::int16_t AppletWidth = 510;
+    std::int16_t AppletHeight = 170;
+    std::int16_t Behaviour = 0;
+    std::int16_t DOWNBtn = 0;
+    std::int32_t BackGround = 0;
+    std::string BackImg;
+    std::int16_t BackImgStyle = 0;
+    std::string AppletProgramOVER;
+    std::string AppletProgramDOWN;
+    std::string AppletProgramOUT;
+    std::int16_t BgOffsetX = 0;
+    std::int16_t BgOffsetY = 0;
+    std::string AppletProgramStart;
+    std::string AppletName;
+
+    bool operator==(const AppletSettings&) const = default;
+};
+
+/**
+ * The document as it stood at one moment: the applet settings, the buttons, the
+ * current button and the selection. The editing state beside it (file name, Saved,
+ * the edited state) is not part of it. Slots past the last button keep only their
+ * position, which is where the next added button appears.
+ */
+struct ProjectSnapshot {
+    AppletSettings applet;
+    std::vector<ButtonRecord> buttons; ///< buttons 1 to ButtonCount
+    std::array<std::pair<std::int16_t, std::int16_t>, kButtonSlots> slotPositions{};
+    std::int16_t currentButton = 0;
+    std::vector<int> selection;
+};
+
+ProjectSnapshot MakeSnapshot(const ProjectModel& model, const ButtonList& list);
+
+/// Puts the document of `snapshot` back into the model and the list's selection.
+void RestoreSnapshot(const ProjectSnapshot& snapshot, ProjectModel& model, ButtonList& list);
+
+/// Whether the model's document (applet settings and buttons) is the snapshot's.
+bool SameDocument(const ProjectSnapshot& snapshot, const ProjectModel& model);
+bool SameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b);
+
+/// What changed from `before` to `after`, for the views that show the document.
+struct DocumentChange {
+    bool applet = false;       ///< an applet setting
+    bool countChanged = false; ///< buttons were added or removed
+    std::vector<int> buttons;  ///< buttons (1-based, in `after`) whose record differs
+    std::vector<int> moved;    ///< those of them that differ only in x and y
+    bool selection = false;    ///< the selection or the current button
+};
+DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after);
+
+/**
+ * The name of the edit that led from `before` to `after`, as an undo step shows it:
+ * "Move 3 Buttons", "Change Label", "Add Button", "Bring to Front".
+ */
+std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot& after);
+
+} // namespace orvelin
