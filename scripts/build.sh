@@ -10,6 +10,9 @@ shift
 launcher=""
 if command -v ccache >/dev/null 2>&1; then
     launcher="-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
+    # Paths relative to the checkout, so that a clone elsewhere hits the same cache.
+    CCACHE_BASEDIR="$(pwd)"
+    export CCACHE_BASEDIR
 fi
 cmake -S . -B "$build_dir" -DCMAKE_BUILD_TYPE="${ORVELIN_BUILD_TYPE:-RelWithDebInfo}" $launcher "$@" >/dev/null
 # shellcheck disable=SC2086 # the target list is meant to split into words
