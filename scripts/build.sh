@@ -11,7 +11,7 @@ launcher=""
 if command -v ccache >/dev/null 2>&1; then
     launcher="-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"
     # Paths relative to the checkout, so that a clone elsewhere hits the same cache.
-    CCACHE_BASEDIR="$(pwd)"
+    CCACHE_BASEDIR="$(cd "$(dirname "$0")/.." && pwd)"
     export CCACHE_BASEDIR
 fi
 cmake -S . -B "$build_dir" -DCMAKE_BUILD_TYPE="${ORVELIN_BUILD_TYPE:-RelWithDebInfo}" $launcher "$@" >/dev/null
