@@ -78,20 +78,16 @@ void MainMenus::buildEdit(QMenu* menu) {
     connect(m_remove, &QAction::triggered, this, [&e] { e.RemoveButton(); });
     menu->addSeparator();
     // The selected buttons as text, so that they paste into another running designer.
+    const auto toClipboard = [](const std::string& text) {
+        if (!text.empty())
+            QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+    };
     QAction* cut = add(menu, "mnuCut", QStringLiteral("Cu&t Buttons"));
     cut->setShortcut(QKeySequence::Cut);
-    connect(cut, &QAction::triggered, this, [&e] {
-        const std::string text = e.CutButtons();
-        if (!text.empty())
-            QGuiApplication::clipboard()->setText(QString::fromStdString(text));
-    });
+    connect(cut, &QAction::triggered, this, [&e, toClipboard] { toClipboard(e.CutButtons()); });
     QAction* copy = add(menu, "mnuCopy", QStringLiteral("&Copy Buttons"));
     copy->setShortcut(QKeySequence::Copy);
-    connect(copy, &QAction::triggered, this, [&e] {
-        const std::string text = e.CopyButtons();
-        if (!text.empty())
-            QGuiApplication::clipboard()->setText(QString::fromStdString(text));
-    });
+    connect(copy, &QAction::triggered, this, [&e, toClipboard] { toClipboard(e.CopyButtons()); });
     QAction* paste = add(menu, "mnuPaste", QStringLiteral("&Paste Buttons"));
     paste->setShortcut(QKeySequence::Paste);
     connect(paste, &QAction::triggered, this,

@@ -19,10 +19,10 @@ inline constexpr int kButtonSlots = 103; ///< slots 0 to 102; slot 0 is never a 
  * z-order (a later button is drawn over an earlier one), plus the editing state
  * that lives beside it and is never saved.
  */
-struct ProjectModel {
+/// The applet-level settings of a project; an undo step keeps them as they are.
+struct AppletSettings {
     std::int16_t AppletWidth = 510;
     std::int16_t AppletHeight = 170;
-    std::int16_t ButtonCount = 0;
     std::int16_t Behaviour = 0;
     std::int16_t DOWNBtn = 0;
     std::int32_t BackGround = 0;
@@ -35,6 +35,12 @@ struct ProjectModel {
     std::int16_t BgOffsetY = 0;
     std::string AppletProgramStart;
     std::string AppletName;
+
+    bool operator==(const AppletSettings&) const = default;
+};
+
+struct ProjectModel : AppletSettings {
+    std::int16_t ButtonCount = 0;
     std::array<ButtonRecord, kButtonSlots> Buttons{};
 
     // Editing state.

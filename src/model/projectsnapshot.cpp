@@ -8,9 +8,9 @@ namespace orvelin {
 
 namespace {
 
-// Calls f(name, a's member, b's member) for each applet setting; `a` and `b` are a
-// ProjectModel or an AppletSettings, in either order.
-template <typename A, typename B, typename F> void EachAppletSetting(A& a, B& b, F&& f) {
+// Calls f(name, a's member, b's member) for each applet setting, to name a step.
+template <typename F>
+void EachAppletSetting(const AppletSettings& a, const AppletSettings& b, F&& f) {
     f("Applet Width", a.AppletWidth, b.AppletWidth);
     f("Applet Height", a.AppletHeight, b.AppletHeight);
     f("Behaviour", a.Behaviour, b.Behaviour);
@@ -68,7 +68,7 @@ std::string Counted(const char* verb, std::size_t n) {
 
 ProjectSnapshot MakeSnapshot(const ProjectModel& model, const ButtonList& list) {
     ProjectSnapshot s;
-    EachAppletSetting(s.applet, model, [](const char*, auto& to, const auto& from) { to = from; });
+    s.applet = model;
     const int count = std::clamp<int>(model.ButtonCount, 0, kMaxButtons);
     s.buttons.assign(model.Buttons.begin() + 1, model.Buttons.begin() + 1 + count);
     for (int i = 0; i < kButtonSlots; ++i)
@@ -79,7 +79,7 @@ ProjectSnapshot MakeSnapshot(const ProjectModel& model, const ButtonList& list) 
 }
 
 void RestoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& list) {
-    EachAppletSetting(model, s.applet, [](const char*, auto& to, const auto& from) { to = from; });
+    static_cast<AppletSettings&>(model) = s.applet;
     const int count = static_cast<int>(s.buttons.size());
     for (int i = 0; i < kButtonSlots; ++i) {
         ButtonRecord& slot = model.Button(i);
@@ -101,11 +101,9 @@ void RestoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& 
 }
 
 bool SameDocument(const ProjectSnapshot& s, const ProjectModel& model) {
-    bool same = model.ButtonCount == static_cast<int>(s.buttons.size());
-    EachAppletSetting(s.applet, model, [&same](const char*, const auto& a, const auto& b) {
-        same = same && a == b;
-    });
-    return same && std::equal(s.buttons.begin(), s.buttons.end(), model.Buttons.begin() + 1);
+    return model.ButtonCount == static_cast<int>(s.buttons.size()) &&
+           static_cast<const AppletSettings&>(model) == s.applet &&
+           std::equal(s.buttons.begin(), s.buttons.end(), model.Buttons.begin() + 1);
 }
 
 bool SameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b) {

@@ -11,26 +11,6 @@
 
 namespace orvelin {
 
-/// The applet-level part of the document, as ProjectModel holds it.
-struct AppletSettings {
-    std::int16_t AppletWidth = 510;
-    std::int16_t AppletHeight = 170;
-    std::int16_t Behaviour = 0;
-    std::int16_t DOWNBtn = 0;
-    std::int32_t BackGround = 0;
-    std::string BackImg;
-    std::int16_t BackImgStyle = 0;
-    std::string AppletProgramOVER;
-    std::string AppletProgramDOWN;
-    std::string AppletProgramOUT;
-    std::int16_t BgOffsetX = 0;
-    std::int16_t BgOffsetY = 0;
-    std::string AppletProgramStart;
-    std::string AppletName;
-
-    bool operator==(const AppletSettings&) const = default;
-};
-
 /**
  * The document as it stood at one moment: the applet settings, the buttons, the
  * current button and the selection. The editing state beside it (file name, Saved,
