@@ -75,10 +75,10 @@ void FontFamilyBox::fillFamilies() {
     addItems(Families());
     int widest = 0;
     for (const QString& font : WebFonts()) {
-        const int index = findText(font);
-        setItemData(index, Substitute(font), kSubstituteRole);
+        const QString substitute = Substitute(font);
+        setItemData(findText(font), substitute, kSubstituteRole);
         widest = std::max(widest, fontMetrics().horizontalAdvance(
-                                      font + tr("   (drawn here as %1)").arg(Substitute(font))));
+                                      font + tr("   (drawn here as %1)").arg(substitute)));
     }
     for (int i = 0; i < count(); ++i)
         widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));
