@@ -1,5 +1,6 @@
 #include "designer.h"
 
+#include "arrangetools.h"
 #include "designinteraction.h"
 #include "editorsurfacelink.h"
 #include "frmdesign.h"
@@ -50,6 +51,8 @@ void Designer::connectWindows() {
     Editor& editor = m_main->editor();
     m_surfaceLink = std::make_unique<EditorSurfaceLink>(editor, *m_main);
     m_interaction = std::make_unique<DesignInteraction>(*m_design, m_model, m_list, *m_surfaceLink);
+    m_arrange = std::make_unique<ArrangeTools>(*m_design, m_model, m_list, *m_surfaceLink,
+                                               m_main->history());
     connect(m_design.get(), &FrmDesign::btnAddBtnClicked, this, [&editor] { editor.AddButton(); });
     connect(m_design.get(), &FrmDesign::btnDuplicateClicked, this,
             [&editor] { editor.DuplicateButton(); });

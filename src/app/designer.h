@@ -14,6 +14,7 @@
 
 namespace orvelin {
 
+class ArrangeTools;
 class DesignInteraction;
 class EditorSurfaceLink;
 class FrmDesign;
@@ -68,6 +69,7 @@ private:
     // The mouse on the design window; it refers to both windows, so it goes before them.
     std::unique_ptr<EditorSurfaceLink> m_surfaceLink;
     std::unique_ptr<DesignInteraction> m_interaction;
+    std::unique_ptr<ArrangeTools> m_arrange;
     std::unique_ptr<FrmHTML> m_html;
 };
 

@@ -10,11 +10,13 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTimer>
+#include <QToolBar>
 #include <QVBoxLayout>
 #include <exception>
 
@@ -155,6 +157,16 @@ void FrmDesign::buildWindow() {
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addLayout(commands);
     layout->addWidget(m_scroll, 1);
+}
+
+void FrmDesign::addArrangeTools(QMenu* menu, QToolBar* tools) {
+    auto* bar = new QMenuBar(this);
+    bar->setObjectName(QStringLiteral("mnuDesignBar"));
+    bar->addMenu(menu);
+    layout()->setMenuBar(bar);
+    // In the row of commands, after View HTML: the surface keeps its height.
+    auto* commands = static_cast<QBoxLayout*>(layout()->itemAt(0)->layout());
+    commands->insertWidget(4, tools);
 }
 
 ButtonPicture* FrmDesign::pButtons(int index) const {

@@ -14,6 +14,8 @@
 #include <vector>
 
 class QCheckBox;
+class QMenu;
+class QToolBar;
 class QMouseEvent;
 class QPushButton;
 class QScrollArea;
@@ -94,6 +96,9 @@ public:
     /// then their tool tips in the same order. Missing texts stay as they are.
     void setTexts(const QStringList& texts);
     QStringList texts() const;
+
+    /// The Arrange menu, on a menu bar of the window, and its toolbar above the surface.
+    void addArrangeTools(QMenu* menu, QToolBar* tools);
 
     /// How many times button pictures were painted since the window was made.
     int paintCount() const { return m_paintCount; }

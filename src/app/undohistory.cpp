@@ -35,10 +35,12 @@ bool IsUndoKey(const QKeyEvent& key) {
 
 class UndoHistory::Step : public QUndoCommand {
 public:
-    Step(UndoHistory& history, Snapshot before, Snapshot after, QString field, unsigned burst)
+    Step(UndoHistory& history, Snapshot before, Snapshot after, QString field, unsigned burst,
+         const QString& name)
         : m_history(history), m_before(std::move(before)), m_after(std::move(after)),
           m_field(std::move(field)), m_burst(burst) {
-        setText(QString::fromStdString(DescribeChange(*m_before, *m_after)));
+        setText(name.isEmpty() ? QString::fromStdString(DescribeChange(*m_before, *m_after))
+                               : name);
     }
 
     int id() const override { return m_field.isEmpty() ? -1 : kTypingId; }
@@ -121,7 +123,7 @@ void UndoHistory::clear() {
     m_active = true;
 }
 
-void UndoHistory::capture() {
+void UndoHistory::capture(const QString& name) {
     if (!m_active || m_restoring)
         return;
     if (SameDocument(*m_baseline, m_model)) {
@@ -140,11 +142,11 @@ void UndoHistory::capture() {
             return;
         const bool saved = m_model.Saved;
         auto after = std::make_shared<const ProjectSnapshot>(MakeSnapshot(m_model, m_list));
-        const QString field = typingField();
+        const QString field = name.isEmpty() ? typingField() : QString();
         if (field.isEmpty() || field != m_lastField)
             ++m_burst;
         m_lastField = field;
-        m_stack.push(new Step(*this, m_baseline, after, field, m_burst));
+        m_stack.push(new Step(*this, m_baseline, after, field, m_burst, name));
         m_baseline = std::move(after);
         // Saved in the same breath as the edit (a key pressed before the edit showed).
         if (saved)

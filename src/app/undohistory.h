@@ -35,7 +35,8 @@ public:
     QAction* redoAction() const { return m_redo; }
 
     /// Records an edit made since the last step; also notes a save (Saved set again).
-    void capture();
+    /// A command that knows what it did gives the step its name ("Align Left").
+    void capture(const QString& name = QString());
     /// Forgets every step: the document as it is now is where the history starts.
     void clear();
     void undo();

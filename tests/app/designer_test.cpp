@@ -340,3 +340,42 @@ TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {
     EXPECT_EQ(place.bottom(), 799);
     EXPECT_EQ(place.height(), 180);
 }
+
+TEST(Designer, ArrangeCommandsFollowTheSelectionAndEachIsOneNamedStep) {
+    Program p;
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    for (int i = 1; i <= 3; ++i) {
+        p.model().Button(i).x = static_cast<std::int16_t>(40 * i);
+        p.model().Button(i).y = static_cast<std::int16_t>(3 * i);
+    }
+    p.design().RedrawAll();
+    p.idle();
+    p.main().history().clear();
+    const auto action = [&](const char* name) {
+        auto* a = p.design().findChild<QAction*>(QString::fromLatin1(name));
+        EXPECT_NE(a, nullptr) << name;
+        return a;
+    };
+    EXPECT_FALSE(action("mnuAlignLeft")->isEnabled());
+    QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, Qt::ControlModifier, QPoint(3, 3));
+    p.idle();
+    EXPECT_TRUE(action("mnuAlignLeft")->isEnabled());
+    EXPECT_FALSE(action("mnuDistributeH")->isEnabled());
+    QTest::mouseClick(p.design().pButtons(2), Qt::LeftButton, Qt::ControlModifier, QPoint(3, 3));
+    p.idle();
+    ASSERT_TRUE(action("mnuDistributeH")->isEnabled());
+
+    // Button 2 is current: the others line up on its left edge, pictures included.
+    action("mnuAlignLeft")->trigger();
+    p.idle();
+    for (int i = 1; i <= 3; ++i) {
+        EXPECT_EQ(p.model().Button(i).x, 80) << i;
+        EXPECT_EQ(p.design().pButtons(i)->x(), 80) << i;
+    }
+    EXPECT_EQ(p.main().history().stack().count(), 1);
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Align Left"));
+    p.main().history().undo();
+    EXPECT_EQ(p.model().Button(1).x, 40);
+    EXPECT_EQ(p.design().pButtons(3)->x(), 120);
+}

@@ -1,0 +1,209 @@
+#include "arrangetools.h"
+
+#include "frmdesign.h"
+#include "layouttools.h"
+#include "surfaceeditorlink.h"
+#include "undohistory.h"
+
+#include <QAbstractEventDispatcher>
+#include <QAction>
+#include <QIcon>
+#include <QMenu>
+#include <QPainter>
+#include <QPixmap>
+#include <QToolBar>
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace orvelin {
+
+namespace {
+
+/// A toolbar picture: buttons as bars on a 16 by 16 grid and the line they line up on.
+struct IconShape {
+    const char* name;
+    char line; ///< 'v' vertical, 'h' horizontal, 0 none
+    double at;
+    std::vector<QRectF> bars;
+};
+
+const std::vector<IconShape>& IconShapes() {
+    static const std::vector<IconShape> shapes{
+        {"left", 'v', 1.5, {{3, 3, 10, 4}, {3, 9, 6, 4}}},
+        {"right", 'v', 14.5, {{3, 3, 10, 4}, {7, 9, 6, 4}}},
+        {"hcentre", 'v', 8, {{2, 3, 12, 4}, {4, 9, 8, 4}}},
+        {"top", 'h', 1.5, {{3, 3, 4, 10}, {9, 3, 4, 6}}},
+        {"bottom", 'h', 14.5, {{3, 3, 4, 10}, {9, 7, 4, 6}}},
+        {"vcentre", 'h', 8, {{3, 2, 4, 12}, {9, 4, 4, 8}}},
+        {"dist-h", 0, 0, {{1, 4, 3, 8}, {6.5, 4, 3, 8}, {12, 4, 3, 8}}},
+        {"dist-v", 0, 0, {{4, 1, 8, 3}, {4, 6.5, 8, 3}, {4, 12, 8, 3}}},
+        {"width", 0, 0, {{2, 3, 12, 4}, {2, 10, 12, 3}}},
+        {"height", 0, 0, {{3, 2, 4, 12}, {10, 2, 3, 12}}},
+        {"size", 0, 0, {{2, 2, 6, 6}, {8, 8, 6, 6}}},
+    };
+    return shapes;
+}
+
+/// Drawn for each device pixel ratio, so that the bars stay sharp on dense screens.
+QIcon MakeIcon(const char* name) {
+    const auto& shapes = IconShapes();
+    const auto it = std::find_if(shapes.begin(), shapes.end(), [name](const IconShape& s) {
+        return std::strcmp(s.name, name) == 0;
+    });
+    QIcon icon;
+    if (it == shapes.end())
+        return icon;
+    for (int ratio : {1, 2, 3}) {
+        QPixmap pixmap(16 * ratio, 16 * ratio);
+        pixmap.setDevicePixelRatio(ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter p(&pixmap);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(70, 110, 170));
+        for (const QRectF& bar : it->bars)
+            p.drawRect(bar);
+        if (it->line != 0) {
+            p.setPen(QPen(QColor(200, 40, 40), 1.0));
+            if (it->line == 'v')
+                p.drawLine(QPointF(it->at, 0), QPointF(it->at, 16));
+            else
+                p.drawLine(QPointF(0, it->at), QPointF(16, it->at));
+        }
+        p.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+std::int16_t ToRecord(int value) {
+    return static_cast<std::int16_t>(std::clamp<int>(
+        value, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()));
+}
+
+} // namespace
+
+ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& list,
+                           SurfaceEditorLink& editor, UndoHistory& history, QObject* parent)
+    : QObject(parent), m_design(design), m_model(model), m_list(list), m_editor(editor),
+      m_history(history) {
+    m_menu = new QMenu(tr("&Arrange"), &design);
+    m_menu->setObjectName(QStringLiteral("mnuArrange"));
+    m_toolBar = new QToolBar(tr("Arrange"), &design);
+    m_toolBar->setObjectName(QStringLiteral("tbArrange"));
+    m_toolBar->setIconSize(QSize(16, 16));
+
+    const auto align = [](AlignTo edge) {
+        return [edge](std::vector<PixelRect> r, std::size_t ref) {
+            return Align(std::move(r), ref, edge);
+        };
+    };
+    const auto same = [](SameSize what) {
+        return [what](std::vector<PixelRect> r, std::size_t ref) {
+            return MakeSameSize(std::move(r), ref, what);
+        };
+    };
+    add("mnuAlignLeft", tr("Align Left"), 2, "left", align(AlignTo::Left));
+    add("mnuAlignHCentre", tr("Align Horizontal Centres"), 2, "hcentre",
+        align(AlignTo::HorizontalCentre));
+    add("mnuAlignRight", tr("Align Right"), 2, "right", align(AlignTo::Right));
+    add("mnuAlignTop", tr("Align Top"), 2, "top", align(AlignTo::Top));
+    add("mnuAlignVCentre", tr("Align Vertical Centres"), 2, "vcentre",
+        align(AlignTo::VerticalCentre));
+    add("mnuAlignBottom", tr("Align Bottom"), 2, "bottom", align(AlignTo::Bottom));
+    m_menu->addSeparator();
+    m_toolBar->addSeparator();
+    add("mnuDistributeH", tr("Distribute Horizontally"), 3, "dist-h",
+        [](std::vector<PixelRect> r, std::size_t) { return DistributeHorizontally(std::move(r)); });
+    add("mnuDistributeV", tr("Distribute Vertically"), 3, "dist-v",
+        [](std::vector<PixelRect> r, std::size_t) { return DistributeVertically(std::move(r)); });
+    m_menu->addSeparator();
+    m_toolBar->addSeparator();
+    add("mnuSameWidth", tr("Same Width"), 2, "width", same(SameSize::Width));
+    add("mnuSameHeight", tr("Same Height"), 2, "height", same(SameSize::Height));
+    add("mnuSameSize", tr("Same Size"), 2, "size", same(SameSize::Both));
+
+    design.addArrangeTools(m_menu, m_toolBar);
+    updateEnabled();
+    // The selection changes in many places (the list, the surface, an undo): the
+    // commands follow it before the program waits for the next event.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] {
+                if (m_list.revision() != m_seenRevision)
+                    updateEnabled();
+            });
+}
+
+ArrangeTools::~ArrangeTools() = default;
+
+void ArrangeTools::add(const char* name, const QString& text, int needs, const char* icon,
+                       Tool tool) {
+    auto* action = new QAction(MakeIcon(icon), text, m_menu);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setToolTip(needs > 2 ? tr("%1 (at least three selected buttons)").arg(text)
+                                 : tr("%1 (on the current button)").arg(text));
+    m_menu->addAction(action);
+    m_toolBar->addAction(action);
+    if (QWidget* button = m_toolBar->widgetForAction(action)) {
+        button->setObjectName(QString::fromLatin1(name).replace(0, 3, QStringLiteral("btn")));
+        button->setAccessibleName(text);
+    }
+    connect(action, &QAction::triggered, this,
+            [this, tool = std::move(tool), text] { apply(tool, text); });
+    m_commands.push_back({action, needs});
+}
+
+QAction* ArrangeTools::action(const QString& name) const {
+    for (const Command& c : m_commands)
+        if (c.action->objectName() == name)
+            return c.action;
+    return nullptr;
+}
+
+void ArrangeTools::updateEnabled() {
+    m_seenRevision = m_list.revision();
+    const int selected = m_list.selectedCount();
+    for (const Command& c : m_commands)
+        c.action->setEnabled(selected >= c.needs);
+}
+
+void ArrangeTools::apply(const Tool& tool, const QString& stepName) {
+    std::vector<int> buttons;
+    for (int i : m_list.selectedButtons())
+        if (IsButtonNumber(m_model, i))
+            buttons.push_back(i);
+    if (buttons.size() < 2)
+        return;
+    std::vector<PixelRect> rects;
+    for (int i : buttons)
+        rects.push_back(ButtonRect(m_model, i));
+    // The others line up on the current button; without one in the group, on the first.
+    const auto current = std::find(buttons.begin(), buttons.end(), m_model.CurrentButton);
+    const std::size_t reference =
+        current == buttons.end() ? 0 : static_cast<std::size_t>(current - buttons.begin());
+    const std::vector<PixelRect> placed = tool(rects, reference);
+    bool changed = false;
+    for (std::size_t k = 0; k < buttons.size(); ++k) {
+        if (placed[k] == rects[k])
+            continue;
+        ButtonRecord& b = m_model.Button(buttons[k]);
+        b.x = ToRecord(placed[k].left);
+        b.y = ToRecord(placed[k].top);
+        b.Width = ToRecord(placed[k].width);
+        b.Height = ToRecord(placed[k].height);
+        m_design.RedrawButton(buttons[k], false, false, false);
+        changed = true;
+    }
+    if (!changed)
+        return;
+    m_model.Saved = false;
+    // Transparent buttons show what now lies under them.
+    m_design.UpdateTransparentBtns();
+    m_design.MoveSizer(m_model.CurrentButton);
+    m_design.MoveLabelPositioner(m_model.CurrentButton);
+    m_editor.ShowGeometry(m_model.CurrentButton);
+    m_history.capture(stepName);
+}
+
+} // namespace orvelin

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "buttonlist.h"
+#include "projectmodel.h"
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QToolBar;
+
+namespace orvelin {
+
+class FrmDesign;
+class SurfaceEditorLink;
+class UndoHistory;
+struct PixelRect;
+
+/**
+ * The Arrange menu `mnuArrange` and the toolbar `tbArrange` of the design window: align,
+ * distribute and same size for the selected buttons, the current button being the one
+ * the others line up on or take the size of. Each command is one undo step named after
+ * it; a command is disabled while fewer buttons are selected than it needs.
+ */
+class ArrangeTools : public QObject {
+    Q_OBJECT
+
+public:
+    ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& list,
+                 SurfaceEditorLink& editor, UndoHistory& history, QObject* parent = nullptr);
+    ~ArrangeTools() override;
+
+    QMenu* menu() const { return m_menu; }
+    QToolBar* toolBar() const { return m_toolBar; }
+    /// The command of that objectName ("mnuAlignLeft"), or null.
+    QAction* action(const QString& name) const;
+    /// Enables each command by the size of the selection.
+    void updateEnabled();
+
+private:
+    using Tool = std::function<std::vector<PixelRect>(std::vector<PixelRect>, std::size_t)>;
+    struct Command {
+        QAction* action;
+        int needs; ///< the fewest selected buttons it works on
+    };
+    void add(const char* name, const QString& text, int needs, const char* icon, Tool tool);
+    /// Runs `tool` on the selection, shows the result and records one step `stepName`.
+    void apply(const Tool& tool, const QString& stepName);
+
+    FrmDesign& m_design;
+    ProjectModel& m_model;
+    ButtonList& m_list;
+    SurfaceEditorLink& m_editor;
+    UndoHistory& m_history;
+    QMenu* m_menu = nullptr;
+    QToolBar* m_toolBar = nullptr;
+    std::vector<Command> m_commands;
+    unsigned m_seenRevision = ~0U;
+};
+
+} // namespace orvelin
