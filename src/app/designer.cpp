@@ -9,12 +9,14 @@
 #include "globalini.h"
 #include "mainmenus.h"
 #include "messages.h"
+#include "snapguides.h"
 #include "undohistory.h"
 #include "windowgeometry.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLayout>
+#include <QMenu>
 #include <QScreen>
 #include <QScrollArea>
 #include <algorithm>
@@ -53,6 +55,10 @@ void Designer::connectWindows() {
     m_interaction = std::make_unique<DesignInteraction>(*m_design, m_model, m_list, *m_surfaceLink);
     m_arrange = std::make_unique<ArrangeTools>(*m_design, m_model, m_list, *m_surfaceLink,
                                                m_main->history());
+    m_snap = std::make_unique<SnapGuides>(*m_design, m_model, m_list, m_settings);
+    m_interaction->setSnapping(m_snap.get());
+    m_arrange->menu()->addSeparator();
+    m_arrange->menu()->addAction(m_snap->snapAction());
     connect(m_design.get(), &FrmDesign::btnAddBtnClicked, this, [&editor] { editor.AddButton(); });
     connect(m_design.get(), &FrmDesign::btnDuplicateClicked, this,
             [&editor] { editor.DuplicateButton(); });

@@ -16,6 +16,7 @@ namespace orvelin {
 
 class ArrangeTools;
 class DesignInteraction;
+class SnapGuides;
 class EditorSurfaceLink;
 class FrmDesign;
 class FrmHTML;
@@ -70,6 +71,7 @@ private:
     std::unique_ptr<EditorSurfaceLink> m_surfaceLink;
     std::unique_ptr<DesignInteraction> m_interaction;
     std::unique_ptr<ArrangeTools> m_arrange;
+    std::unique_ptr<SnapGuides> m_snap;
     std::unique_ptr<FrmHTML> m_html;
 };
 

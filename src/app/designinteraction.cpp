@@ -4,6 +4,7 @@
 #include "frmdesign.h"
 #include "labelpositioner.h"
 #include "sizerhandle.h"
+#include "snapguides.h"
 #include "surfaceeditorlink.h"
 
 #include <QAction>
@@ -28,6 +29,11 @@ MouseButton ButtonOf(const QMouseEvent* event) {
 
 bool CtrlHeld(const QMouseEvent* event) {
     return event->modifiers().testFlag(Qt::ControlModifier);
+}
+
+/// Alt held while dragging: no snapping for this step.
+bool AltHeld(const QMouseEvent* event) {
+    return event->modifiers().testFlag(Qt::AltModifier);
 }
 
 } // namespace
@@ -155,10 +161,15 @@ void DesignInteraction::pButtons_MouseMove(int, QMouseEvent* event) {
     if (!m_drag.dragging)
         return;
     const QPointF at = event->position();
-    showMove(DragOnButton(m_model, m_list, m_drag, at.x(), at.y()), false);
+    MoveOutcome moved = DragOnButton(m_model, m_list, m_drag, at.x(), at.y());
+    if (m_snap)
+        m_snap->afterDrag(moved, AltHeld(event));
+    showMove(moved, false);
 }
 
 void DesignInteraction::pButtons_MouseUp(int index, QMouseEvent*) {
+    if (m_snap)
+        m_snap->finish();
     const ReleaseOutcome out = ReleaseOnButton(m_model, m_list, m_drag, index);
     if (out.placeSizer != 0)
         m_design.MoveSizer(out.placeSizer);
@@ -206,11 +217,15 @@ void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
     // A change of size paints the picture through its resize path.
     if (ButtonPicture* picture = m_design.pButtons(current))
         picture->setGeometry(out.rect.left, out.rect.top, out.rect.width, out.rect.height);
+    if (m_snap)
+        m_snap->afterResize(handle, AltHeld(event));
     m_design.MoveSizer(current);
     m_design.MoveLabelPositioner(current);
 }
 
 void DesignInteraction::picSizer_MouseUp(int handle, QMouseEvent*) {
+    if (m_snap)
+        m_snap->finish();
     const SizerReleaseOutcome out = ReleaseSizer(m_sizers, handle);
     if (SizerHandle* sizer = m_design.picSizer(handle))
         sizer->setTag(QString::fromLatin1(kSizerTagUp));

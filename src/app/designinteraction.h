@@ -15,6 +15,7 @@ class QMouseEvent;
 namespace orvelin {
 
 class FrmDesign;
+class SnapGuides;
 class SurfaceEditorLink;
 
 /**
@@ -36,6 +37,8 @@ public:
     QAction* mnuSendBack() const { return m_mnuSendBack; }
 
     const DragState& dragState() const { return m_drag; }
+    /// Drags and handle moves snap through `snap` from now on (null: never).
+    void setSnapping(SnapGuides* snap) { m_snap = snap; }
 
     // The handlers, named after the events they answer.
     void pButtons_MouseDown(int index, QMouseEvent* event);
@@ -71,6 +74,7 @@ private:
     DragState m_drag;
     SizerState m_sizers;
     PositionerState m_positioner;
+    SnapGuides* m_snap = nullptr;
     std::unique_ptr<QMenu> m_mnuMove; ///< a pop-up of its own, no parent window
     QAction* m_mnuBringToFront = nullptr;
     QAction* m_mnuSendBack = nullptr;

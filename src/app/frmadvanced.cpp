@@ -7,7 +7,10 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 namespace orvelin {
@@ -26,6 +29,16 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     m_chkHtml5Player->setToolTip(
         QStringLiteral("Test in Browser and Build Applet put orvelin-player.js beside the page, "
                        "so that the buttons play in today's browsers without Java"));
+    m_txtGridSize = new QSpinBox(this);
+    m_txtGridSize->setObjectName(QStringLiteral("txtGridSize"));
+    m_txtGridSize->setRange(0, 100);
+    m_txtGridSize->setSpecialValueText(QStringLiteral("Off"));
+    m_txtGridSize->setSuffix(QStringLiteral(" px"));
+    m_txtGridSize->setToolTip(
+        QStringLiteral("Dragged buttons snap to a grid of this size on the design window"));
+    auto* lblGridSize = new QLabel(QStringLiteral("Design &grid:"), this);
+    lblGridSize->setObjectName(QStringLiteral("lblGridSize"));
+    lblGridSize->setBuddy(m_txtGridSize);
     m_btnRestoreDefaults = new QPushButton(QStringLiteral("Restore Defaults"), this);
     m_btnRestoreDefaults->setObjectName(QStringLiteral("btnRestoreDefaults"));
     m_btnRestoreDefaults->setAutoDefault(false);
@@ -40,6 +53,11 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_chkAutoTile);
     layout->addWidget(m_chkHtml5Player);
+    auto* grid = new QHBoxLayout;
+    grid->addWidget(lblGridSize);
+    grid->addWidget(m_txtGridSize);
+    grid->addStretch(1);
+    layout->addLayout(grid);
     layout->addStretch(1);
     layout->addLayout(buttons);
 
@@ -48,6 +66,11 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     connect(m_chkAutoTile, &QCheckBox::clicked, this, &FrmAdvanced::chkAutoTile_Click);
     connect(m_chkHtml5Player, &QCheckBox::clicked, this,
             [this](bool on) { m_settings.setFlag(SettingKey::Html5Player, on); });
+    // Only a change the user made stores: showOptions() fills the box without signals.
+    connect(m_txtGridSize, &QSpinBox::valueChanged, this, [this](int size) {
+        if (!m_txtGridSize->signalsBlocked())
+            m_settings.setValue(SettingKey::GridSize, std::to_string(size));
+    });
     connect(m_btnRestoreDefaults, &QPushButton::clicked, this,
             &FrmAdvanced::btnRestoreDefaults_Click);
     connect(m_btnOk, &QPushButton::clicked, this, &FrmAdvanced::btnOk_Click);
@@ -56,6 +79,8 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
 void FrmAdvanced::showOptions() {
     m_chkAutoTile->setChecked(m_settings.flag(SettingKey::AutoTile));
     m_chkHtml5Player->setChecked(m_settings.flag(SettingKey::Html5Player));
+    const QSignalBlocker quiet(m_txtGridSize);
+    m_txtGridSize->setValue(QString::fromStdString(m_settings.value(SettingKey::GridSize)).toInt());
 }
 
 void FrmAdvanced::showEvent(QShowEvent* event) {
@@ -72,7 +97,8 @@ void FrmAdvanced::btnRestoreDefaults_Click() {
     if (m_ui.askOkCancel(Messages()[Msg::RestoreDefaultsQuestion]) != UserInterface::Answer::Ok)
         return;
     m_settings.SetDefaultButton(kFactoryDefaultButton);
-    for (SettingKey option : {SettingKey::AutoTile, SettingKey::Html5Player})
+    for (SettingKey option : {SettingKey::AutoTile, SettingKey::Html5Player,
+                              SettingKey::SnapToButtons, SettingKey::GridSize})
         m_settings.setValue(option, SettingDefinition(option).defaultValue);
     showOptions();
     emit autoTileChanged(m_settings.flag(SettingKey::AutoTile));

@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QPushButton;
+class QSpinBox;
 
 namespace orvelin {
 
@@ -22,6 +23,7 @@ public:
 
     QCheckBox* chkAutoTile() const { return m_chkAutoTile; }
     QCheckBox* chkHtml5Player() const { return m_chkHtml5Player; }
+    QSpinBox* txtGridSize() const { return m_txtGridSize; }
 
 signals:
     /// AutoTile was stored; the main window's own check mark follows it.
@@ -43,6 +45,7 @@ private:
     UserInterface& m_ui;
     QCheckBox* m_chkAutoTile = nullptr;
     QCheckBox* m_chkHtml5Player = nullptr;
+    QSpinBox* m_txtGridSize = nullptr;
     QPushButton* m_btnRestoreDefaults = nullptr;
     QPushButton* m_btnOk = nullptr;
 };

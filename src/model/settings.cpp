@@ -18,6 +18,8 @@ constexpr std::array<SettingInfo, static_cast<std::size_t>(SettingKey::Count)> k
     {SettingsSection::Params, "DontAskToAssociate", "0"},
     {SettingsSection::Params, "ShortCut", "none"},
     {SettingsSection::Params, "Html5Player", "1"},
+    {SettingsSection::Params, "SnapToButtons", "1"},
+    {SettingsSection::Params, "GridSize", "0"},
     {SettingsSection::Language, "Current", "English"},
     {SettingsSection::Recent, "File", kUnsetValue},
     {SettingsSection::Browsers, "Count", "0"},

@@ -55,7 +55,9 @@ enum class SettingKey {
     AutoTile,
     DontAskToAssociate,
     ShortCut,
-    Html5Player, ///< "1": preview and build write pages that play through orvelin-player.js
+    Html5Player,   ///< "1": preview and build write pages that play through orvelin-player.js
+    SnapToButtons, ///< "1": a dragged or resized button snaps to the others and the applet area
+    GridSize,      ///< the design surface's grid in applet pixels, "0": none
     LanguageCurrent,
     RecentFile, ///< "File" + 1..4
     BrowsersCount,

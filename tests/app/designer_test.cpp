@@ -379,3 +379,37 @@ TEST(Designer, ArrangeCommandsFollowTheSelectionAndEachIsOneNamedStep) {
     EXPECT_EQ(p.model().Button(1).x, 40);
     EXPECT_EQ(p.design().pButtons(3)->x(), 120);
 }
+
+TEST(Designer, ADragSnapsToAnotherButtonWithAGuideUnlessAltIsHeldOrSnappingIsOff) {
+    Program p;
+    QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
+    p.model().Button(1).x = 10;
+    p.model().Button(1).y = 10;
+    p.model().Button(2).x = 150;
+    p.model().Button(2).y = 100;
+    p.design().RedrawAll();
+    p.idle();
+    auto* guides = p.design().findChild<QWidget*>(QStringLiteral("picSnapGuides"));
+    ASSERT_NE(guides, nullptr);
+    // Button 2 dragged up to 3 pixels below button 1's top edge.
+    const auto dragUp = [&](Qt::KeyboardModifiers modifiers) {
+        p.model().Button(2).y = 100;
+        p.design().RedrawButton(2, true, false, false);
+        ButtonPicture* picture = p.design().pButtons(2);
+        QTest::mousePress(picture, Qt::LeftButton, {}, QPoint(5, 50));
+        QMouseEvent move(QEvent::MouseMove, QPointF(5, 50 - 87),
+                         picture->mapToGlobal(QPointF(5, 50 - 87)), Qt::NoButton, Qt::LeftButton,
+                         modifiers);
+        QApplication::sendEvent(picture, &move);
+        const bool shown = guides->isVisible();
+        QTest::mouseRelease(picture, Qt::LeftButton, {},
+                            picture->mapFromGlobal(move.globalPosition().toPoint()));
+        EXPECT_FALSE(guides->isVisible());
+        return std::pair{int(p.model().Button(2).y), shown};
+    };
+    EXPECT_EQ(dragUp({}), (std::pair{10, true}));
+    EXPECT_EQ(p.design().pButtons(2)->y(), 10);
+    EXPECT_EQ(dragUp(Qt::AltModifier), (std::pair{13, false}));
+    p.design().findChild<QAction*>(QStringLiteral("mnuSnapToButtons"))->trigger();
+    EXPECT_EQ(dragUp({}), (std::pair{13, false}));
+}
