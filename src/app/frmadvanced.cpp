@@ -1,5 +1,6 @@
 #include "frmadvanced.h"
 
+#include "accessiblenames.h"
 #include "buttonrecord.h"
 #include "messages.h"
 #include "settings.h"
@@ -74,6 +75,7 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     connect(m_btnRestoreDefaults, &QPushButton::clicked, this,
             &FrmAdvanced::btnRestoreDefaults_Click);
     connect(m_btnOk, &QPushButton::clicked, this, &FrmAdvanced::btnOk_Click);
+    NameControls(*this);
 }
 
 void FrmAdvanced::showOptions() {

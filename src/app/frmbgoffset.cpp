@@ -1,5 +1,7 @@
 #include "frmbgoffset.h"
 
+#include "accessiblenames.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QPushButton>
@@ -48,6 +50,7 @@ FrmBgOffset::FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* pare
 
     connect(m_x, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
     connect(m_y, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
+    NameControls(*this);
 }
 
 void FrmBgOffset::preview() {

@@ -1,5 +1,6 @@
 #include "frmbrowsersetup.h"
 
+#include "accessiblenames.h"
 #include "frmeditbrowser.h"
 
 #include <QDialogButtonBox>
@@ -95,6 +96,7 @@ FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSear
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showList(0);
+    NameControls(*this);
 }
 
 void FrmBrowserSetup::showList(int row) {

@@ -1,5 +1,6 @@
 #include "frmdesign.h"
 
+#include "accessiblenames.h"
 #include "appletarea.h"
 #include "appletbackground.h"
 #include "buttonpainter.h"
@@ -81,6 +82,7 @@ FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, Q
     setWindowTitle(tr("Design"));
     buildWindow();
     AppletChanged();
+    NameControls(*this);
 }
 
 FrmDesign::~FrmDesign() = default;

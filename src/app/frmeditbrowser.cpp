@@ -1,5 +1,7 @@
 #include "frmeditbrowser.h"
 
+#include "accessiblenames.h"
+
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -63,6 +65,7 @@ FrmEditBrowser::FrmEditBrowser(const BrowserEntry& entry, QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     updateOk();
+    NameControls(*this);
 }
 
 BrowserEntry FrmEditBrowser::entry() const {

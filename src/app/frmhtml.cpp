@@ -1,5 +1,6 @@
 #include "frmhtml.h"
 
+#include "accessiblenames.h"
 #include "frmbrowsersetup.h"
 #include "htmlgenerator.h"
 #include "publishing.h"
@@ -91,6 +92,7 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     connect(copy, &QPushButton::clicked, this, [this] { btnCopyToClb_Click(); });
     connect(save, &QPushButton::clicked, this, [this] { btnSave_Click(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
+    NameControls(*this);
 }
 
 void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {

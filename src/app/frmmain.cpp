@@ -1,5 +1,6 @@
 #include "frmmain.h"
 
+#include "accessiblenames.h"
 #include "appletpanel.h"
 #include "buttonlistbinding.h"
 #include "frmadvanced.h"
@@ -84,6 +85,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
                 if (isWindowModified() == m_model.Saved)
                     setWindowModified(!m_model.Saved);
             });
+    NameControls(*this);
 }
 
 FrmMain::~FrmMain() {

@@ -1,5 +1,7 @@
 #include "frmmessage.h"
 
+#include "accessiblenames.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
@@ -22,6 +24,7 @@ FrmMessage::FrmMessage(QWidget* parent)
     layout->setSpacing(10);
     layout->addWidget(m_text);
     layout->addWidget(m_bar);
+    NameControls(*this);
 }
 
 FrmMessage::~FrmMessage() {

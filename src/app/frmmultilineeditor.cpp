@@ -1,5 +1,7 @@
 #include "frmmultilineeditor.h"
 
+#include "accessiblenames.h"
+
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -52,6 +54,7 @@ FrmMultiLineEditor::FrmMultiLineEditor(QLineEdit* txtLabel, QWidget* parent)
 
     connect(m_txtEditor, &QPlainTextEdit::textChanged, this, &FrmMultiLineEditor::txtEditor_Change);
     connect(m_btnClose, &QPushButton::clicked, this, &QDialog::accept);
+    NameControls(*this);
 }
 
 void FrmMultiLineEditor::Form_Activate() {

@@ -1,5 +1,6 @@
 #include "frmsetaction.h"
 
+#include "accessiblenames.h"
 #include "messages.h"
 #include "projectmodel.h"
 #include "typedfieldvalidator.h"
@@ -82,6 +83,7 @@ FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, std::vector<b
     buildControls(texts);
     applyTexts(texts);
     connectControls();
+    NameControls(*this);
 }
 
 void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
