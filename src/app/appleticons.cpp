@@ -1,8 +1,9 @@
 #include "appleticons.h"
 
+#include "paintedicon.h"
+
 #include <QPainter>
 #include <QPainterPath>
-#include <QPixmap>
 
 namespace orvelin {
 
@@ -62,11 +63,7 @@ void DrawOut(QPainter& p) {
     p.drawLine(QPointF(21, 18), QPointF(16, 18.5));
 }
 
-QPixmap Draw(AppletMoment moment, bool hasProgram, bool disabled) {
-    QPixmap pixmap(kSide, kSide);
-    pixmap.fill(Qt::transparent);
-    QPainter p(&pixmap);
-    p.setRenderHint(QPainter::Antialiasing);
+void Draw(QPainter& p, AppletMoment moment, bool hasProgram, bool disabled) {
     switch (moment) {
     case AppletMoment::Start:
         DrawStart(p);
@@ -88,18 +85,18 @@ QPixmap Draw(AppletMoment moment, bool hasProgram, bool disabled) {
     }
     if (disabled) {
         p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-        p.fillRect(pixmap.rect(), QColor(0, 0, 0, 90));
+        p.fillRect(QRect(0, 0, kSide, kSide), QColor(0, 0, 0, 90));
     }
-    p.end();
-    return pixmap;
 }
 
 } // namespace
 
 QIcon AppletMomentIcon(AppletMoment moment, bool hasProgram) {
     QIcon icon;
-    icon.addPixmap(Draw(moment, hasProgram, false), QIcon::Normal);
-    icon.addPixmap(Draw(moment, hasProgram, true), QIcon::Disabled);
+    for (bool disabled : {false, true})
+        AddPaintedPixmaps(
+            icon, QSize(kSide, kSide), [=](QPainter& p) { Draw(p, moment, hasProgram, disabled); },
+            disabled ? QIcon::Disabled : QIcon::Normal);
     return icon;
 }
 

@@ -2,6 +2,7 @@
 
 #include "frmdesign.h"
 #include "layouttools.h"
+#include "paintedicon.h"
 #include "surfaceeditorlink.h"
 #include "undohistory.h"
 
@@ -10,7 +11,6 @@
 #include <QIcon>
 #include <QMenu>
 #include <QPainter>
-#include <QPixmap>
 #include <QToolBar>
 #include <algorithm>
 #include <cstring>
@@ -54,26 +54,19 @@ QIcon MakeIcon(const char* name) {
     QIcon icon;
     if (it == shapes.end())
         return icon;
-    for (int ratio : {1, 2, 3}) {
-        QPixmap pixmap(16 * ratio, 16 * ratio);
-        pixmap.setDevicePixelRatio(ratio);
-        pixmap.fill(Qt::transparent);
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
+    AddPaintedPixmaps(icon, QSize(16, 16), [&shape = *it](QPainter& p) {
         p.setPen(Qt::NoPen);
         p.setBrush(QColor(70, 110, 170));
-        for (const QRectF& bar : it->bars)
+        for (const QRectF& bar : shape.bars)
             p.drawRect(bar);
-        if (it->line != 0) {
+        if (shape.line != 0) {
             p.setPen(QPen(QColor(200, 40, 40), 1.0));
-            if (it->line == 'v')
-                p.drawLine(QPointF(it->at, 0), QPointF(it->at, 16));
+            if (shape.line == 'v')
+                p.drawLine(QPointF(shape.at, 0), QPointF(shape.at, 16));
             else
-                p.drawLine(QPointF(0, it->at), QPointF(16, it->at));
+                p.drawLine(QPointF(0, shape.at), QPointF(16, shape.at));
         }
-        p.end();
-        icon.addPixmap(pixmap);
-    }
+    });
     return icon;
 }
 

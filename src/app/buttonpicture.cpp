@@ -20,10 +20,14 @@ QImage& ButtonPicture::picture() {
 }
 
 bool ButtonPicture::fitPicture() {
-    const QSize wanted = size().expandedTo(QSize(1, 1));
-    if (m_picture.size() == wanted)
+    // Painted at the screen's density, so that labels are as sharp as the widgets'
+    // texts; the painters draw in the widget's (the applet's) pixels all the same.
+    const qreal ratio = devicePixelRatioF();
+    const QSize wanted = (QSizeF(size().expandedTo(QSize(1, 1))) * ratio).toSize();
+    if (m_picture.size() == wanted && m_picture.devicePixelRatio() == ratio)
         return false;
     QImage fitted = NewPicture(wanted);
+    fitted.setDevicePixelRatio(ratio);
     if (!m_picture.isNull()) {
         QPainter painter(&fitted);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
@@ -34,6 +38,11 @@ bool ButtonPicture::fitPicture() {
 }
 
 void ButtonPicture::paintEvent(QPaintEvent*) {
+    // Moved to a screen of another density: painted again at the new one.
+    if (!qFuzzyCompare(m_picture.devicePixelRatio(), devicePixelRatioF()) && fitPicture()) {
+        emit resized(m_index);
+        return;
+    }
     QPainter painter(this);
     painter.drawImage(0, 0, m_picture);
 }

@@ -1,8 +1,9 @@
 #include "colorbutton.h"
 
+#include "paintedicon.h"
+
 #include <QColorDialog>
 #include <QPainter>
-#include <QPixmap>
 
 namespace orvelin {
 
@@ -44,13 +45,14 @@ void ColorButton::choose() {
 }
 
 void ColorButton::updateSwatch() {
-    QPixmap swatch(iconSize());
-    swatch.fill(ToQColor(m_colour));
-    QPainter painter(&swatch);
-    painter.setPen(QColor(0, 0, 0, 110));
-    painter.drawRect(swatch.rect().adjusted(0, 0, -1, -1));
-    painter.end();
-    setIcon(QIcon(swatch));
+    QIcon swatch;
+    const QSize size = iconSize();
+    AddPaintedPixmaps(swatch, size, [&](QPainter& painter) {
+        painter.fillRect(QRect(QPoint(0, 0), size), ToQColor(m_colour));
+        painter.setPen(QPen(QColor(0, 0, 0, 110), 0));
+        painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
+    });
+    setIcon(swatch);
 }
 
 } // namespace orvelin

@@ -43,8 +43,8 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
-        // One device pixel wide, whatever the screen's density.
-        QPen pen(QColor(230, 0, 140), 0);
+        // One applet pixel wide: thin, yet seen on a dense screen too.
+        QPen pen(QColor(230, 0, 140), 1.0);
         p.setPen(pen);
         const double m = FrmDesign::kMargin;
         for (const SnapGuide& g : guides) {
