@@ -94,6 +94,10 @@ QWidget* FirstControl(QLayoutItem* item) {
     return nullptr;
 }
 
+/// Tab sequences that differ from the order the controls were made in: in the main
+/// editor the state buttons above the properties come before them.
+constexpr const char* kMainTabs[] = {"btnBuild", "btnUP", "btnOVER", "btnDOWN", "txtX"};
+
 } // namespace
 
 void NameControls(QWidget& window) {
@@ -105,6 +109,15 @@ void NameControls(QWidget& window) {
         for (QWidget* w : window.findChildren<QWidget*>(control))
             if (w->accessibleName().isEmpty())
                 w->setAccessibleName(QString::fromLatin1(entry.name));
+    }
+    if (windowName == QLatin1String("frmMain")) {
+        QWidget* previous = nullptr;
+        for (const char* name : kMainTabs) {
+            QWidget* next = window.findChild<QWidget*>(QString::fromLatin1(name));
+            if (previous != nullptr && next != nullptr)
+                QWidget::setTabOrder(previous, next);
+            previous = next;
+        }
     }
     // A caption ("URL:") is the buddy of the control right of it in its layout.
     for (QLayout* layout : window.findChildren<QLayout*>()) {

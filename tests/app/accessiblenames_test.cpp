@@ -100,3 +100,19 @@ TEST(AccessibleNames, EveryControlThatTakesFocusInEveryWindowSaysWhatItIs) {
         unnamed << Unnamed(*window);
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join(QLatin1Char('\n')).toStdString();
 }
+
+TEST(AccessibleNames, TheMainEditorTabsFromTheButtonListToTheStatesThenToTheProperties) {
+    TempFolder config;
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(config.dir().string()));
+    TestApplication();
+    FakeUserInterface ui;
+    Designer designer(&ui);
+    designer.start({});
+    QStringList chain;
+    QWidget* w = designer.mainWindow().findChild<QWidget*>(QStringLiteral("lstButtons"));
+    for (int i = 0; i < 500 && chain.size() < 9 && w != nullptr; ++i, w = w->nextInFocusChain())
+        if (w->focusPolicy() & Qt::TabFocus && !w->objectName().isEmpty())
+            chain << w->objectName();
+    EXPECT_EQ(chain.join(QLatin1Char(' ')).toStdString(),
+              "lstButtons btnAdd btnDuplicate btnRemove btnBuild btnUP btnOVER btnDOWN txtX");
+}
