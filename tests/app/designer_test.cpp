@@ -410,6 +410,20 @@ TEST(Designer, ADragSnapsToAnotherButtonWithAGuideUnlessAltIsHeldOrSnappingIsOff
     EXPECT_EQ(dragUp({}), (std::pair{10, true}));
     EXPECT_EQ(p.design().pButtons(2)->y(), 10);
     EXPECT_EQ(dragUp(Qt::AltModifier), (std::pair{13, false}));
+
     p.design().findChild<QAction*>(QStringLiteral("mnuSnapToButtons"))->trigger();
     EXPECT_EQ(dragUp({}), (std::pair{13, false}));
+    p.design().findChild<QAction*>(QStringLiteral("mnuSnapToButtons"))->trigger();
+    // A right handle pulled to 3 pixels short of button 2's left edge: the edge snaps.
+    ButtonRecord& one = p.model().Button(1);
+    one.Width = 50;
+    p.model().Button(2).x = 200;
+    p.design().RedrawAll();
+    QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, {}, QPoint(3, 3));
+    SizerHandle* right = p.design().picSizer(1);
+    QTest::mousePress(right, Qt::LeftButton, {}, QPoint(3, 3));
+    QTest::mouseMove(right, QPoint(3 + 133, 3)); // the rules alone: right edge 197
+    QTest::mouseRelease(right, Qt::LeftButton, {}, QPoint(3 + 133, 3));
+    EXPECT_EQ(one.x + one.Width, 200);
+    EXPECT_EQ(p.design().pButtons(1)->width(), one.Width);
 }
