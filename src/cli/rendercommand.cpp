@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "commands.h"
 #include "consoleuserinterface.h"
+#include "editor.h"
 #include "projectfile.h"
 #include "projectmodel.h"
 #include "rendersurface.h"
@@ -73,7 +74,7 @@ int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostr
 
     ConsoleUserInterface ui(err);
     ProjectModel model;
-    if (!LoadProject(model, parsed.positional.front(), ui))
+    if (!ShowLoadResult(LoadProject(model, parsed.positional.front(), &ui), ui))
         return kExitFailed;
     model.CurrentState = state;
 
