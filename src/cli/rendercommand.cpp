@@ -76,12 +76,12 @@ int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostr
     ProjectModel model;
     if (!ShowLoadResult(LoadProject(model, parsed.positional.front(), &ui), ui))
         return kExitFailed;
-    model.CurrentState = state;
+    model.CurrentState = known;
 
     RenderOptions options;
     options.noBackGround = parsed.has("--no-background");
     options.ui = &ui;
-    const QImage surface = RenderSurface(model, state, options);
+    const QImage surface = RenderSurface(model, known, options);
 
     const QString path = QString::fromStdString(*output);
     QSaveFile file(path);

@@ -121,7 +121,7 @@ StartupResult Editor::Startup(std::string_view commandLine) {
     m_view.SetCaption(MainTitle());
     m_recent.GetRecent();
     m_view.SetLanguageChecked(m_settings.value(SettingKey::LanguageCurrent));
-    m_model.CurrentState = "UP";
+    m_model.CurrentState = ButtonState::UP;
     ShowCurrentState();
     if (AppendDefaultButton() == StartupResult::Quit)
         return StartupResult::Quit;
@@ -422,20 +422,20 @@ void Editor::SwitchState(std::string_view state) {
     ButtonState parsed = ButtonState::UP;
     if (!StateFromName(state, parsed))
         return;
-    m_model.CurrentState = StateName(parsed);
+    m_model.CurrentState = parsed;
     ShowCurrentState();
     ShowProp(m_model.CurrentButton);
     m_design.RedrawAll();
 }
 
 void Editor::ShowCurrentState() {
-    const ButtonState state = m_model.EditedState();
+    const ButtonState state = m_model.CurrentState;
     m_view.ShowState(state);
     m_view.SetActionTitle(ActionTitle(state));
 }
 
 std::string Editor::ActionProgramKind() const {
-    return std::string("Program") + StateName(m_model.EditedState());
+    return std::string("Program") + StateName(m_model.CurrentState);
 }
 
 void Editor::MakeDefault() {

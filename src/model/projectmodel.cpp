@@ -60,12 +60,6 @@ const AppletField* AppletFieldNamed(std::string_view name) {
     return nullptr;
 }
 
-ButtonState ProjectModel::EditedState() const {
-    ButtonState state = ButtonState::UP;
-    StateFromName(CurrentState, state);
-    return state;
-}
-
 void ProjectModel::Reset() {
     ButtonCount = 0;
     CurrentButton = 0;

@@ -45,7 +45,7 @@ struct ProjectModel : AppletSettings {
 
     // Editing state.
     std::int16_t CurrentButton = 0;
-    std::string CurrentState = "UP";
+    ButtonState CurrentState = ButtonState::UP; ///< the state being edited
     std::string ProjectFileName;
     /// The file a reader last took content from, named or not (a load that failed part
     /// way keeps the buttons read so far but no file name).
@@ -64,9 +64,6 @@ struct ProjectModel : AppletSettings {
     const ButtonRecord& Button(int index) const {
         return Buttons.at(static_cast<std::size_t>(index));
     }
-
-    /// The state being edited; "UP" when CurrentState holds anything else.
-    ButtonState EditedState() const;
 
     /// The new-project reset: no buttons, no background image, no applet programs,
     /// no file name, saved. Size, colour, placement, offset, behaviour and name stay.
