@@ -323,14 +323,6 @@ std::size_t nextBar(std::string_view line, std::size_t start) {
 
 } // namespace
 
-std::string FieldText(const ButtonRecord& record, int pos) {
-    const ButtonField& slot = fieldSlot(pos);
-    if (slot.text)
-        return record.*slot.text;
-    char digits[kLongestNumber];
-    return std::string(digits, writeField(digits, record, slot));
-}
-
 template <typename R>
 FieldError SetFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text) {
     if (f.text) {
@@ -358,6 +350,12 @@ template FieldError SetFieldText(ProjectModel&, const RecordField<ProjectModel>&
                                  std::string_view);
 template void AppendFieldText(std::string&, const ButtonRecord&, const ButtonField&);
 template void AppendFieldText(std::string&, const ProjectModel&, const RecordField<ProjectModel>&);
+
+std::string FieldText(const ButtonRecord& record, int pos) {
+    std::string text;
+    AppendFieldText(text, record, fieldSlot(pos));
+    return text;
+}
 
 FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
     return SetFieldText(record, fieldSlot(pos), pos, text);

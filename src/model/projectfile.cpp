@@ -261,9 +261,9 @@ void startLoad(ProjectModel& model, ProgressView* progress) {
 /// Room for the saved text, so that it is built without moving: the texts of the
 /// buttons (labels twice over, as their blanks grow when encoded) and their numbers.
 std::size_t expectedTextSize(const ProjectModel& model, int count) {
-    std::size_t size = 1024 + model.BackImg.size() + model.AppletProgramOVER.size() +
-                       model.AppletProgramDOWN.size() + model.AppletProgramOUT.size() +
-                       model.AppletProgramStart.size() + model.AppletName.size();
+    std::size_t size = 1024;
+    for (const AppletField& f : AppletFields())
+        size += f.text ? (model.*f.text).size() : 0;
     for (int i = 1; i <= count; ++i) {
         const ButtonRecord& r = model.Button(i);
         size += 400 + r.URL.size() + r.Status.size() + r.Target.size();

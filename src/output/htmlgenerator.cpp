@@ -208,18 +208,6 @@ std::string GetJSCaller(std::string_view appletName) {
     return JSCallerFromFile(JoinPath(ProgramFolder(), "Orvel.ini"), appletName);
 }
 
-std::string AppletParameterValue(const ProjectModel& model) {
-    std::string value;
-    appendAppletValue(value, model, model.AppletName);
-    return value;
-}
-
-std::string ButtonParameterValue(const ButtonRecord& button) {
-    std::string value;
-    appendButtonValue(value, button);
-    return value;
-}
-
 const std::string& NameTheApplet(ProjectModel& model) {
     if (model.AppletName.empty())
         model.AppletName = DefaultAppletName(model.ProjectFileName);

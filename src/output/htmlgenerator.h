@@ -72,9 +72,4 @@ std::string EncodedFileName(std::string_view path);
 /// The last button the applet code holds: ButtonCount, kept inside the button table.
 int LastButton(const ProjectModel& model);
 
-/// The value of the applet parameter "p" (17 fields, each followed by "|").
-std::string AppletParameterValue(const ProjectModel& model);
-/// The value of a button's parameter (its 50 fields as the applet reads them).
-std::string ButtonParameterValue(const ButtonRecord& button);
-
 } // namespace orvelin

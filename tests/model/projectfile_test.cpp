@@ -157,19 +157,6 @@ TEST_F(ProjectFileTest, LinesAfterTheLastButtonAndLoneLineFeedsAreAccepted) {
     EXPECT_EQ(model.AppletName, "read");
 }
 
-TEST_F(ProjectFileTest, CutOffButtonKeepsTheOnesBefore) {
-    const std::string full = ProjectWith(6, ButtonsUpTo(6));
-    const std::size_t fifth = full.find("\r\n5|") + 2;
-    for (std::size_t cut : {fifth, fifth + 1, fifth + 38, fifth + ButtonAt(5).size() - 1}) {
-        FakeUserInterface fresh;
-        ProjectModel loaded;
-        EXPECT_FALSE(Load(loaded, write(full.substr(0, cut)), fresh)) << cut;
-        EXPECT_EQ(loaded.ButtonCount, 4) << cut;
-        EXPECT_EQ(loaded.Button(4).x, 4);
-        EXPECT_EQ(fresh.messages(), Texts{"Error loading project.\r\nInput past end of file"});
-    }
-}
-
 TEST_F(ProjectFileTest, DamagedFilesKeepTheButtonsReadBeforeTheDamage) {
     Texts wideThird = ButtonsUpTo(4);
     wideThird[2].replace(wideThird[2].find("|107|"), 5, "|wide|");
