@@ -56,9 +56,11 @@ void useBuildProgramFolder() {
 void BM_MakeHtml(benchmark::State& state) {
     useBuildProgramFolder();
     ProjectModel model = fullProject();
+    const std::string& name = NameTheApplet(model);
+    const std::string jsCaller = GetJSCaller(name);
     std::size_t bytes = 0;
     for (auto _ : state) {
-        GeneratedHtml html = MakeHTML(model);
+        GeneratedHtml html = MakeHTML(model, name, jsCaller);
         bytes = html.text.size();
         benchmark::DoNotOptimize(html);
     }
@@ -70,7 +72,8 @@ BENCHMARK(BM_MakeHtml);
 void BM_PlainStreamOfTheSameBytes(benchmark::State& state) {
     useBuildProgramFolder();
     ProjectModel model = fullProject();
-    const std::string text = MakeHTML(model).text;
+    const std::string& name = NameTheApplet(model);
+    const std::string text = MakeHTML(model, name, GetJSCaller(name)).text;
     std::vector<std::string> lines;
     for (std::size_t start = 0, end; start < text.size(); start = end + 2) {
         end = text.find("\r\n", start);

@@ -74,7 +74,7 @@ void BM_RenderSurface101Buttons(benchmark::State& state) {
     RenderOptions options;
     options.images = &images;
     for (auto _ : state) {
-        QImage surface = RenderSurface(f.model, "UP", options);
+        QImage surface = RenderSurface(f.model, ButtonState::UP, options);
         benchmark::DoNotOptimize(surface.constBits());
     }
 }

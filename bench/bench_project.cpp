@@ -78,7 +78,7 @@ void BM_LoadProject(benchmark::State& state) {
     SilentUserInterface ui;
     ProjectModel model;
     for (auto _ : state) {
-        const bool ok = LoadProject(model, path, ui);
+        const bool ok = LoadProject(model, path, &ui).loaded();
         benchmark::DoNotOptimize(ok);
         if (!ok || model.ButtonCount != kMaxButtons)
             state.SkipWithError("the project did not load");
@@ -152,7 +152,7 @@ std::string emptyLinesFile() {
     return path;
 }
 
-template <bool (*Load)(ProjectModel&, const std::string&, UserInterface&)>
+template <LoadResult (*Load)(ProjectModel&, const std::string&, ProgressView*)>
 void loadEmptyLines(benchmark::State& state) {
     const std::string path = emptyLinesFile();
     SilentUserInterface ui;
@@ -161,7 +161,7 @@ void loadEmptyLines(benchmark::State& state) {
     for (auto _ : state) {
         const std::size_t before = liveBytes.load();
         peakBytes = before;
-        benchmark::DoNotOptimize(Load(model, path, ui));
+        benchmark::DoNotOptimize(Load(model, path, &ui).loaded());
         peak = std::max(peak, peakBytes.load() - before);
     }
     const auto size = static_cast<double>(fs::file_size(path));

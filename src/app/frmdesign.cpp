@@ -365,7 +365,7 @@ void FrmDesign::MoveLabelPositioner(int index) {
         return;
     }
     const ButtonRecord& button = m_model.Button(index);
-    const ButtonState state = m_model.EditedState();
+    const ButtonState state = m_model.CurrentState;
     if (button.PositionText(state) == 0) {
         m_positioner->hide();
         return;

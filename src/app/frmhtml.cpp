@@ -3,6 +3,7 @@
 #include "accessiblenames.h"
 #include "frmbrowsersetup.h"
 #include "htmlgenerator.h"
+#include "messages.h"
 #include "publishing.h"
 #include "windowgeometry.h"
 
@@ -101,7 +102,11 @@ void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {
 }
 
 void FrmHTML::MakeHTML() {
-    const GeneratedHtml html = orvelin::MakeHTML(m_model, &m_ui);
+    const MessageTable& msg = Messages();
+    m_ui.showProgress(msg[Msg::PleaseWait], msg[Msg::GeneratingHtml], -1);
+    const std::string& name = NameTheApplet(m_model);
+    const GeneratedHtml html = orvelin::MakeHTML(m_model, name, GetJSCaller(name));
+    m_ui.hideProgress();
     m_code = html.text;
     m_usesJavaScript = html.usesJavaScript;
     m_txtAppletName->setText(QString::fromStdString(m_model.AppletName));

@@ -173,7 +173,7 @@ void FrmMain::openOffset() {
 void FrmMain::ShowProp(int index, const std::string& caption) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
-    m_properties->showButton(m_model.Button(index), m_model.EditedState(),
+    m_properties->showButton(m_model.Button(index), m_model.CurrentState,
                              QString::fromStdString(caption));
     // Edits go to the selected buttons: a current button taken out of the selection is
     // shown, but the panel does not pretend to edit it.

@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "commands.h"
 #include "consoleuserinterface.h"
+#include "editor.h"
 #include "htmlgenerator.h"
 #include "projectfile.h"
 #include "projectmodel.h"
@@ -73,11 +74,12 @@ std::optional<int> loadCode(const char* command, const char* usage, std::size_t 
         err << "Usage:\n" << usage;
         return kExitUsage;
     }
-    if (!LoadProject(loaded.model, parsed.positional.front(), ui))
+    if (!ShowLoadResult(LoadProject(loaded.model, parsed.positional.front(), &ui), ui))
         return kExitFailed;
     if (const auto name = parsed.value("--applet-name"))
         SetAppletNameFromBox(loaded.model, *name);
-    loaded.html = MakeHTML(loaded.model, &ui);
+    const std::string& name = NameTheApplet(loaded.model);
+    loaded.html = MakeHTML(loaded.model, name, GetJSCaller(name));
     loaded.positional = parsed.positional;
     loaded.withPlayer = writesPage && !parsed.has("--no-player");
     return std::nullopt;

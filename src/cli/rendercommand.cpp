@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "commands.h"
 #include "consoleuserinterface.h"
+#include "editor.h"
 #include "projectfile.h"
 #include "projectmodel.h"
 #include "rendersurface.h"
@@ -73,14 +74,14 @@ int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostr
 
     ConsoleUserInterface ui(err);
     ProjectModel model;
-    if (!LoadProject(model, parsed.positional.front(), ui))
+    if (!ShowLoadResult(LoadProject(model, parsed.positional.front(), &ui), ui))
         return kExitFailed;
-    model.CurrentState = state;
+    model.CurrentState = known;
 
     RenderOptions options;
     options.noBackGround = parsed.has("--no-background");
     options.ui = &ui;
-    const QImage surface = RenderSurface(model, state, options);
+    const QImage surface = RenderSurface(model, known, options);
 
     const QString path = QString::fromStdString(*output);
     QSaveFile file(path);

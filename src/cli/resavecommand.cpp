@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "commands.h"
 #include "consoleuserinterface.h"
+#include "editor.h"
 #include "projectfile.h"
 #include "projectmodel.h"
 
@@ -30,9 +31,9 @@ int RunResave(const std::vector<std::string>& args, std::ostream& /*out*/, std::
     ConsoleUserInterface ui(err);
     ProjectModel model;
     const std::string& in = parsed.positional[0];
-    const bool loaded =
-        parsed.has("--legacy") ? LoadProject_OLD(model, in, ui) : LoadProject(model, in, ui);
-    if (!loaded)
+    if (!ShowLoadResult(parsed.has("--legacy") ? LoadProject_OLD(model, in, &ui)
+                                               : LoadProject(model, in, &ui),
+                        ui))
         return kExitFailed;
     return SaveProject(model, parsed.positional[1], ui) ? kExitOk : kExitFailed;
 }

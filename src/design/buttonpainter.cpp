@@ -62,11 +62,6 @@ void DrawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, 
 ButtonPainter::ButtonPainter(const ProjectModel& model, ImageCache& images)
     : m_model(model), m_images(images) {}
 
-void ButtonPainter::setState(std::string_view stateName) {
-    m_state = ButtonState::UP;
-    m_knownState = StateFromName(stateName, m_state);
-}
-
 bool ButtonPainter::ShowsMultiSelector(int index) const {
     return m_selection && m_selection->selectedCount() >= 2 && m_selection->isSelected(index);
 }
@@ -103,8 +98,6 @@ void ButtonPainter::DrawPix(QPainter& painter, int index) {
 bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
     try {
         const ButtonRecord& button = m_model.Button(index);
-        if (!m_knownState)
-            return true;
         const ButtonState s = m_state;
         bool bold = false;
         bool italic = false;

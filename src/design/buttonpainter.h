@@ -30,9 +30,8 @@ class ButtonPainter {
 public:
     ButtonPainter(const ProjectModel& model, ImageCache& images);
 
-    /// The state whose fields are painted ("UP", "OVER", "DOWN"). Any other text paints
-    /// the UP picture without a label.
-    void setState(std::string_view stateName);
+    /// The state whose fields are painted.
+    void setState(ButtonState state) { m_state = state; }
     /// The applet background as the surface shows it, the source of MakeTransparent.
     void setBackground(const QImage* background) { m_background = background; }
     /// The button list whose multi-selection gets the marker; none: no marker.
@@ -74,7 +73,6 @@ private:
     const ProjectModel& m_model;
     ImageCache& m_images;
     ButtonState m_state = ButtonState::UP;
-    bool m_knownState = true;
     const QImage* m_background = nullptr;
     const ButtonList* m_selection = nullptr;
     UserInterface* m_ui = nullptr;

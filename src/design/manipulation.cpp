@@ -301,7 +301,7 @@ SizerReleaseOutcome ReleaseSizer(SizerState& sizers, int handle) {
 
 PixelPoint LabelAnchor(const ProjectModel& model, int index) {
     const ButtonRecord& b = model.Button(index);
-    const ButtonState s = model.EditedState();
+    const ButtonState s = model.CurrentState;
     return {b.x + b.LabelPosX(s), b.y + b.LabelPosY(s)};
 }
 
@@ -317,7 +317,7 @@ LabelMoveOutcome DragLabelPositioner(ProjectModel& model, const ButtonList& list
     const int current = model.CurrentButton;
     if (!positioner.dragging || !IsButtonNumber(model, current))
         return out;
-    const ButtonState s = model.EditedState();
+    const ButtonState s = model.CurrentState;
     const ButtonRecord& b = model.Button(current);
     // Inside the button, so that the positioner never gets lost under another one.
     const int px =

@@ -9,8 +9,7 @@
 
 namespace orvelin {
 
-QImage RenderSurface(const ProjectModel& model, std::string_view state,
-                     const RenderOptions& options) {
+QImage RenderSurface(const ProjectModel& model, ButtonState state, const RenderOptions& options) {
     ImageCache ownImages;
     ImageCache& images = options.images ? *options.images : ownImages;
     images.setProjectFile(model.FileForRelativePaths());

@@ -28,7 +28,7 @@ struct RenderOptions {
  * it. Hidden buttons are shown, as the designer shows them. Relative image paths are
  * resolved beside the model's FileForRelativePaths().
  */
-QImage RenderSurface(const ProjectModel& model, std::string_view state,
+QImage RenderSurface(const ProjectModel& model, ButtonState state,
                      const RenderOptions& options = {});
 
 } // namespace orvelin

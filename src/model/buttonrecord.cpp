@@ -1,5 +1,6 @@
 #include "buttonrecord.h"
 
+#include "projectmodel.h"
 #include "texthelpers.h"
 
 #include <algorithm>
@@ -68,81 +69,67 @@ template <typename T> T& pick(ButtonState s, T& up, T& over, T& down) {
     return up;
 }
 
-/// Where a field lives: exactly one of the three members is set.
-struct FieldSlot {
-    std::int16_t ButtonRecord::*number = nullptr;
-    std::int32_t ButtonRecord::*colour = nullptr;
-    std::string ButtonRecord::*text = nullptr;
-};
-
-constexpr FieldSlot slot(std::int16_t ButtonRecord::*member) {
-    return {member, nullptr, nullptr};
-}
-constexpr FieldSlot slot(std::int32_t ButtonRecord::*member) {
-    return {nullptr, member, nullptr};
-}
-constexpr FieldSlot slot(std::string ButtonRecord::*member) {
-    return {nullptr, nullptr, member};
-}
-
+using B = ButtonRecord;
+using K = FieldKind;
 // clang-format off
-constexpr std::array<FieldSlot, kButtonFieldCount> kFieldSlots = {{
-    slot(&ButtonRecord::x),
-    slot(&ButtonRecord::y),
-    slot(&ButtonRecord::Width),
-    slot(&ButtonRecord::Height),
-    slot(&ButtonRecord::LabelUP),
-    slot(&ButtonRecord::LabelOVER),
-    slot(&ButtonRecord::LabelDOWN),
-    slot(&ButtonRecord::URL),
-    slot(&ButtonRecord::Status),
-    slot(&ButtonRecord::Target),
-    slot(&ButtonRecord::Border),
-    slot(&ButtonRecord::noBackGround),
-    slot(&ButtonRecord::ShowHand),
-    slot(&ButtonRecord::ImageUP),
-    slot(&ButtonRecord::ImageOVER),
-    slot(&ButtonRecord::ImageDOWN),
-    slot(&ButtonRecord::BackColorUP),
-    slot(&ButtonRecord::BackColorOVER),
-    slot(&ButtonRecord::BackColorDOWN),
-    slot(&ButtonRecord::FontColorUP),
-    slot(&ButtonRecord::FontColorOVER),
-    slot(&ButtonRecord::FontColorDOWN),
-    slot(&ButtonRecord::FontUP),
-    slot(&ButtonRecord::FontOVER),
-    slot(&ButtonRecord::FontDOWN),
-    slot(&ButtonRecord::FontStyleUP),
-    slot(&ButtonRecord::FontStyleOVER),
-    slot(&ButtonRecord::FontStyleDOWN),
-    slot(&ButtonRecord::FontSizeUP),
-    slot(&ButtonRecord::FontSizeOVER),
-    slot(&ButtonRecord::FontSizeDOWN),
-    slot(&ButtonRecord::SndUP),
-    slot(&ButtonRecord::SndOVER),
-    slot(&ButtonRecord::SndDOWN),
-    slot(&ButtonRecord::ImgStyleUP),
-    slot(&ButtonRecord::ImgStyleOVER),
-    slot(&ButtonRecord::ImgStyleDOWN),
-    slot(&ButtonRecord::PositionTextUP),
-    slot(&ButtonRecord::PositionTextOVER),
-    slot(&ButtonRecord::PositionTextDOWN),
-    slot(&ButtonRecord::LabelPosXUP),
-    slot(&ButtonRecord::LabelPosYUP),
-    slot(&ButtonRecord::LabelPosXOVER),
-    slot(&ButtonRecord::LabelPosYOVER),
-    slot(&ButtonRecord::LabelPosXDOWN),
-    slot(&ButtonRecord::LabelPosYDOWN),
-    slot(&ButtonRecord::Hidden),
-    slot(&ButtonRecord::ProgramUP),
-    slot(&ButtonRecord::ProgramOVER),
-    slot(&ButtonRecord::ProgramDOWN),
+constexpr std::array<ButtonField, kButtonFieldCount> kButtonFields = {{
+    Field("x", K::Int16, &B::x),
+    Field("y", K::Int16, &B::y),
+    Field("Width", K::Int16, &B::Width),
+    Field("Height", K::Int16, &B::Height),
+    Field("LabelUP", K::Label, &B::LabelUP),
+    Field("LabelOVER", K::Label, &B::LabelOVER),
+    Field("LabelDOWN", K::Label, &B::LabelDOWN),
+    Field("URL", K::Text, &B::URL),
+    Field("Status", K::Text, &B::Status),
+    Field("Target", K::Text, &B::Target),
+    Field("Border", K::Int16, &B::Border),
+    Field("noBackGround", K::Int16, &B::noBackGround),
+    Field("ShowHand", K::Int16, &B::ShowHand),
+    Field("ImageUP", K::File, &B::ImageUP),
+    Field("ImageOVER", K::File, &B::ImageOVER),
+    Field("ImageDOWN", K::File, &B::ImageDOWN),
+    Field("BackColorUP", K::Color, &B::BackColorUP),
+    Field("BackColorOVER", K::Color, &B::BackColorOVER),
+    Field("BackColorDOWN", K::Color, &B::BackColorDOWN),
+    Field("FontColorUP", K::Color, &B::FontColorUP),
+    Field("FontColorOVER", K::Color, &B::FontColorOVER),
+    Field("FontColorDOWN", K::Color, &B::FontColorDOWN),
+    Field("FontUP", K::Raw, &B::FontUP),
+    Field("FontOVER", K::Raw, &B::FontOVER),
+    Field("FontDOWN", K::Raw, &B::FontDOWN),
+    Field("FontStyleUP", K::Raw, &B::FontStyleUP),
+    Field("FontStyleOVER", K::Raw, &B::FontStyleOVER),
+    Field("FontStyleDOWN", K::Raw, &B::FontStyleDOWN),
+    Field("FontSizeUP", K::Int16, &B::FontSizeUP),
+    Field("FontSizeOVER", K::Int16, &B::FontSizeOVER),
+    Field("FontSizeDOWN", K::Int16, &B::FontSizeDOWN),
+    Field("SndUP", K::File, &B::SndUP),
+    Field("SndOVER", K::File, &B::SndOVER),
+    Field("SndDOWN", K::File, &B::SndDOWN),
+    Field("ImgStyleUP", K::Int16, &B::ImgStyleUP),
+    Field("ImgStyleOVER", K::Int16, &B::ImgStyleOVER),
+    Field("ImgStyleDOWN", K::Int16, &B::ImgStyleDOWN),
+    Field("PositionTextUP", K::Int16, &B::PositionTextUP),
+    Field("PositionTextOVER", K::Int16, &B::PositionTextOVER),
+    Field("PositionTextDOWN", K::Int16, &B::PositionTextDOWN),
+    Field("LabelPosXUP", K::Int16, &B::LabelPosXUP),
+    Field("LabelPosYUP", K::Int16, &B::LabelPosYUP),
+    Field("LabelPosXOVER", K::Int16, &B::LabelPosXOVER),
+    Field("LabelPosYOVER", K::Int16, &B::LabelPosYOVER),
+    Field("LabelPosXDOWN", K::Int16, &B::LabelPosXDOWN),
+    Field("LabelPosYDOWN", K::Int16, &B::LabelPosYDOWN),
+    Field("Hidden", K::Int16, &B::Hidden),
+    Field("ProgramUP", K::Raw, &B::ProgramUP),
+    Field("ProgramOVER", K::Raw, &B::ProgramOVER),
+    Field("ProgramDOWN", K::Raw, &B::ProgramDOWN),
 }};
 // clang-format on
+static_assert(KindsMatchMembers(kButtonFields));
 
-/// The slot of field `pos`; any position past the table is the last field.
-const FieldSlot& fieldSlot(int pos) {
-    return kFieldSlots[static_cast<std::size_t>(
+/// The field at `pos`; any position past the table is the last field.
+const ButtonField& fieldSlot(int pos) {
+    return kButtonFields[static_cast<std::size_t>(
         pos >= 0 && pos < kButtonFieldCount ? pos : kButtonFieldCount - 1)];
 }
 
@@ -185,60 +172,7 @@ const std::string& ButtonRecord::Sound(ButtonState s) const {
 #undef ORVELIN_STATE_VALUE_ACCESSORS
 
 const std::array<ButtonField, kButtonFieldCount>& ButtonFields() {
-    using K = FieldKind;
-    static const std::array<ButtonField, kButtonFieldCount> fields = {{
-        {"x", K::Int16},
-        {"y", K::Int16},
-        {"Width", K::Int16},
-        {"Height", K::Int16},
-        {"LabelUP", K::Label},
-        {"LabelOVER", K::Label},
-        {"LabelDOWN", K::Label},
-        {"URL", K::Text},
-        {"Status", K::Text},
-        {"Target", K::Text},
-        {"Border", K::Int16},
-        {"noBackGround", K::Int16},
-        {"ShowHand", K::Int16},
-        {"ImageUP", K::File},
-        {"ImageOVER", K::File},
-        {"ImageDOWN", K::File},
-        {"BackColorUP", K::Color},
-        {"BackColorOVER", K::Color},
-        {"BackColorDOWN", K::Color},
-        {"FontColorUP", K::Color},
-        {"FontColorOVER", K::Color},
-        {"FontColorDOWN", K::Color},
-        {"FontUP", K::Raw},
-        {"FontOVER", K::Raw},
-        {"FontDOWN", K::Raw},
-        {"FontStyleUP", K::Raw},
-        {"FontStyleOVER", K::Raw},
-        {"FontStyleDOWN", K::Raw},
-        {"FontSizeUP", K::Int16},
-        {"FontSizeOVER", K::Int16},
-        {"FontSizeDOWN", K::Int16},
-        {"SndUP", K::File},
-        {"SndOVER", K::File},
-        {"SndDOWN", K::File},
-        {"ImgStyleUP", K::Int16},
-        {"ImgStyleOVER", K::Int16},
-        {"ImgStyleDOWN", K::Int16},
-        {"PositionTextUP", K::Int16},
-        {"PositionTextOVER", K::Int16},
-        {"PositionTextDOWN", K::Int16},
-        {"LabelPosXUP", K::Int16},
-        {"LabelPosYUP", K::Int16},
-        {"LabelPosXOVER", K::Int16},
-        {"LabelPosYOVER", K::Int16},
-        {"LabelPosXDOWN", K::Int16},
-        {"LabelPosYDOWN", K::Int16},
-        {"Hidden", K::Int16},
-        {"ProgramUP", K::Raw},
-        {"ProgramOVER", K::Raw},
-        {"ProgramDOWN", K::Raw},
-    }};
-    return fields;
+    return kButtonFields;
 }
 
 bool FieldCanHold(FieldKind kind, char c) {
@@ -289,9 +223,8 @@ bool CleanFieldInPlace(FieldKind kind, std::string& text) {
 std::vector<int> CleanTextFields(ButtonRecord& record) {
     std::vector<int> changed;
     for (int pos = 0; pos < kButtonFieldCount; ++pos) {
-        const FieldSlot& slot = fieldSlot(pos);
-        if (slot.text && CleanFieldInPlace(ButtonFields()[static_cast<std::size_t>(pos)].kind,
-                                           record.*slot.text))
+        const ButtonField& f = fieldSlot(pos);
+        if (f.text && CleanFieldInPlace(f.kind, record.*f.text))
             changed.push_back(pos);
     }
     return changed;
@@ -332,8 +265,8 @@ WholeNumber parseNumber(std::string_view text, bool wide) {
 
 /// Sets the integer field of `slot` from its text; false, with the cause, when the
 /// text holds no number in the field's range (the field is then left as it was).
-bool storeNumber(ButtonRecord& record, const FieldSlot& slot, std::string_view text,
-                 NumberError& error) {
+template <typename R>
+bool storeNumber(R& record, const RecordField<R>& slot, std::string_view text, NumberError& error) {
     const WholeNumber n = parseNumber(text, slot.colour != nullptr);
     error = n.error;
     if (n.error != NumberError::None)
@@ -349,14 +282,13 @@ bool storeNumber(ButtonRecord& record, const FieldSlot& slot, std::string_view t
 constexpr std::size_t kLongestNumber = 11;
 
 /// Writes field `slot` of `record` at `to` as stored text; returns the end.
-char* writeField(char* to, const ButtonRecord& record, const FieldSlot& slot) {
+template <typename R> char* writeField(char* to, const R& record, const RecordField<R>& slot) {
     if (slot.text) {
         const std::string& text = record.*slot.text;
         std::memcpy(to, text.data(), text.size());
         return to + text.size();
     }
-    const std::int32_t value = slot.colour ? record.*slot.colour : record.*slot.number;
-    return std::to_chars(to, to + kLongestNumber, value).ptr;
+    return std::to_chars(to, to + kLongestNumber, FieldNumber(record, slot)).ptr;
 }
 
 /// Fields [first, last) each followed by "|", written through a pointer into room
@@ -364,7 +296,7 @@ char* writeField(char* to, const ButtonRecord& record, const FieldSlot& slot) {
 void appendFields(std::string& out, const ButtonRecord& record, int first, int last) {
     std::size_t room = 0;
     for (int pos = first; pos < last; ++pos) {
-        const FieldSlot& slot = fieldSlot(pos);
+        const ButtonField& slot = fieldSlot(pos);
         room += 1 + (slot.text ? (record.*slot.text).size() : kLongestNumber);
     }
     const std::size_t start = out.size();
@@ -391,24 +323,42 @@ std::size_t nextBar(std::string_view line, std::size_t start) {
 
 } // namespace
 
-std::string FieldText(const ButtonRecord& record, int pos) {
-    const FieldSlot& slot = fieldSlot(pos);
-    if (slot.text)
-        return record.*slot.text;
-    char digits[kLongestNumber];
-    return std::string(digits, writeField(digits, record, slot));
-}
-
-FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
-    const FieldSlot& slot = fieldSlot(pos);
-    if (slot.text) {
-        (record.*slot.text).assign(text);
+template <typename R>
+FieldError SetFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text) {
+    if (f.text) {
+        (record.*f.text).assign(text);
         return {};
     }
     NumberError error = NumberError::None;
-    if (!storeNumber(record, slot, text, error))
+    if (!storeNumber(record, f, text, error))
         return {pos, NumberErrorText(error)};
     return {};
+}
+
+template <typename R>
+void AppendFieldText(std::string& out, const R& record, const RecordField<R>& f) {
+    if (f.text) {
+        out += record.*f.text;
+        return;
+    }
+    char digits[kLongestNumber];
+    out.append(digits, writeField(digits, record, f));
+}
+
+template FieldError SetFieldText(ButtonRecord&, const ButtonField&, int, std::string_view);
+template FieldError SetFieldText(ProjectModel&, const RecordField<ProjectModel>&, int,
+                                 std::string_view);
+template void AppendFieldText(std::string&, const ButtonRecord&, const ButtonField&);
+template void AppendFieldText(std::string&, const ProjectModel&, const RecordField<ProjectModel>&);
+
+std::string FieldText(const ButtonRecord& record, int pos) {
+    std::string text;
+    AppendFieldText(text, record, fieldSlot(pos));
+    return text;
+}
+
+FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
+    return SetFieldText(record, fieldSlot(pos), pos, text);
 }
 
 std::string SerializeButton(const ButtonRecord& record) {
@@ -454,7 +404,7 @@ FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPo
                 return {pos, NumberErrorText(error)};
             continue;
         }
-        const FieldSlot& slot = fieldSlot(pos);
+        const ButtonField& slot = fieldSlot(pos);
         if (slot.text) {
             // Cleared and appended to rather than assigned: the strings keep their
             // storage from one load to the next, and appending skips the overlap checks.

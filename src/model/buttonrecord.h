@@ -87,20 +87,64 @@ struct ButtonRecord {
 
 inline constexpr int kButtonFieldCount = 50;
 
-/// How a field is held: which decides its conversion and its encodings.
-enum class FieldKind {
-    Int16, ///< signed 16-bit decimal
-    Color, ///< signed 32-bit decimal, a colour
-    Label, ///< text through EncodeLabel/DecodeLabel in files
-    Text,  ///< URL, status and target: raw in files, EncodeLabel for the applet
-    File,  ///< image and sound paths: raw in files, bare encoded name for the applet
-    Raw,   ///< fonts, style codes, programs: raw everywhere
-};
+/**
+ * How a field is held, which decides how each form writes it:
+ *            project file      applet parameter
+ *   Int16    decimal           decimal
+ *   Color    decimal           "#RRGGBB" (ColorToWeb)
+ *   Label    EncodeLabel       EncodeLabel
+ *   Text     as it is          EncodeLabel            (URL, status, target)
+ *   File     as it is          EncodeLabel(bare name) (image and sound paths)
+ *   Raw      as it is          as it is               (fonts, style codes, programs)
+ */
+enum class FieldKind { Int16, Color, Label, Text, File, Raw };
 
-struct ButtonField {
+/**
+ * One field of a record `R` (a button, or the project's applet settings): its name (the
+ * legacy file's key, the name in messages), its kind and the member that holds it
+ * (exactly one of the three, matching the kind).
+ */
+template <typename R> struct RecordField {
     const char* name;
     FieldKind kind;
+    std::int16_t R::*number = nullptr;
+    std::int32_t R::*colour = nullptr;
+    std::string R::*text = nullptr;
 };
+
+/// A table entry: `kind` must match the member's type (see KindsMatchMembers).
+template <typename R>
+constexpr RecordField<R> Field(const char* name, FieldKind kind, std::int16_t R::*m) {
+    return {name, kind, m, nullptr, nullptr};
+}
+template <typename R>
+constexpr RecordField<R> Field(const char* name, FieldKind kind, std::int32_t R::*m) {
+    return {name, kind, nullptr, m, nullptr};
+}
+template <typename R>
+constexpr RecordField<R> Field(const char* name, FieldKind kind, std::string R::*m) {
+    return {name, kind, nullptr, nullptr, m};
+}
+
+/// True when every field's kind fits its member: Int16 a 16-bit one, Color a 32-bit one,
+/// the others a string. Checked where the tables are defined.
+template <typename Table> constexpr bool KindsMatchMembers(const Table& table) {
+    for (const auto& f : table) {
+        const bool fits = f.kind == FieldKind::Int16   ? f.number != nullptr
+                          : f.kind == FieldKind::Color ? f.colour != nullptr
+                                                       : f.text != nullptr;
+        if (!fits)
+            return false;
+    }
+    return true;
+}
+
+/// The number a numeric field holds (0 for a text field).
+template <typename R> std::int32_t FieldNumber(const R& record, const RecordField<R>& f) {
+    return f.colour ? record.*f.colour : f.number ? record.*f.number : 0;
+}
+
+using ButtonField = RecordField<ButtonRecord>;
 
 /**
  * Whether a field of `kind` can hold the byte `c` in every form it is written in: the
@@ -127,11 +171,14 @@ bool CleanFieldInPlace(FieldKind kind, std::string& text);
 /// Cleans every text field of `record` in place; the positions of those that changed.
 std::vector<int> CleanTextFields(ButtonRecord& record);
 
-/// The 50 fields in their canonical order.
+/// The 50 fields in the order of every pipe-separated form of a button.
 const std::array<ButtonField, kButtonFieldCount>& ButtonFields();
 
 /// Field `pos` as stored text (integers in decimal, texts as they are, no encoding).
 std::string FieldText(const ButtonRecord& record, int pos);
+/// Field `f` as stored text appended to `out`.
+template <typename R>
+void AppendFieldText(std::string& out, const R& record, const RecordField<R>& f);
 
 /// Result of assigning one field from text: an integer field holding no number is a
 /// conversion error, named as the designer names it ("Type mismatch", "Overflow").
@@ -143,6 +190,9 @@ struct FieldError {
 
 /// Assigns field `pos` from stored text (no decoding). Leaves the field as it was on error.
 FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text);
+/// The same for any record's field; the error's position is `pos`.
+template <typename R>
+FieldError SetFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text);
 
 /// The 50 fields each followed by "|"; labels through EncodeLabel.
 std::string SerializeButton(const ButtonRecord& record);

@@ -121,7 +121,7 @@ StartupResult Editor::Startup(std::string_view commandLine) {
     m_view.SetCaption(MainTitle());
     m_recent.GetRecent();
     m_view.SetLanguageChecked(m_settings.value(SettingKey::LanguageCurrent));
-    m_model.CurrentState = "UP";
+    m_model.CurrentState = ButtonState::UP;
     ShowCurrentState();
     if (AppendDefaultButton() == StartupResult::Quit)
         return StartupResult::Quit;
@@ -224,7 +224,7 @@ void Editor::ImportLegacy() {
     if (!path)
         return;
     ClearProject();
-    LoadProject_OLD(m_model, *path, m_ui);
+    ShowLoadResult(LoadProject_OLD(m_model, *path, &m_ui), m_ui);
     ShowLoadedProject();
     // The imported design exists in no current-format file yet: saving must ask for a
     // new name instead of overwriting the legacy file.
@@ -232,6 +232,26 @@ void Editor::ImportLegacy() {
     m_model.Saved = false;
     m_view.SetCaption(MainTitle());
     m_view.ProjectReplaced();
+}
+
+bool ShowLoadResult(const LoadResult& result, UserInterface& ui) {
+    constexpr std::size_t kCleanedLinesShown = 10;
+    const MessageTable& msg = Messages();
+    if (result.earlierVersion)
+        ui.showMessage(msg[Msg::EarlierVersion] + std::string(kCrLf) + std::string(kCrLf) +
+                           msg[Msg::EarlierVersionNote] + kVersionText,
+                       msg[Msg::EarlierVersionTitle]);
+    if (result.error)
+        ui.showWarning(msg[Msg::ErrorLoading] + std::string(kCrLf) + result.error->cause);
+    if (!result.cleaned.empty()) {
+        std::string text = msg[Msg::CharactersRemoved];
+        for (std::size_t i = 0; i < result.cleaned.size() && i < kCleanedLinesShown; ++i)
+            text.append(kCrLf).append(result.cleaned[i]);
+        if (result.cleaned.size() > kCleanedLinesShown)
+            text.append(kCrLf).append("...");
+        ui.showWarning(text);
+    }
+    return result.loaded();
 }
 
 SaveAnswer Editor::AskToSave() {
@@ -402,20 +422,20 @@ void Editor::SwitchState(std::string_view state) {
     ButtonState parsed = ButtonState::UP;
     if (!StateFromName(state, parsed))
         return;
-    m_model.CurrentState = StateName(parsed);
+    m_model.CurrentState = parsed;
     ShowCurrentState();
     ShowProp(m_model.CurrentButton);
     m_design.RedrawAll();
 }
 
 void Editor::ShowCurrentState() {
-    const ButtonState state = m_model.EditedState();
+    const ButtonState state = m_model.CurrentState;
     m_view.ShowState(state);
     m_view.SetActionTitle(ActionTitle(state));
 }
 
 std::string Editor::ActionProgramKind() const {
-    return std::string("Program") + StateName(m_model.EditedState());
+    return std::string("Program") + StateName(m_model.CurrentState);
 }
 
 void Editor::MakeDefault() {
@@ -513,7 +533,7 @@ void Editor::ShowRestored(const DocumentChange& change) {
 
 bool Editor::LoadFile(const std::string& path) {
     ClearProject();
-    const bool loaded = LoadProject(m_model, path, m_ui);
+    const bool loaded = ShowLoadResult(LoadProject(m_model, path, &m_ui), m_ui);
     ShowLoadedProject();
     // A file read only in part has no name in the editor (saving it must not overwrite
     // the rest of it), so neither has the title.

@@ -3,6 +3,7 @@
 #include "buttonlist.h"
 #include "designview.h"
 #include "editorview.h"
+#include "projectfile.h"
 #include "projectmodel.h"
 #include "projectsnapshot.h"
 #include "propertyeditor.h"
@@ -39,6 +40,13 @@ inline constexpr const char* kProposedProjectName = "untitled.orv";
  * what the open dialog shows by default; otherwise `chosen` as it is.
  */
 std::string ProjectSavePath(std::string_view chosen, std::string_view chosenFilter);
+
+/**
+ * What the user is told after a project was read, in this order: the earlier-version
+ * note, "Error loading project." with the cause, the characters removed. Returns
+ * result.loaded().
+ */
+bool ShowLoadResult(const LoadResult& result, UserInterface& ui);
 
 /**
  * The main editor's commands as operations on the project: they change the model,

@@ -11,14 +11,13 @@
 #include <limits>
 #include <optional>
 #include <string_view>
-#include <variant>
+#include <utility>
 #include <vector>
 
 namespace orvelin {
 
 namespace {
 
-constexpr int kAppletFieldCount = 15;
 constexpr int kAppletNameField = 15; // one past what the writer produces, on purpose
 constexpr int kLastButtonSlot = kButtonSlots - 1;
 
@@ -26,74 +25,11 @@ constexpr std::array<std::string_view, 5> kEarlierHeaders = {
     "Orvelin Project 1.0  Beta 5", "Orvelin Project 1.0  Beta 4", "Tessaly Project 1.0  Beta 3",
     "Orvelin Project 1.0  Beta 3", "Tessaly Project 1.0  Beta 2"};
 
-using AppletFieldRef = std::variant<std::monostate, std::int16_t*, std::int32_t*, std::string*>;
-
-// The applet line's fields by position; 14 is the applet name as the writer puts it.
-AppletFieldRef appletField(ProjectModel& m, int pos) {
-    switch (pos) {
-    case 0:
-        return &m.AppletWidth;
-    case 1:
-        return &m.AppletHeight;
-    case 2:
-        return &m.ButtonCount;
-    case 3:
-        return &m.Behaviour;
-    case 4:
-        return &m.DOWNBtn;
-    case 5:
-        return &m.BackGround;
-    case 6:
-        return &m.BackImg;
-    case 7:
-        return &m.BackImgStyle;
-    case 8:
-        return &m.AppletProgramOVER;
-    case 9:
-        return &m.AppletProgramDOWN;
-    case 10:
-        return &m.AppletProgramOUT;
-    case 11:
-        return &m.BgOffsetX;
-    case 12:
-        return &m.BgOffsetY;
-    case 13:
-        return &m.AppletProgramStart;
-    case 14:
-        return &m.AppletName;
-    default:
-        return {};
-    }
-}
-
-/// Where a load stopped: the button being read (0 before the first) and why.
-struct LoadError {
-    int button = 0;
-    std::string cause;
-};
-
-std::optional<LoadError> assignNumber(AppletFieldRef ref, std::string_view text) {
-    const bool wide = std::holds_alternative<std::int32_t*>(ref);
-    const WholeNumber n = wide ? ParseWholeNumber(text, std::numeric_limits<std::int32_t>::min(),
-                                                  std::numeric_limits<std::int32_t>::max())
-                               : ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
-                                                  std::numeric_limits<std::int16_t>::max());
-    if (n.error != NumberError::None)
-        return LoadError{0, NumberErrorText(n.error)};
-    if (wide)
-        *std::get<std::int32_t*>(ref) = static_cast<std::int32_t>(n.value);
-    else
-        *std::get<std::int16_t*>(ref) = static_cast<std::int16_t>(n.value);
+std::optional<LoadError> assignAppletField(ProjectModel& model, const AppletField& f,
+                                           std::string_view text) {
+    if (FieldError e = SetFieldText(model, f, 0, text))
+        return LoadError{0, e.description};
     return std::nullopt;
-}
-
-std::optional<LoadError> assignAppletField(ProjectModel& model, int pos, std::string_view text) {
-    const AppletFieldRef ref = appletField(model, pos);
-    if (auto s = std::get_if<std::string*>(&ref)) {
-        (*s)->assign(text);
-        return std::nullopt;
-    }
-    return assignNumber(ref, text);
 }
 
 // Fields 0 to 13 set the applet, 14 is passed over and 15 (never written) names it.
@@ -104,7 +40,8 @@ std::optional<LoadError> parseAppletLine(std::string_view line, ProjectModel& mo
         const std::string_view field = line.substr(start, bar - start);
         start = bar + 1;
         if (pos < kAppletFieldCount - 1) {
-            if (auto error = assignAppletField(model, pos, field))
+            if (auto error =
+                    assignAppletField(model, AppletFields()[static_cast<std::size_t>(pos)], field))
                 return error;
         } else if (pos == kAppletNameField) {
             model.AppletName.assign(field);
@@ -120,17 +57,17 @@ void appendNumber(std::string& out, std::int32_t value) {
     out.append(digits, static_cast<std::size_t>(end.ptr - digits));
 }
 
-/// "... button i of n" into `text`, which keeps its storage from one button to the next.
-void setProgressText(std::string& text, Msg what, int i, int n) {
+/// "... button i of n" in the progress window; `text` keeps its storage from one button
+/// to the next.
+void showButtonProgress(ProgressView* progress, std::string& text, Msg what, int i, int n) {
+    if (!progress)
+        return;
     const MessageTable& msg = Messages();
     text.assign(msg[what]);
     appendNumber(text, i);
     text += msg[Msg::OfWord];
     appendNumber(text, n);
-}
-
-int percentOf(int i, int n) {
-    return n > 0 ? i * 100 / n : 100;
+    progress->showProgress(msg[Msg::PleaseWait], text, n > 0 ? i * 100 / n : 100);
 }
 
 std::optional<LoadError> inputPastEnd(int button) {
@@ -145,7 +82,7 @@ std::optional<LoadError> checkButtonCount(int count) {
 }
 
 std::optional<LoadError> readProject(ProjectModel& model, const std::string& path,
-                                     UserInterface& ui) {
+                                     ProgressView* progress, LoadResult& result) {
     TextFileError fileError;
     const std::optional<std::string> text = ReadTextFile(path, &fileError);
     if (!text)
@@ -167,13 +104,8 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
     if (lines.empty())
         return inputPastEnd(0);
     const std::string_view header = lines[0];
-    if (std::find(kEarlierHeaders.begin(), kEarlierHeaders.end(), header) !=
-        kEarlierHeaders.end()) {
-        const MessageTable& msg = Messages();
-        ui.showMessage(msg[Msg::EarlierVersion] + std::string(kCrLf) + std::string(kCrLf) +
-                           msg[Msg::EarlierVersionNote] + kVersionText,
-                       msg[Msg::EarlierVersionTitle]);
-    }
+    result.earlierVersion =
+        std::find(kEarlierHeaders.begin(), kEarlierHeaders.end(), header) != kEarlierHeaders.end();
     // Any other header is read on as if it were current.
 
     if (lines.size() < 2 || !complete(1, kAppletFieldCount))
@@ -184,13 +116,12 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
         return error;
 
     const int count = model.ButtonCount;
-    std::string progress;
+    std::string progressText;
     for (int i = 1; i <= count; ++i) {
         const std::size_t index = static_cast<std::size_t>(i) + 1;
         if (index >= lines.size() || !complete(index, kButtonFieldCount))
             return inputPastEnd(i);
-        setProgressText(progress, Msg::LoadingButton, i, count);
-        ui.showProgress(Messages()[Msg::PleaseWait], progress, percentOf(i, count));
+        showButtonProgress(progress, progressText, Msg::LoadingButton, i, count);
         if (FieldError e = ParseButton(lines[index], model.Button(i)))
             return LoadError{i, e.description};
     }
@@ -236,7 +167,7 @@ const std::vector<std::string>& legacyKeys() {
 }
 
 std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::string& path,
-                                           UserInterface& ui) {
+                                           ProgressView* progress) {
     TextFileError fileError;
     const std::optional<std::string> text = ReadTextFile(path, &fileError);
     if (!text)
@@ -246,36 +177,21 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
     const PrivateProfile profile = PrivateProfile::fromText(*text, section, legacyKeys());
     profile.value(section, "Version", "-1"); // read by the old format, used by no one
 
-    struct AppletKey {
-        const char* key;
-        const char* fallback;
-        AppletFieldRef ref;
-    };
-    const std::array<AppletKey, 8> appletKeys = {{
-        {"ButtonCount", "0", &model.ButtonCount},
-        {"BackGround", "0", &model.BackGround},
-        {"Behaviour", "0", &model.Behaviour},
-        {"DOWNBtn", "0", &model.DOWNBtn},
-        {"AppletWidth", "510", &model.AppletWidth},
-        {"AppletHeight", "170", &model.AppletHeight},
-        {"BackImg", "", &model.BackImg},
-        {"BackImgStyle", "0", &model.BackImgStyle},
-    }};
-    for (const AppletKey& k : appletKeys) {
-        const std::string value = profile.value(section, k.key, k.fallback);
-        if (auto s = std::get_if<std::string*>(&k.ref))
-            **s = value;
-        else if (auto error = assignNumber(k.ref, value))
+    // The applet settings the old format has, in the order it reads them.
+    constexpr std::pair<const char*, const char*> appletKeys[] = {
+        {"ButtonCount", "0"},   {"BackGround", "0"},     {"Behaviour", "0"}, {"DOWNBtn", "0"},
+        {"AppletWidth", "510"}, {"AppletHeight", "170"}, {"BackImg", ""},    {"BackImgStyle", "0"}};
+    for (const auto& [key, fallback] : appletKeys)
+        if (auto error = assignAppletField(model, *AppletFieldNamed(key),
+                                           profile.value(section, key, fallback)))
             return error;
-    }
     if (auto error = checkButtonCount(model.ButtonCount))
         return error;
 
     const int count = model.ButtonCount;
-    std::string progress;
+    std::string progressText;
     for (int i = 1; i <= count; ++i) {
-        setProgressText(progress, Msg::LoadingButton, i, count);
-        ui.showProgress(Messages()[Msg::PleaseWait], progress, percentOf(i, count));
+        showButtonProgress(progress, progressText, Msg::LoadingButton, i, count);
         ButtonRecord& record = model.Button(i);
         const std::string suffix = "_" + std::to_string(i);
         for (const LegacyKey& key : kLegacyButtonKeys) {
@@ -289,8 +205,6 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
     return std::nullopt;
 }
 
-constexpr std::size_t kCleanedLinesShown = 10;
-
 /**
  * Removes from the loaded applet fields and buttons what their fields cannot hold (a
  * damaged or hand-made file may put a double quote into a font name, which would end
@@ -300,19 +214,10 @@ constexpr std::size_t kCleanedLinesShown = 10;
 std::vector<std::string> cleanLoadedFields(ProjectModel& model) {
     std::vector<std::string> lines;
     const MessageTable& msg = Messages();
-    const std::pair<std::string*, const char*> appletTexts[] = {
-        {&model.BackImg, "BackImg"},
-        {&model.AppletProgramOVER, "AppletProgramOVER"},
-        {&model.AppletProgramDOWN, "AppletProgramDOWN"},
-        {&model.AppletProgramOUT, "AppletProgramOUT"},
-        {&model.AppletProgramStart, "AppletProgramStart"},
-        {&model.AppletName, "AppletName"}};
     std::string names;
-    for (const auto& [text, name] : appletTexts) {
-        const FieldKind kind = text == &model.BackImg ? FieldKind::File : FieldKind::Raw;
-        if (CleanFieldInPlace(kind, *text))
-            names += (names.empty() ? "" : ", ") + std::string(name);
-    }
+    for (const AppletField& f : AppletFields())
+        if (f.text && CleanFieldInPlace(f.kind, model.*f.text))
+            names += (names.empty() ? "" : ", ") + std::string(f.name);
     if (!names.empty())
         lines.push_back(msg[Msg::AppletPrefix] + ": " + names);
     for (int i = 1; i <= model.ButtonCount; ++i) {
@@ -326,32 +231,25 @@ std::vector<std::string> cleanLoadedFields(ProjectModel& model) {
     return lines;
 }
 
-// Shared end of both readers: keep what was read completely, clean it and tell the user.
-bool finishLoad(ProjectModel& model, const std::string& path, UserInterface& ui,
-                const std::optional<LoadError>& error) {
-    ui.hideProgress();
-    if (error)
-        model.ButtonCount = static_cast<std::int16_t>(error->button >= 2 ? error->button - 1 : 0);
-    const std::vector<std::string> cleaned = cleanLoadedFields(model);
-    if (error)
-        ui.showWarning(Messages()[Msg::ErrorLoading] + std::string(kCrLf) + error->cause);
-    if (!cleaned.empty()) {
-        std::string text = Messages()[Msg::CharactersRemoved];
-        for (std::size_t i = 0; i < cleaned.size() && i < kCleanedLinesShown; ++i)
-            text.append(kCrLf).append(cleaned[i]);
-        if (cleaned.size() > kCleanedLinesShown)
-            text.append(kCrLf).append("...");
-        ui.showWarning(text);
+// Shared end of both readers: keep what was read completely and clean it.
+LoadResult finishLoad(ProjectModel& model, const std::string& path, ProgressView* progress,
+                      LoadResult result) {
+    if (progress)
+        progress->hideProgress();
+    if (result.error)
+        model.ButtonCount =
+            static_cast<std::int16_t>(result.error->button >= 2 ? result.error->button - 1 : 0);
+    result.cleaned = cleanLoadedFields(model);
+    if (!result.error) {
+        model.Saved = true;
+        model.ProjectFileName = path;
     }
-    if (error)
-        return false;
-    model.Saved = true;
-    model.ProjectFileName = path;
-    return true;
+    return result;
 }
 
-void startLoad(ProjectModel& model, UserInterface& ui) {
-    ui.showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::LoadingProject], -1);
+void startLoad(ProjectModel& model, ProgressView* progress) {
+    if (progress)
+        progress->showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::LoadingProject], -1);
     model.ButtonCount = 0;
     model.CurrentButton = 0;
     // Until the new file gives content, what is shown (the applet's background) is
@@ -363,9 +261,9 @@ void startLoad(ProjectModel& model, UserInterface& ui) {
 /// Room for the saved text, so that it is built without moving: the texts of the
 /// buttons (labels twice over, as their blanks grow when encoded) and their numbers.
 std::size_t expectedTextSize(const ProjectModel& model, int count) {
-    std::size_t size = 1024 + model.BackImg.size() + model.AppletProgramOVER.size() +
-                       model.AppletProgramDOWN.size() + model.AppletProgramOUT.size() +
-                       model.AppletProgramStart.size() + model.AppletName.size();
+    std::size_t size = 1024;
+    for (const AppletField& f : AppletFields())
+        size += f.text ? (model.*f.text).size() : 0;
     for (int i = 1; i <= count; ++i) {
         const ButtonRecord& r = model.Button(i);
         size += 400 + r.URL.size() + r.Status.size() + r.Target.size();
@@ -382,31 +280,20 @@ std::string ProjectHeader() {
     return std::string("Orvelin Project ") + kVersionText;
 }
 
-std::string ProjectText(const ProjectModel& model, UserInterface* progress) {
+std::string ProjectText(const ProjectModel& model, ProgressView* progress) {
     const int count = std::clamp<int>(model.ButtonCount, 0, kLastButtonSlot);
     std::string text;
     text.reserve(expectedTextSize(model, count));
     text += ProjectHeader();
     text += kCrLf;
-    // appletField only hands out pointers; reading through them does not modify.
-    auto& readable = const_cast<ProjectModel&>(model);
-    for (int pos = 0; pos < kAppletFieldCount; ++pos) {
-        const AppletFieldRef ref = appletField(readable, pos);
-        if (auto s = std::get_if<std::string*>(&ref))
-            text += **s;
-        else if (auto i16 = std::get_if<std::int16_t*>(&ref))
-            appendNumber(text, **i16);
-        else
-            appendNumber(text, *std::get<std::int32_t*>(ref));
+    for (const AppletField& f : AppletFields()) {
+        AppendFieldText(text, model, f);
         text += '|';
     }
     text += kCrLf;
     std::string progressLine;
     for (int i = 1; i <= count; ++i) {
-        if (progress) {
-            setProgressText(progressLine, Msg::SavingButton, i, count);
-            progress->showProgress(Messages()[Msg::PleaseWait], progressLine, percentOf(i, count));
-        }
+        showButtonProgress(progress, progressLine, Msg::SavingButton, i, count);
         AppendSerializedButton(text, model.Button(i));
         text += kCrLf;
     }
@@ -427,16 +314,18 @@ bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui
     return true;
 }
 
-bool LoadProject(ProjectModel& model, const std::string& path, UserInterface& ui) {
-    startLoad(model, ui);
-    const std::optional<LoadError> error = readProject(model, path, ui);
-    return finishLoad(model, path, ui, error);
+LoadResult LoadProject(ProjectModel& model, const std::string& path, ProgressView* progress) {
+    startLoad(model, progress);
+    LoadResult result;
+    result.error = readProject(model, path, progress, result);
+    return finishLoad(model, path, progress, std::move(result));
 }
 
-bool LoadProject_OLD(ProjectModel& model, const std::string& path, UserInterface& ui) {
-    startLoad(model, ui);
-    const std::optional<LoadError> error = readLegacyProject(model, path, ui);
-    return finishLoad(model, path, ui, error);
+LoadResult LoadProject_OLD(ProjectModel& model, const std::string& path, ProgressView* progress) {
+    startLoad(model, progress);
+    LoadResult result;
+    result.error = readLegacyProject(model, path, progress);
+    return finishLoad(model, path, progress, std::move(result));
 }
 
 } // namespace orvelin

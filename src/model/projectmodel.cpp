@@ -4,10 +4,60 @@
 
 namespace orvelin {
 
-ButtonState ProjectModel::EditedState() const {
-    ButtonState state = ButtonState::UP;
-    StateFromName(CurrentState, state);
-    return state;
+namespace {
+
+using P = ProjectModel;
+using K = FieldKind;
+// clang-format off
+constexpr std::array<AppletField, kAppletFieldCount> kAppletFields = {{
+    Field<P>("AppletWidth", K::Int16, &P::AppletWidth),                    //  0
+    Field<P>("AppletHeight", K::Int16, &P::AppletHeight),                  //  1
+    Field<P>("ButtonCount", K::Int16, &P::ButtonCount),                    //  2
+    Field<P>("Behaviour", K::Int16, &P::Behaviour),                        //  3
+    Field<P>("DOWNBtn", K::Int16, &P::DOWNBtn),                            //  4
+    Field<P>("BackGround", K::Color, &P::BackGround),                      //  5
+    Field<P>("BackImg", K::File, &P::BackImg),                   //  6
+    Field<P>("BackImgStyle", K::Int16, &P::BackImgStyle),                  //  7
+    Field<P>("AppletProgramOVER", K::Raw, &P::AppletProgramOVER),  //  8
+    Field<P>("AppletProgramDOWN", K::Raw, &P::AppletProgramDOWN),  //  9
+    Field<P>("AppletProgramOUT", K::Raw, &P::AppletProgramOUT),    // 10
+    Field<P>("BgOffsetX", K::Int16, &P::BgOffsetX),                        // 11
+    Field<P>("BgOffsetY", K::Int16, &P::BgOffsetY),                        // 12
+    Field<P>("AppletProgramStart", K::Raw, &P::AppletProgramStart), // 13
+    Field<P>("AppletName", K::Raw, &P::AppletName),              // 14
+}};
+static_assert(KindsMatchMembers(kAppletFields));
+
+constexpr const AppletField* at(int pos) { return &kAppletFields[static_cast<std::size_t>(pos)]; }
+
+const std::array<AppletParameterField, kAppletParameterFieldCount> kAppletParameterFields = {{
+    {at(14), nullptr}, {at(2), nullptr}, {at(3), nullptr}, {at(4), nullptr},
+    {at(5), nullptr},  {at(6), nullptr}, {at(7), nullptr},
+    {nullptr, "0"},
+    {nullptr, ""},     // reserved for the applet build; kept empty
+    {at(8), nullptr},  {at(9), nullptr}, {at(10), nullptr},
+    {at(11), nullptr}, {at(12), nullptr},
+    {nullptr, "\\n"}, // the applet reads a literal backslash-n here, not a line break
+    {at(13), nullptr},
+    {nullptr, ""},     // reserved for the applet build; kept empty
+}};
+// clang-format on
+
+} // namespace
+
+const std::array<AppletField, kAppletFieldCount>& AppletFields() {
+    return kAppletFields;
+}
+
+const std::array<AppletParameterField, kAppletParameterFieldCount>& AppletParameterFields() {
+    return kAppletParameterFields;
+}
+
+const AppletField* AppletFieldNamed(std::string_view name) {
+    for (const AppletField& f : kAppletFields)
+        if (name == f.name)
+            return &f;
+    return nullptr;
 }
 
 void ProjectModel::Reset() {

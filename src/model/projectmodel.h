@@ -45,7 +45,7 @@ struct ProjectModel : AppletSettings {
 
     // Editing state.
     std::int16_t CurrentButton = 0;
-    std::string CurrentState = "UP";
+    ButtonState CurrentState = ButtonState::UP; ///< the state being edited
     std::string ProjectFileName;
     /// The file a reader last took content from, named or not (a load that failed part
     /// way keeps the buttons read so far but no file name).
@@ -64,9 +64,6 @@ struct ProjectModel : AppletSettings {
     const ButtonRecord& Button(int index) const {
         return Buttons.at(static_cast<std::size_t>(index));
     }
-
-    /// The state being edited; "UP" when CurrentState holds anything else.
-    ButtonState EditedState() const;
 
     /// The new-project reset: no buttons, no background image, no applet programs,
     /// no file name, saved. Size, colour, placement, offset, behaviour and name stay.
@@ -92,6 +89,28 @@ struct ProjectModel : AppletSettings {
      */
     std::string* ProgramSlot(std::string_view kind, int button);
 };
+
+using AppletField = RecordField<ProjectModel>;
+inline constexpr int kAppletFieldCount = 15;
+
+/**
+ * The applet settings in the order of a project file's applet line (the reader takes
+ * the name from one field further on, see LoadProject). Text fields are written as
+ * they are there; the kinds say how the applet parameter writes them.
+ */
+const std::array<AppletField, kAppletFieldCount>& AppletFields();
+
+/// One field of the applet parameter "p": a setting, or a fixed text where `field` is null.
+struct AppletParameterField {
+    const AppletField* field;
+    const char* fixed;
+};
+inline constexpr int kAppletParameterFieldCount = 17;
+/// The 17 fields of "p" in the order the applet reads them.
+const std::array<AppletParameterField, kAppletParameterFieldCount>& AppletParameterFields();
+
+/// The applet field called `name`; nullptr for none.
+const AppletField* AppletFieldNamed(std::string_view name);
 
 /// True for "ProgramUP", "ProgramOVER" and "ProgramDOWN".
 bool IsButtonProgramKind(std::string_view kind);

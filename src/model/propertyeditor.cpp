@@ -49,7 +49,7 @@ PropertyEditor::PropertyEditor(ProjectModel& model, ButtonList& list, UserInterf
 void PropertyEditor::ForSelected(const std::function<void(ButtonRecord&, ButtonState)>& change) {
     if (m_model.Updating)
         return;
-    const ButtonState state = m_model.EditedState();
+    const ButtonState state = m_model.CurrentState;
     bool changed = false;
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         if (!m_list.isSelected(i))

@@ -5,16 +5,24 @@
 
 namespace orvelin {
 
+/// The modeless progress window with the busy pointer, which long reads and writes
+/// keep up to date.
+class ProgressView {
+public:
+    virtual ~ProgressView() = default;
+    /// `percent` is -1 for none.
+    virtual void showProgress(const std::string& title, const std::string& text, int percent) = 0;
+    virtual void hideProgress() = 0;
+};
+
 /**
  * All the core ever asks of the person in front of it. The Qt layer implements it
  * with message boxes, file dialogs and the progress window; tests with a scripted
  * fake that records every question.
  */
-class UserInterface {
+class UserInterface : public ProgressView {
 public:
     enum class Answer { Yes, No, Cancel, Ok };
-
-    virtual ~UserInterface() = default;
 
     /// A message with an OK button. An empty title means the program's default title.
     virtual void showMessage(const std::string& text, const std::string& title = {}) = 0;
@@ -40,10 +48,6 @@ public:
         chosenFilter.clear();
         return chooseSaveFile(filter, proposed);
     }
-
-    /// The modeless progress window with the busy pointer; `percent` is -1 for none.
-    virtual void showProgress(const std::string& title, const std::string& text, int percent) = 0;
-    virtual void hideProgress() = 0;
 };
 
 /// A user interface that shows nothing and cancels every question; for code that

@@ -6,6 +6,7 @@
 #include "texthelpers.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <string>
 
@@ -14,6 +15,22 @@ namespace orvelin {
 namespace {
 
 constexpr char kDq = '"';
+
+/// Removes from `out`, after `start`, what a Raw field cannot hold.
+void cleanTail(std::string& out, std::size_t start) {
+    // FieldCanHold as a table: every byte of every parameter passes here.
+    static const std::array<bool, 256> refusedBytes = [] {
+        std::array<bool, 256> table{};
+        for (std::size_t b = 0; b < table.size(); ++b)
+            table[b] = !FieldCanHold(FieldKind::Raw, static_cast<char>(b));
+        return table;
+    }();
+    const auto refused = [](char c) { return refusedBytes[static_cast<unsigned char>(c)]; };
+    const auto first =
+        std::find_if(out.begin() + static_cast<std::ptrdiff_t>(start), out.end(), refused);
+    if (first != out.end())
+        out.erase(std::remove_if(first, out.end(), refused), out.end());
+}
 
 /// Every occurrence, left to right, in one pass: an applet name that itself holds
 /// "AppletName" must not be expanded again.
@@ -64,14 +81,9 @@ void closeParam(std::string& out) {
 /// end it, a "|" shift the fields, a line break split the line): whatever the model holds,
 /// every parameter stays inside its quotes with its fields in place.
 void appendParameterText(std::string& out, std::string_view text) {
-    const auto holds = [](char c) { return FieldCanHold(FieldKind::Raw, c); };
-    if (std::all_of(text.begin(), text.end(), holds)) {
-        out.append(text);
-        return;
-    }
-    for (const char c : text)
-        if (holds(c))
-            out += c;
+    const std::size_t start = out.size();
+    out.append(text);
+    cleanTail(out, start);
 }
 
 // The field writers below each add one field in its applet encoding and the "|"
@@ -90,81 +102,56 @@ void integer(std::string& out, std::int32_t number) {
 }
 
 void text(std::string& out, std::string_view field) {
-    raw(out, EncodeLabel(field));
+    const std::size_t start = out.size();
+    AppendEncodedLabel(out, field);
+    cleanTail(out, start);
+    out += '|';
 }
 
 void fileName(std::string& out, std::string_view path) {
-    raw(out, EncodedFileName(path));
+    text(out, path.substr(path.find_last_of("/\\") + 1)); // the bare name, see EncodedFileName
 }
 
 void colour(std::string& out, std::int32_t value) {
     raw(out, ColorToWeb(value));
 }
 
-void appendAppletValue(std::string& out, const ProjectModel& m) {
-    raw(out, m.AppletName);
-    integer(out, m.ButtonCount);
-    integer(out, m.Behaviour);
-    integer(out, m.DOWNBtn);
-    colour(out, m.BackGround);
-    fileName(out, m.BackImg);
-    integer(out, m.BackImgStyle);
-    raw(out, "0");
-    raw(out, ""); // reserved for the applet build; kept empty
-    raw(out, m.AppletProgramOVER);
-    raw(out, m.AppletProgramDOWN);
-    raw(out, m.AppletProgramOUT);
-    integer(out, m.BgOffsetX);
-    integer(out, m.BgOffsetY);
-    raw(out, "\\n"); // the applet reads a literal backslash-n here, not a line break
-    raw(out, m.AppletProgramStart);
-    raw(out, ""); // reserved for the applet build; kept empty
+/// Field `f` of `record` as the applet reads it, followed by its "|".
+template <typename R> void appendField(std::string& out, const R& record, const RecordField<R>& f) {
+    switch (f.kind) {
+    case FieldKind::Int16:
+        integer(out, record.*f.number);
+        return;
+    case FieldKind::Color:
+        colour(out, record.*f.colour);
+        return;
+    case FieldKind::Label:
+    case FieldKind::Text:
+        text(out, record.*f.text);
+        return;
+    case FieldKind::File:
+        fileName(out, record.*f.text);
+        return;
+    case FieldKind::Raw:
+        raw(out, record.*f.text);
+        return;
+    }
 }
 
-/**
- * The 50 fields in the order of the button record, written member by member rather
- * than through the generic field table: a full project has 5050 of them, and this
- * keeps generation close to the cost of copying its bytes.
- */
-void appendButtonValue(std::string& out, const ButtonRecord& b) {
-    constexpr ButtonState kStates[] = {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN};
-    integer(out, b.x);
-    integer(out, b.y);
-    integer(out, b.Width);
-    integer(out, b.Height);
-    for (ButtonState s : kStates)
-        text(out, b.Label(s));
-    text(out, b.URL);
-    text(out, b.Status);
-    text(out, b.Target);
-    integer(out, b.Border);
-    integer(out, b.noBackGround);
-    integer(out, b.ShowHand);
-    for (ButtonState s : kStates)
-        fileName(out, b.Image(s));
-    for (ButtonState s : kStates)
-        colour(out, b.BackColor(s));
-    for (ButtonState s : kStates)
-        colour(out, b.FontColor(s));
-    for (ButtonState s : kStates)
-        raw(out, b.Font(s));
-    for (ButtonState s : kStates)
-        raw(out, b.FontStyle(s));
-    for (ButtonState s : kStates)
-        integer(out, b.FontSize(s));
-    for (ButtonState s : kStates)
-        fileName(out, b.Sound(s));
-    for (ButtonState s : kStates)
-        integer(out, b.ImgStyle(s));
-    for (ButtonState s : kStates)
-        integer(out, b.PositionText(s));
-    for (ButtonState s : kStates) {
-        integer(out, b.LabelPosX(s));
-        integer(out, b.LabelPosY(s));
+void appendAppletValue(std::string& out, const ProjectModel& m, std::string_view appletName) {
+    for (const AppletParameterField& p : AppletParameterFields()) {
+        if (!p.field)
+            raw(out, p.fixed);
+        else if (p.field->text == &ProjectModel::AppletName)
+            raw(out, appletName); // the name this page gives, which the model may lack
+        else
+            appendField(out, m, *p.field);
     }
-    integer(out, b.Hidden);
-    for (ButtonState s : kStates)
-        raw(out, b.Program(s));
+}
+
+void appendButtonValue(std::string& out, const ButtonRecord& b) {
+    for (const ButtonField& f : ButtonFields())
+        appendField(out, b, f);
 }
 
 } // namespace
@@ -221,25 +208,14 @@ std::string GetJSCaller(std::string_view appletName) {
     return JSCallerFromFile(JoinPath(ProgramFolder(), "Orvel.ini"), appletName);
 }
 
-std::string AppletParameterValue(const ProjectModel& model) {
-    std::string value;
-    appendAppletValue(value, model);
-    return value;
-}
-
-std::string ButtonParameterValue(const ButtonRecord& button) {
-    std::string value;
-    appendButtonValue(value, button);
-    return value;
-}
-
-GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
+const std::string& NameTheApplet(ProjectModel& model) {
     if (model.AppletName.empty())
         model.AppletName = DefaultAppletName(model.ProjectFileName);
+    return model.AppletName;
+}
 
-    if (progress)
-        progress->showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::GeneratingHtml], -1);
-
+GeneratedHtml MakeHTML(const ProjectModel& model, std::string_view appletName,
+                       std::string_view jsCaller) {
     GeneratedHtml result;
     std::string& out = result.text;
     out.reserve(1024 + static_cast<std::size_t>(model.ButtonCount) * 768);
@@ -250,7 +226,7 @@ GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
     out.append(kCrLf);
 
     out.append("<applet name = \"");
-    appendParameterText(out, model.AppletName);
+    appendParameterText(out, appletName);
     out.append("\" code=\"");
     out.append(kAppletClassFile);
     out.append("\" archive=\"");
@@ -273,7 +249,7 @@ GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
     closeParam(out);
 
     openParam(out, "p");
-    appendAppletValue(out, model);
+    appendAppletValue(out, model, appletName);
     closeParam(out);
 
     for (int i = 1; i <= LastButton(model); ++i) {
@@ -285,12 +261,9 @@ GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress) {
 
     result.usesJavaScript = UsesJavaScript(model);
     if (result.usesJavaScript)
-        appendLine(out, GetJSCaller(model.AppletName));
+        appendLine(out, jsCaller);
 
     appendLine(out, "<!-- END GENERATED CODE -->");
-
-    if (progress)
-        progress->hideProgress();
     return result;
 }
 

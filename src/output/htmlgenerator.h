@@ -1,7 +1,6 @@
 #pragma once
 
 #include "projectmodel.h"
-#include "userinterface.h"
 
 #include <string>
 #include <string_view>
@@ -32,11 +31,15 @@ struct GeneratedHtml {
 };
 
 /**
- * Regenerates the applet code for `model`. Changes nothing in the model except an
- * empty AppletName, which gets its default first (see DefaultAppletName). The
- * progress window, when given, is shown while generating.
+ * The applet code for `model`, the applet named `appletName` in the tag and in "p";
+ * `jsCaller` (see GetJSCaller) follows the tag when a button calls JavaScript.
  */
-GeneratedHtml MakeHTML(ProjectModel& model, UserInterface* progress = nullptr);
+GeneratedHtml MakeHTML(const ProjectModel& model, std::string_view appletName,
+                       std::string_view jsCaller);
+
+/// The applet name a page is made with: an unnamed applet first gets its default
+/// (DefaultAppletName), which the model keeps.
+const std::string& NameTheApplet(ProjectModel& model);
 
 /**
  * The name an unnamed applet gets: "Orvelin" for a project without a file, else the
@@ -68,10 +71,5 @@ std::string EncodedFileName(std::string_view path);
 
 /// The last button the applet code holds: ButtonCount, kept inside the button table.
 int LastButton(const ProjectModel& model);
-
-/// The value of the applet parameter "p" (17 fields, each followed by "|").
-std::string AppletParameterValue(const ProjectModel& model);
-/// The value of a button's parameter (its 50 fields as the applet reads them).
-std::string ButtonParameterValue(const ButtonRecord& button);
 
 } // namespace orvelin

@@ -111,7 +111,7 @@ TEST(FrmDesign, MovingAButtonThroughRedrawButtonPaintsItOnce) {
 
 TEST(FrmDesign, RedrawFollowsTheEditedStateAndTheSelection) {
     Window w(2);
-    w.model.CurrentState = "DOWN";
+    w.model.CurrentState = ButtonState::DOWN;
     w.list.addSelection(2);
     w.design.RedrawAll();
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 0, 0));

@@ -46,7 +46,8 @@ TEST(FrmHTML, ShowsAndCopiesExactlyTheGeneratedCodeAndNamesTheAppletAsTyped) {
 
     window.findChild<QPushButton*>("btnReGenerate")->click();
     window.findChild<QPushButton*>("btnCopyToClb")->click();
-    const std::string expected = MakeHTML(model).text;
+    const std::string expected =
+        MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName)).text;
     EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), expected);
     EXPECT_NE(expected.find("<applet name = \"My_Menu\""), std::string::npos);
 }

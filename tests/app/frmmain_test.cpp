@@ -211,7 +211,7 @@ TEST(PropertyPanel, StateButtonsShowThatStatesValuesAndRetitleTheActionCommand) 
     EXPECT_EQ(w.find<QPushButton>("btnSetAction")->text(),
               QStringLiteral("Set Action: On Leaving Button..."));
     w.click("btnDOWN");
-    EXPECT_EQ(w.model.CurrentState, "DOWN");
+    EXPECT_EQ(w.model.CurrentState, ButtonState::DOWN);
     EXPECT_TRUE(w.find<QPushButton>("btnDOWN")->isChecked());
     EXPECT_EQ(w.find<QPushButton>("btnSetAction")->text(),
               QStringLiteral("Set Action: On Button Press..."));

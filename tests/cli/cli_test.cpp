@@ -65,11 +65,12 @@ protected:
     static std::string Generated(const std::string& project, const std::string& typedName = {}) {
         SilentUserInterface ui;
         ProjectModel model;
-        if (!LoadProject(model, project, ui))
+        if (!LoadProject(model, project).loaded())
             return "<not loaded>";
         if (!typedName.empty())
             SetAppletNameFromBox(model, typedName);
-        return MakeHTML(model).text;
+        const std::string& name = NameTheApplet(model);
+        return MakeHTML(model, name, GetJSCaller(name)).text;
     }
     std::string path(const std::string& name) const { return dir.path(name); }
 
@@ -211,7 +212,7 @@ TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSave) {
     EXPECT_EQ(run.out, "");
     SilentUserInterface ui;
     ProjectModel model;
-    ASSERT_TRUE(LoadProject(model, kExample, ui));
+    ASSERT_TRUE(LoadProject(model, kExample).loaded());
     EXPECT_EQ(dir.read("copy.orv"), ProjectText(model));
     // Under the same name the copy makes the same applet code, and saving it again
     // changes nothing.
@@ -241,7 +242,7 @@ TEST_F(OrvelinCli, LegacyOptionReadsTheIniFormat) {
     ASSERT_EQ(run.status, 0) << run.err;
     SilentUserInterface ui;
     ProjectModel model;
-    ASSERT_TRUE(LoadProject_OLD(model, path("old.ini"), ui));
+    ASSERT_TRUE(LoadProject_OLD(model, path("old.ini")).loaded());
     EXPECT_EQ(dir.read("new.orv"), ProjectText(model));
 }
 

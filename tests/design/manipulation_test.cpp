@@ -300,7 +300,7 @@ TEST(DragSizer, OnlyTheHeldHandleMoves) {
 
 TEST(LabelPositioner, DraggingSetsTheEditedStatesPositionAndTurnsCenteringOff) {
     Surface s(3);
-    s.model.CurrentState = "OVER";
+    s.model.CurrentState = ButtonState::OVER;
     s.list.addSelection(2);
     PositionerState p;
     PressLabelPositioner(p, 2, 2);

@@ -119,13 +119,13 @@ TEST(RenderSurface, PaintsTheBackgroundThenTheButtonsInZOrderEachInItsState) {
     model.Button(2).y = 20;
     model.Button(2).BackColorUP = 0xFF0000; // later, so on top
     model.Button(2).BackColorOVER = 0x00FF00;
-    const QImage surface = RenderSurface(model, "UP");
+    const QImage surface = RenderSurface(model, ButtonState::UP);
     EXPECT_EQ(surface.size(), QSize(120, 60));
     EXPECT_EQ(Pixel(surface, 0, 0), 0u);
     EXPECT_EQ(Pixel(surface, 15, 15), kRed);
     EXPECT_EQ(Pixel(surface, 35, 25), kBlue);
     EXPECT_EQ(Pixel(surface, 60, 40), 0u);
-    EXPECT_EQ(Pixel(RenderSurface(model, "OVER"), 35, 25), kGreen);
+    EXPECT_EQ(Pixel(RenderSurface(model, ButtonState::OVER), 35, 25), kGreen);
 }
 
 TEST(RenderSurface, ClipsEachButtonToItsRectangle) {
@@ -134,7 +134,7 @@ TEST(RenderSurface, ClipsEachButtonToItsRectangle) {
     model.Button(1).y = 20;
     model.Button(1).LabelUP = "WWWWWWWWWWWWWWWWWWWW"; // far wider than the button
     model.Button(1).BackColorUP = 0x00FF00;
-    const QImage surface = RenderSurface(model, "UP");
+    const QImage surface = RenderSurface(model, ButtonState::UP);
     EXPECT_EQ(Pixel(surface, 45, 22), kGreen);
     EXPECT_TRUE(InkBox(surface, 0, QRect(0, 0, 40, 60)).isEmpty());
     EXPECT_TRUE(InkBox(surface, 0, QRect(70, 0, 50, 60)).isEmpty());
@@ -153,7 +153,7 @@ TEST(RenderSurface, ATransparentButtonShowsTheBackgroundButNotTheButtonsBelow) {
     model.Button(2).x = 25;
     model.Button(2).y = 15;
     model.Button(2).noBackGround = 1;
-    const QImage surface = RenderSurface(model, "UP");
+    const QImage surface = RenderSurface(model, ButtonState::UP);
     ImageCache images;
     images.setProjectFile(model.ProjectFileName);
     EXPECT_EQ(surface.copy(25, 15, 30, 20).convertToFormat(QImage::Format_RGB32),

@@ -201,7 +201,7 @@ TEST(ProjectModel, CorruptDefaultLeavesTheModelUnchanged) {
     EXPECT_EQ(model.Button(2), Unusual());
 }
 
-TEST(ProjectModel, ProgramSlotsNameTheSevenProgramsAndTheEditedStateFallsBackToUp) {
+TEST(ProjectModel, ProgramSlotsNameTheSevenPrograms) {
     ProjectModel model;
     EXPECT_EQ(model.ProgramSlot("ProgramOVER", 3), &model.Button(3).ProgramOVER);
     EXPECT_EQ(model.ProgramSlot("ProgramDOWN", 1), &model.Button(1).ProgramDOWN);
@@ -212,8 +212,4 @@ TEST(ProjectModel, ProgramSlotsNameTheSevenProgramsAndTheEditedStateFallsBackToU
     EXPECT_EQ(model.ProgramSlot("Program", 1), nullptr);
     EXPECT_TRUE(IsButtonProgramKind("ProgramUP") && IsAppletProgramKind("AppletProgramDOWN"));
     EXPECT_FALSE(IsButtonProgramKind("AppletProgramOVER"));
-    model.CurrentState = "OVER";
-    EXPECT_EQ(model.EditedState(), ButtonState::OVER);
-    model.CurrentState = "sideways";
-    EXPECT_EQ(model.EditedState(), ButtonState::UP);
 }

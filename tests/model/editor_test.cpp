@@ -102,7 +102,7 @@ TEST_F(EditorFixture, StartupWithAnEmptyStoreShowsOneSavedButton) {
     settings.setFlag(SettingKey::AutoTile, false);
     ASSERT_EQ(editor.Startup(""), StartupResult::Ready);
     EXPECT_EQ(Shown(), "1 buttons, current 1, list 1 selecting 1, saved");
-    EXPECT_EQ(model.CurrentState, "UP");
+    EXPECT_EQ(model.CurrentState, ButtonState::UP);
     EXPECT_EQ(model.Button(1), ButtonRecord{});
     EXPECT_EQ(view.caption, kTitle);
     EXPECT_EQ(view.actionTitle, "Set Action: On Leaving Button...");
@@ -267,8 +267,8 @@ TEST_F(EditorFixture, SwitchingTheStateRetitlesTheActionAndShowsThatState) {
         {"UP", "UP", "Set Action: On Leaving Button..."}};
     for (const auto& [state, shown, title] : states) {
         editor.SwitchState(state);
-        EXPECT_EQ(model.CurrentState, shown);
-        EXPECT_EQ(StateName(view.state), std::string(shown));
+        EXPECT_EQ(StateName(model.CurrentState), std::string(shown));
+        EXPECT_EQ(view.state, model.CurrentState);
         EXPECT_EQ(view.actionTitle, title);
         EXPECT_EQ(editor.ActionProgramKind(), "Program" + std::string(shown));
         EXPECT_EQ(view.props.back().state, shown);

@@ -82,7 +82,7 @@ public:
     std::function<void()> onFill;
 
     void ShowProp(int index, const std::string& text) override {
-        props.push_back({index, text, m_model.CurrentState, m_model.Updating});
+        props.push_back({index, text, StateName(m_model.CurrentState), m_model.Updating});
         if (onFill)
             onFill();
     }

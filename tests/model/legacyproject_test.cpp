@@ -33,8 +33,7 @@ TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLack
     model.BgOffsetX = 4;
     model.AppletProgramStart = "ShowButton(1);";
     model.AppletName = "menu";
-    ASSERT_TRUE(LoadProject_OLD(model, kFixture, ui));
-    EXPECT_TRUE(ui.messages().empty());
+    ASSERT_TRUE(LoadProject_OLD(model, kFixture, &ui).loaded());
     EXPECT_EQ(std::tie(model.ButtonCount, model.BackGround, model.Behaviour, model.DOWNBtn,
                        model.AppletWidth, model.AppletHeight, model.BackImg, model.BackImgStyle,
                        model.BgOffsetX, model.AppletProgramStart, model.AppletName),
@@ -66,7 +65,7 @@ TEST_F(LegacyProjectTest, MissingKeysTakeTheOldFormatsDefaults) {
     // These differ from a new button's on purpose: size 0, no target, black.
     model.Button(2).Width = 50;
     model.Button(2).Target = "_blank";
-    ASSERT_TRUE(LoadProject_OLD(model, kFixture, ui));
+    ASSERT_TRUE(LoadProject_OLD(model, kFixture, &ui).loaded());
     ButtonRecord expected;
     expected.x = 120;
     expected.LabelUP = "Second";
@@ -77,7 +76,8 @@ TEST_F(LegacyProjectTest, MissingKeysTakeTheOldFormatsDefaults) {
     EXPECT_EQ(model.Button(2), expected);
 
     model.AppletWidth = 300;
-    EXPECT_TRUE(LoadProject_OLD(model, folder.write("other.ini", "[Other]\nButtonCount=4\n"), ui));
+    EXPECT_TRUE(LoadProject_OLD(model, folder.write("other.ini", "[Other]\nButtonCount=4\n"), &ui)
+                    .loaded());
     EXPECT_EQ(model.ButtonCount, 0) << "a file without the section is an empty project";
     EXPECT_EQ(model.AppletWidth, 510);
 }
@@ -94,10 +94,11 @@ TEST_F(LegacyProjectTest, DamagedFilesKeepTheButtonsBeforeTheDamage) {
         FakeUserInterface fresh;
         ProjectModel loaded;
         const std::string path = text ? folder.write("old.ini", text) : folder.path("gone.ini");
-        EXPECT_FALSE(LoadProject_OLD(loaded, path, fresh)) << cause;
+        const LoadResult result = LoadProject_OLD(loaded, path, &fresh);
+        ASSERT_TRUE(result.error) << cause;
+        EXPECT_EQ(result.error->cause, cause);
         EXPECT_EQ(loaded.ButtonCount, kept) << cause;
         EXPECT_EQ(loaded.Button(kept).x, kept);
-        EXPECT_EQ(fresh.messages(), Texts{"Error loading project.\r\n" + std::string(cause)});
         EXPECT_EQ(loaded.ProjectFileName, "");
         EXPECT_FALSE(fresh.progressVisible);
     }

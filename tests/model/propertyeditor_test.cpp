@@ -39,7 +39,7 @@ struct PropertyFixture : ::testing::Test {
 
 TEST_F(PropertyFixture, FontColourInOverChangesOnlyThatFieldOfEverySelectedButton) {
     MakeButtons(4, {1, 2, 3}, 2);
-    model.CurrentState = "OVER";
+    model.CurrentState = ButtonState::OVER;
     props.SetFontColor(0x123456);
     ButtonRecord expected;
     expected.FontColorOVER = 0x123456;
@@ -53,7 +53,7 @@ TEST_F(PropertyFixture, FontColourInOverChangesOnlyThatFieldOfEverySelectedButto
 
 TEST_F(PropertyFixture, EverySetterWritesItsFieldOfTheSelectedButtonsInTheEditedState) {
     MakeButtons(3, {1, 3}, 3);
-    model.CurrentState = "DOWN";
+    model.CurrentState = ButtonState::DOWN;
     props.SetLabel("Go\\nthere");
     props.SetLabelPosX("7");
     props.SetLabelPosY("8");
@@ -140,7 +140,7 @@ TEST_F(PropertyFixture, FillingThePanelDoesNotCountAsAnEdit) {
 
 TEST_F(PropertyFixture, PositionTextAndCenterTextAreOneFlagAndRefreshThePanel) {
     MakeButtons(3, {2, 3}, 3);
-    model.CurrentState = "OVER";
+    model.CurrentState = ButtonState::OVER;
     props.SetPositionText(true);
     EXPECT_EQ((std::vector<int>{model.Button(1).PositionTextOVER, model.Button(2).PositionTextOVER,
                                 model.Button(3).PositionTextOVER, model.Button(3).PositionTextUP}),
@@ -210,7 +210,7 @@ TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsO
 
 TEST_F(PropertyFixture, ChosenImagesAndSoundsGoIntoTheEditedStateAndShow) {
     MakeButtons(2, {1, 2}, 2);
-    model.CurrentState = "OVER";
+    model.CurrentState = ButtonState::OVER;
     ui.chosenFiles = {"/i/over.gif", "/s/over.au", std::nullopt};
     props.BrowseImage();
     props.BrowseSound();

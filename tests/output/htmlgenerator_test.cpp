@@ -1,11 +1,9 @@
-#include "fakeui.h"
 #include "htmlgenerator.h"
 #include "programfolder.h"
 #include "projectmodel.h"
 #include "tempfolder.h"
 #include "textfile.h"
 
-#include <cstdio>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <random>
@@ -57,6 +55,13 @@ const std::string kTail = "</applet>\r\n<!-- END GENERATED CODE -->\r\n";
 
 TEST_F(HtmlGenerator, KnownProjectGivesExactText) {
     ProjectModel model = Project(2);
+    ButtonRecord& b = model.Button(1);
+    b.LabelOVER = "a|\"b\";\\n";
+    b.URL = "x y.htm";
+    b.ImageUP = "C:\\web\\img\\home up.gif";
+    b.SndUP = "D:\\snd/mixed\\click.au";
+    b.BackColorOVER = 0x00AB;
+    b.FontColorDOWN = 1048575; // no six-digit form: empty
     model.Button(2).x = 120;
     model.Button(2).y = -8;
     model.Button(2).LabelUP = "Go on";
@@ -72,7 +77,7 @@ TEST_F(HtmlGenerator, KnownProjectGivesExactText) {
     model.AppletProgramStart = "6 2.5;";
     model.BgOffsetX = -3;
     model.BgOffsetY = 12;
-    const GeneratedHtml html = MakeHTML(model);
+    const GeneratedHtml html = MakeHTML(model, "Nav", "\r\nnot used");
     EXPECT_EQ(html.text,
               kHead +
                   "<applet name = \"Nav\" code=\"Orvel1b6.class\" archive=\"Orvel1b6.jar\" "
@@ -80,9 +85,9 @@ TEST_F(HtmlGenerator, KnownProjectGivesExactText) {
                   kNotice +
                   "<Param Name=\"p\" value=\"Nav|2|1|-1|FFFFFF|back.gif|1|0||5 1 2 FF8000;|7 0 "
                   "go()&y01;|1 1;|-3|12|\\n|6 2.5;||\">\r\n"
-                  "<Param Name=\"1\" value=\"0|0|107|40||||||_self|1|0|0||||FFFF00|00FFFF|FF0000|"
-                  "000000|0000FF|FFFFFF|Arial|Arial|Arial|0|0|0|10|10|10||||0|0|0|0|0|0|53|25|53|"
-                  "31|53|37|0||||\">\r\n"
+                  "<Param Name=\"1\" value=\"0|0|107|40||aI&y02b&y02;\\n||x&nbspy.htm||_self|1|0|"
+                  "0|home&nbspup.gif|||FFFF00|AB0000|FF0000|000000|0000FF||Arial|Arial|Arial|0|0|0|"
+                  "10|10|10|click.au|||0|0|0|0|0|0|53|25|53|31|53|37|0||||\">\r\n"
                   "<Param Name=\"2\" value=\"120|-8|107|40|Go&nbspon|||||_self|1|0|0||||FFFF00|"
                   "00FFFF|FF0000|000000|0000FF|FFFFFF|Arial|Arial|Arial|0|0|0|10|10|10||||0|0|0|0|"
                   "0|0|53|25|53|31|53|37|0|||2 1;6 500;|\">\r\n" +
@@ -93,7 +98,7 @@ TEST_F(HtmlGenerator, KnownProjectGivesExactText) {
     ProjectModel empty = Project(0);
     empty.AppletWidth = 300;
     empty.AppletHeight = 45;
-    EXPECT_EQ(MakeHTML(empty).text,
+    EXPECT_EQ(MakeHTML(empty, "Nav", "").text,
               kHead +
                   "<applet name = \"Nav\" code=\"Orvel1b6.class\" archive=\"Orvel1b6.jar\" "
                   "width=300 height=45 MAYSCRIPT>\r\n" +
@@ -101,82 +106,18 @@ TEST_F(HtmlGenerator, KnownProjectGivesExactText) {
                   "<Param Name=\"p\" value=\"Nav|0|0|0|000000||0|0|||||0|0|\\n|||\">\r\n" + kTail);
 }
 
-TEST_F(HtmlGenerator, EveryButtonFieldLandsAtItsRecordPositionInItsEncoding) {
-    const Fields plain = Split(ButtonParameterValue(ButtonRecord{}));
-    ASSERT_EQ(plain.size(), 50u);
-    for (int pos = 0; pos < kButtonFieldCount; ++pos) {
-        const auto& field = ButtonFields()[static_cast<std::size_t>(pos)];
-        SCOPED_TRACE(field.name);
-        std::string stored, expected;
-        switch (field.kind) {
-        case FieldKind::Int16:
-            stored = expected = std::to_string(-100 - pos);
-            break;
-        case FieldKind::Color: {
-            // Blue 0x13, green 0x02, red 0x20 + pos: six hexadecimal digits.
-            stored = std::to_string(0x130220 + pos);
-            char red[3];
-            std::snprintf(red, sizeof red, "%02X", 0x20 + pos);
-            expected = std::string(red) + "0213";
-            break;
-        }
-        case FieldKind::Label:
-        case FieldKind::Text: // ";" and a literal \n stay as they are
-            stored = "f " + std::to_string(pos) + "|\";\\n";
-            expected = "f&nbsp" + std::to_string(pos) + "I&y02;\\n";
-            break;
-        case FieldKind::File:
-            stored = "C:\\d\\f " + std::to_string(pos) + ".gif";
-            expected = "f&nbsp" + std::to_string(pos) + ".gif";
-            break;
-        case FieldKind::Raw:
-            stored = expected = "raw " + std::to_string(pos) + ";";
-            break;
-        }
-        ButtonRecord record;
-        ASSERT_FALSE(SetFieldText(record, pos, stored));
-        Fields fields = plain;
-        fields[static_cast<std::size_t>(pos)] = expected;
-        EXPECT_EQ(Split(ButtonParameterValue(record)), fields);
-    }
-}
-
-TEST_F(HtmlGenerator, ColoursAreWebColoursOrEmptyWhenTheyHaveNoSixDigitForm) {
-    ProjectModel model = Project(1);
-    model.BackGround = 256;
-    model.Button(1).BackColorOVER = 0x00AB;
-    model.Button(1).FontColorDOWN = 1048575;
-    EXPECT_EQ(Split(AppletParameterValue(model))[4], "");
-    const Fields button = Split(ButtonParameterValue(model.Button(1)));
-    EXPECT_EQ(button[17] + "/" + button[21], "AB0000/");
-}
-
-TEST_F(HtmlGenerator, FilesArriveAsTheirEncodedBareNames) {
-    ProjectModel model = Project(1);
-    model.BackImg = "/home/ann/web/sky blue.jpg";
-    ButtonRecord& b = model.Button(1);
-    b.ImageUP = "C:\\web\\img\\home up.gif";
-    b.ImageOVER = "images/home.gif";
-    b.ImageDOWN = "plain.png";
-    b.SndUP = "D:\\snd/mixed\\click.au";
-    EXPECT_EQ(Split(AppletParameterValue(model))[5], "sky&nbspblue.jpg");
-    const Fields f = Split(ButtonParameterValue(b));
-    EXPECT_EQ(Fields(f.begin() + 13, f.begin() + 16),
-              Fields({"home&nbspup.gif", "home.gif", "plain.png"}));
-    EXPECT_EQ(Fields(f.begin() + 31, f.begin() + 34), Fields({"click.au", "", ""}));
-}
-
 TEST_F(HtmlGenerator, AnEmptyAppletNameComesFromTheProjectFileAndThenStays) {
     ProjectModel model = Project(1);
     model.AppletName.clear();
     model.ProjectFileName = "C:\\Sites\\Top Menu.orv";
-    const std::string text = MakeHTML(model).text;
+    EXPECT_EQ(NameTheApplet(model), "Top_Menu");
     EXPECT_EQ(model.AppletName, "Top_Menu");
-    EXPECT_NE(text.find("<applet name = \"Top_Menu\" "), std::string::npos);
-    EXPECT_NE(text.find("value=\"Top_Menu|1|"), std::string::npos);
     model.ProjectFileName = "/srv/other.orv";
-    MakeHTML(model);
-    EXPECT_EQ(model.AppletName, "Top_Menu");
+    EXPECT_EQ(NameTheApplet(model), "Top_Menu");
+    // The name given is the one in the tag and in "p", whatever the model holds.
+    const std::string text = MakeHTML(model, "Other", "").text;
+    EXPECT_NE(text.find("<applet name = \"Other\" "), std::string::npos);
+    EXPECT_NE(text.find("value=\"Other|1|"), std::string::npos);
 
     const std::pair<const char*, const char*> names[] = {
         {"", "Orvelin"},
@@ -206,7 +147,7 @@ TEST_F(HtmlGenerator, JavaScriptLinkAtTheStartOfAUrlAddsTheCallerBlock) {
     ProjectModel model = Project(3);
     model.Button(1).URL = "http://example.org/?q=javascript:go()";
     model.Button(2).URL = "JavaScript:go()";
-    const GeneratedHtml html = MakeHTML(model);
+    const GeneratedHtml html = MakeHTML(model, "Nav", GetJSCaller("Nav"));
     EXPECT_TRUE(html.usesJavaScript);
     const std::string tail = "</applet>\r\n"
                              "\r\n"
@@ -218,13 +159,14 @@ TEST_F(HtmlGenerator, JavaScriptLinkAtTheStartOfAUrlAddsTheCallerBlock) {
     // Elsewhere in a URL it adds nothing.
     model.Button(2).URL = " javascript:go()";
     model.Button(3).URL = "page.html#javascript:";
-    const GeneratedHtml plain = MakeHTML(model);
+    const GeneratedHtml plain = MakeHTML(model, "Nav", GetJSCaller("Nav"));
     EXPECT_FALSE(plain.usesJavaScript);
     EXPECT_TRUE(plain.text.ends_with(kTail));
     EXPECT_EQ(plain.text.find("InitJSCaller"), std::string::npos);
 }
 
 TEST_F(HtmlGenerator, CallerBlockIsReadBetweenItsMarkersWhateverTheirCase) {
+    EXPECT_EQ(GetJSCaller("Bar"), "") << "no Orvel.ini";
     const std::pair<const char*, const char*> cases[] = {
         {"[jscaller]\none AppletName\n  [JSCALLER]\nappletname stays\n[End Of JsCaller]\ntwo\n",
          "\r\none Bar\r\n  [JSCALLER]\r\nappletname stays"},
@@ -236,14 +178,6 @@ TEST_F(HtmlGenerator, CallerBlockIsReadBetweenItsMarkersWhateverTheirCase) {
     }
 }
 
-TEST_F(HtmlGenerator, MissingOrvelIniLeavesAnEmptyLine) {
-    ProjectModel model = Project(1);
-    model.Button(1).URL = "javascript:x()";
-    const GeneratedHtml html = MakeHTML(model);
-    EXPECT_TRUE(html.usesJavaScript);
-    EXPECT_TRUE(html.text.ends_with("</applet>\r\n\r\n<!-- END GENERATED CODE -->\r\n"));
-}
-
 TEST_F(HtmlGenerator, ShippedCallerBlockDefinesInitJSCallerForTheApplet) {
     const std::string block =
         JSCallerFromFile(std::string(ORVELIN_SOURCE_DIR) + "/data/Orvel.ini", "Nav");
@@ -253,22 +187,6 @@ TEST_F(HtmlGenerator, ShippedCallerBlockDefinesInitJSCallerForTheApplet) {
         EXPECT_NE(block.find(part), std::string::npos) << part;
     for (const char* part : {"AppletName", "JSCALLER]", "chkNoBackGround"})
         EXPECT_EQ(block.find(part), std::string::npos) << part;
-}
-
-TEST_F(HtmlGenerator, GeneratingShowsProgressAndChangesNothing) {
-    orvelin::testing::FakeUserInterface ui;
-    ProjectModel model = Project(3);
-    model.Button(2).URL = "javascript:a()";
-    model.Saved = false;
-    const ProjectModel before = model;
-    const std::string first = MakeHTML(model, &ui).text;
-    EXPECT_EQ(ui.progressTexts, Fields({"Please Wait...|Please wait. Generating HTML code..."}));
-    EXPECT_EQ(ui.progressHides, 1);
-    EXPECT_EQ(MakeHTML(model).text, first);
-    for (int i = 0; i < kButtonSlots; ++i)
-        EXPECT_EQ(model.Button(i), before.Button(i));
-    EXPECT_EQ(model.AppletName, before.AppletName);
-    EXPECT_FALSE(model.Saved);
 }
 
 TEST_F(HtmlGenerator, AnyTextInAnyFieldLeavesEveryParameterInsideItsQuotesWithItsFields) {
@@ -289,7 +207,7 @@ TEST_F(HtmlGenerator, AnyTextInAnyFieldLeavesEveryParameterInsideItsQuotesWithIt
         for (int i = 1; i <= model.ButtonCount; ++i)
             for (int pos = 0; pos < kButtonFieldCount; ++pos) // numbers refuse and stay
                 SetFieldText(model.Button(i), pos, pieces[random() % std::size(pieces)]);
-        std::string page = MakeHTML(model).text;
+        std::string page = MakeHTML(model, model.AppletName, "").text;
         page = page.substr(page.find("<applet"), page.find("</applet>") + 9 - page.find("<applet"));
         std::vector<std::size_t> fields;
         for (std::string_view text : SplitLines(page)) {

@@ -54,7 +54,7 @@ protected:
     void TearDown() override { SetProgramFolderOverride(""); }
 
     bool Build(const std::string& target, bool withPlayer = false) {
-        html = MakeHTML(model);
+        html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName));
         return BuildPage(model, {html.text, html.usesJavaScript, withPlayer}, target, ui);
     }
 
@@ -133,7 +133,7 @@ TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoe
 TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
     model.Button(1).URL = "javascript:go()";
     model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
-    html = MakeHTML(model);
+    html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName));
     RecordingShell shell;
     const std::string page = temp.path("program/AppletTemp/Temp.htm");
     ASSERT_TRUE(PreviewPage(model, {html.text, true}, "", ui, shell));

@@ -10,8 +10,8 @@ const source = path.join(__dirname, '..', '..');
 
 test('the player reads the fields of the designer\'s button record, in its order', () => {
     const cpp = fs.readFileSync(path.join(source, 'src/model/buttonrecord.cpp'), 'utf8');
-    const table = cpp.slice(cpp.indexOf('ButtonFields()'));
-    const designer = [...table.matchAll(/\{"(\w+)", K::(\w+)\}/g)].map((m) => m[1] + ':' + m[2]);
+    const table = cpp.slice(cpp.indexOf('kButtonFields = '));
+    const designer = [...table.matchAll(/Field\("(\w+)", K::(\w+), /g)].map((m) => m[1] + ':' + m[2]);
 
     const js = fs.readFileSync(path.join(source, 'src/player/orvelin-player.js'), 'utf8');
     const list = /var FIELDS = \(([^)]*)\)\.split/.exec(js);
