@@ -39,7 +39,8 @@ void AppendDecodedLabel(std::string& out, std::string_view text);
  * it gets one pass. Some other pairs (such as "ab" -> "bbaa") grow without
  * practical end as well; no caller passes such a pair.
  *
- * The cost is linear in the text and the characters written (see ReplacePasses).
+ * Pairs that cannot form new matches take one plain left-to-right replace, which
+ * gives the same text; no caller passes any other pair.
  */
 std::string ReplaceAll(std::string_view text, std::string_view search,
                        std::string_view replacement);
@@ -105,18 +106,5 @@ std::string BareFileName(std::string_view path);
 /// Upper-case and lower-case forms of ASCII letters only.
 std::string ToUpperAscii(std::string_view text);
 std::string ToLowerAscii(std::string_view text);
-
-/// Kept for completeness of the shared module: an inert tokenizer.
-class StringTokenizer {
-public:
-    void init(std::string_view text, std::string_view delimiter, bool returnDelimiters);
-    std::string nextToken();
-    bool hasMoreTokens() const;
-    bool hasMoreElements() const;
-    int countTokens() const;
-
-private:
-    std::string m_text = "fds";
-};
 
 } // namespace orvelin
