@@ -57,8 +57,6 @@ void ButtonPicture::mouseReleaseEvent(QMouseEvent* event) {
     emit mouseReleased(m_index, event);
 }
 
-void ButtonPicture::mouseDoubleClickEvent(QMouseEvent* event) {
-    emit mouseDoubleClicked(m_index, event);
-}
+void ButtonPicture::mouseDoubleClickEvent(QMouseEvent*) {}
 
 } // namespace orvelin

@@ -29,7 +29,6 @@ signals:
     void mousePressed(int index, QMouseEvent* event);
     void mouseMoved(int index, QMouseEvent* event);
     void mouseReleased(int index, QMouseEvent* event);
-    void mouseDoubleClicked(int index, QMouseEvent* event);
     /// The widget changed size by any cause (pButtons_Resize).
     void resized(int index);
 
@@ -39,6 +38,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// A double click is no second press: the designer does nothing with it.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:

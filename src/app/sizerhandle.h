@@ -10,7 +10,7 @@ namespace orvelin {
 /**
  * One of the four resize handles `picSizer(0..3)` around the current button: 0 bottom,
  * 1 right, 2 top, 3 left. It draws itself and reports the mouse; what a drag does is the
- * design window's business. Its tag is "Down" while the user holds it, "Up" otherwise.
+ * design window's business.
  */
 class SizerHandle : public QWidget {
     Q_OBJECT
@@ -21,8 +21,6 @@ public:
     SizerHandle(int handle, QWidget* parent = nullptr);
 
     int handle() const { return m_handle; }
-    const QString& tag() const { return m_tag; }
-    void setTag(const QString& tag) { m_tag = tag; }
 
 signals:
     void mousePressed(int handle, QMouseEvent* event);
@@ -37,7 +35,6 @@ protected:
 
 private:
     int m_handle;
-    QString m_tag = QStringLiteral("Up");
 };
 
 } // namespace orvelin
