@@ -44,9 +44,10 @@ std::string MoveBox(std::string word) {
 
 } // namespace
 
-ActionEditor::ActionEditor(ProjectModel& model, UserInterface& ui, ActionEditorTexts texts,
-                           std::array<std::string, 3> stateCaptions)
-    : m_model(model), m_ui(ui), m_texts(std::move(texts)), m_commandTexts(m_texts.commandList()),
+ActionEditor::ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
+                           ActionEditorTexts texts, std::array<std::string, 3> stateCaptions)
+    : m_model(model), m_ui(ui), m_buffer(buffer), m_texts(std::move(texts)),
+      m_commandTexts(m_texts.commandList()),
       m_stateTexts(std::make_move_iterator(stateCaptions.begin()),
                    std::make_move_iterator(stateCaptions.end())) {}
 
@@ -220,12 +221,12 @@ void ActionEditor::moveLine(int from, int to) {
 }
 
 void ActionEditor::copy() {
-    ProgramBuffer() = storeProgram();
+    m_buffer.text = storeProgram();
 }
 
 void ActionEditor::paste() {
-    if (!ProgramBuffer().empty())
-        appendProgram(ProgramBuffer());
+    if (!m_buffer.text.empty())
+        appendProgram(m_buffer.text);
 }
 
 bool ActionEditor::loadLine(int index) {

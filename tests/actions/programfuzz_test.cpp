@@ -67,8 +67,8 @@ TEST(ProgramFuzz, TheEditorKeepsItsListsInStepWithAnyStoredProgram) {
         model.Button(1).ProgramOVER = RandomProgram(rng);
         SCOPED_TRACE(model.Button(1).ProgramOVER);
         orvelin::testing::FakeUserInterface ui;
-        ProgramBuffer() = RandomProgram(rng);
-        ActionEditor editor(model, ui);
+        ProgramBuffer buffer{RandomProgram(rng)};
+        ActionEditor editor(model, ui, buffer);
         editor.open("ProgramOVER");
         for (int step = 0; step < 12; ++step) {
             const int readable = static_cast<int>(editor.readableLines().size());
@@ -102,5 +102,4 @@ TEST(ProgramFuzz, TheEditorKeepsItsListsInStepWithAnyStoredProgram) {
         EXPECT_EQ(model.Button(1).ProgramOVER, editor.storeProgram());
         EXPECT_EQ(SplitProgram(model.Button(1).ProgramOVER), editor.commandLines());
     }
-    ProgramBuffer().clear();
 }
