@@ -139,11 +139,11 @@ void FrmDesign::buildWindow() {
     m_positioner = new LabelPositioner(m_surface);
     m_positioner->hide();
     connect(m_positioner, &LabelPositioner::mousePressed, this,
-            [this](QMouseEvent* e) { picLabelPositioner_MouseDown(e); });
+            [this](int, QMouseEvent* e) { picLabelPositioner_MouseDown(e); });
     connect(m_positioner, &LabelPositioner::mouseMoved, this,
-            [this](QMouseEvent* e) { picLabelPositioner_MouseMove(e); });
+            [this](int, QMouseEvent* e) { picLabelPositioner_MouseMove(e); });
     connect(m_positioner, &LabelPositioner::mouseReleased, this,
-            [this](QMouseEvent* e) { picLabelPositioner_MouseUp(e); });
+            [this](int, QMouseEvent* e) { picLabelPositioner_MouseUp(e); });
 
     m_scroll = new QScrollArea(this);
     m_scroll->setObjectName(QStringLiteral("scrSurface"));

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QString>
-#include <QWidget>
-
-class QMouseEvent;
+#include "mousereporter.h"
 
 namespace orvelin {
 
@@ -12,7 +9,7 @@ namespace orvelin {
  * 1 right, 2 top, 3 left. It draws itself and reports the mouse; what a drag does is the
  * design window's business.
  */
-class SizerHandle : public QWidget {
+class SizerHandle : public MouseReporter {
     Q_OBJECT
 
 public:
@@ -20,21 +17,10 @@ public:
 
     SizerHandle(int handle, QWidget* parent = nullptr);
 
-    int handle() const { return m_handle; }
-
-signals:
-    void mousePressed(int handle, QMouseEvent* event);
-    void mouseMoved(int handle, QMouseEvent* event);
-    void mouseReleased(int handle, QMouseEvent* event);
+    int handle() const { return id(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-
-private:
-    int m_handle;
 };
 
 } // namespace orvelin
