@@ -275,7 +275,7 @@ bool ActionEditor::loadLine(int index) {
 }
 
 void ActionEditor::takeColor(std::int32_t colour) {
-    m_inputs.label = ColorToHex(HexText(colour), "NORMAL");
+    m_inputs.label = ColorToWeb(colour);
 }
 
 std::vector<int> ActionEditor::targetButtons(const std::vector<bool>& selected) const {

@@ -1,5 +1,7 @@
 #include "colorbutton.h"
 
+#include "paintsupport.h"
+
 #include <QColorDialog>
 #include <QPainter>
 #include <QPixmap>
@@ -14,19 +16,6 @@ ColorButton::ColorButton(const QString& objectName, QWidget* parent) : QToolButt
     updateSwatch();
 }
 
-QColor ColorButton::ToQColor(std::int32_t colour) {
-    const auto value = static_cast<std::uint32_t>(colour);
-    return QColor(static_cast<int>(value & 0xFFu), static_cast<int>((value >> 8) & 0xFFu),
-                  static_cast<int>((value >> 16) & 0xFFu));
-}
-
-std::int32_t ColorButton::FromQColor(const QColor& colour) {
-    const auto value = static_cast<std::uint32_t>(colour.red()) |
-                       (static_cast<std::uint32_t>(colour.green()) << 8) |
-                       (static_cast<std::uint32_t>(colour.blue()) << 16);
-    return static_cast<std::int32_t>(value);
-}
-
 void ColorButton::setColour(std::int32_t colour) {
     if (colour == m_colour)
         return;
@@ -35,17 +24,17 @@ void ColorButton::setColour(std::int32_t colour) {
 }
 
 void ColorButton::choose() {
-    const QColor chosen = QColorDialog::getColor(ToQColor(m_colour), this, toolTip());
+    const QColor chosen = QColorDialog::getColor(ColorFromRef(m_colour), this, toolTip());
     if (!chosen.isValid())
         return;
-    m_colour = FromQColor(chosen);
+    m_colour = ColorToRef(chosen);
     updateSwatch();
     emit colourChosen(m_colour);
 }
 
 void ColorButton::updateSwatch() {
     QPixmap swatch(iconSize());
-    swatch.fill(ToQColor(m_colour));
+    swatch.fill(ColorFromRef(m_colour));
     QPainter painter(&swatch);
     painter.setPen(QColor(0, 0, 0, 110));
     painter.drawRect(swatch.rect().adjusted(0, 0, -1, -1));

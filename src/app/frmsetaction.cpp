@@ -1,6 +1,7 @@
 #include "frmsetaction.h"
 
 #include "messages.h"
+#include "paintsupport.h"
 #include "projectmodel.h"
 #include "typedfieldvalidator.h"
 #include "windowgeometry.h"
@@ -389,7 +390,7 @@ void FrmSetAction::btnGetHexColor_Click() {
     const QColor colour = QColorDialog::getColor(initial, this);
     if (!colour.isValid())
         return;
-    m_editor.takeColor(colour.red() | (colour.green() << 8) | (colour.blue() << 16));
+    m_editor.takeColor(ColorToRef(colour));
     showInputs();
 }
 

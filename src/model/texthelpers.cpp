@@ -379,44 +379,20 @@ std::string HexText(std::int32_t value) {
     return out;
 }
 
-std::string ColorToHex(std::string_view hex, std::string_view mode) {
-    std::string red, green, blue;
-    switch (hex.size()) {
-    case 0:
-    case 1:
-        red = green = blue = "00";
-        break;
-    case 2:
-        red = hex;
-        green = blue = "00";
-        break;
-    case 4:
-        red = hex.substr(2, 2);
-        green = hex.substr(0, 2);
-        blue = "00";
-        break;
-    case 6:
-        red = hex.substr(4, 2);
-        green = hex.substr(2, 2);
-        blue = hex.substr(0, 2);
-        break;
-    default:
-        break;
-    }
-    const std::string lowered = ToLowerAscii(mode);
-    if (lowered == "red")
-        return red;
-    if (lowered == "green")
-        return green;
-    if (lowered == "blue")
-        return blue;
-    if (lowered == "normal")
-        return red + green + blue;
-    return {};
-}
-
 std::string ColorToWeb(std::int32_t colour) {
-    return ColorToHex(HexText(colour), "NORMAL");
+    const std::string hex = HexText(colour);
+    switch (hex.size()) {
+    case 1:
+        return "000000";
+    case 2:
+        return hex + "0000";
+    case 4:
+        return hex.substr(2, 2) + hex.substr(0, 2) + "00";
+    case 6:
+        return hex.substr(4, 2) + hex.substr(2, 2) + hex.substr(0, 2);
+    default:
+        return {};
+    }
 }
 
 std::string BareFileName(std::string_view path) {

@@ -91,13 +91,10 @@ std::string MakePositive(std::string_view text);
 std::string HexText(std::int32_t value);
 
 /**
- * Web colour text from the hexadecimal text of a colour value (red in the low
- * byte). Mode "normal" gives RRGGBB, "red"/"green"/"blue" one component; the
- * lengths 3, 5 and above 6 give the empty text.
+ * Web colour text RRGGBB of a colour value (red in the low byte), taken from the
+ * digits of HexText: a value of one digit gives "000000", one of 3, 5, 7 or 8
+ * digits the empty text, as the applet code has always been written.
  */
-std::string ColorToHex(std::string_view hex, std::string_view mode);
-
-/// ColorToHex(HexText(colour), "NORMAL").
 std::string ColorToWeb(std::int32_t colour);
 
 /// What follows the last "/" or "\" of a path (the whole path without one).
