@@ -60,26 +60,24 @@ struct LoadedCode {
 std::optional<int> loadCode(const char* command, const char* usage, std::size_t count,
                             bool writesPage, const std::vector<std::string>& args,
                             std::ostream& err, ConsoleUserInterface& ui, LoadedCode& loaded) {
-    const Arguments parsed =
-        ParseArguments(args, {"--applet-name"},
-                       writesPage ? std::set<std::string>{"--no-player"} : std::set<std::string>{});
-    if (parsed.error.empty() && parsed.positional.size() != count)
-        err << "orvelin-cli " << command
-            << (count == 1 ? ": give exactly one project file\n"
-                           : ": give the project file and the page to write\n");
-    if (!parsed.error.empty())
-        err << "orvelin-cli " << command << ": " << parsed.error << '\n';
-    if (!parsed.error.empty() || parsed.positional.size() != count) {
-        err << "Usage:\n" << usage;
+    const std::optional<Arguments> parsed = ParseCommandLine(
+        {command,
+         usage,
+         count,
+         count == 1 ? "give exactly one project file"
+                    : "give the project file and the page to write",
+         {"--applet-name"},
+         writesPage ? std::set<std::string>{"--no-player"} : std::set<std::string>{}},
+        args, err);
+    if (!parsed)
         return kExitUsage;
-    }
-    if (!LoadProject(loaded.model, parsed.positional.front(), ui))
+    if (!LoadProject(loaded.model, parsed->positional.front(), ui))
         return kExitFailed;
-    if (const auto name = parsed.value("--applet-name"))
+    if (const auto name = parsed->value("--applet-name"))
         SetAppletNameFromBox(loaded.model, *name);
     loaded.html = MakeHTML(loaded.model, &ui);
-    loaded.positional = parsed.positional;
-    loaded.withPlayer = writesPage && !parsed.has("--no-player");
+    loaded.positional = parsed->positional;
+    loaded.withPlayer = writesPage && !parsed->has("--no-player");
     return std::nullopt;
 }
 
