@@ -14,22 +14,6 @@ namespace orvelin {
 
 namespace {
 
-// The command number (1 to 7) a command line starts with, 0 for none.
-int CommandNumber(std::string_view line) {
-    const std::string first = GetWord(line, 1);
-    if (first.size() != 1 || first[0] < '1' || first[0] > '7')
-        return 0;
-    return first[0] - '0';
-}
-
-// The 0-based entry of a list that a 1-based number word names, -1 for none.
-int EntryIndex(std::string_view word, std::size_t listSize) {
-    const WholeNumber n = ParseWholeNumber(word, 1, 32767);
-    if (n.error != NumberError::None || n.value > static_cast<std::int64_t>(listSize))
-        return -1;
-    return static_cast<int>(n.value - 1);
-}
-
 // The second line of "Wrong Parameters": which of Move's boxes holds the wrong value.
 std::string WrongBoxLine(int box) {
     static const char* const names[] = {"X", "Y", "width", "height"};
