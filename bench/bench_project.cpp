@@ -2,6 +2,7 @@
 // same bytes: the project file should cost no more than about three times as much.
 
 #include "projectfile.h"
+#include "testdoubles.h"
 #include "userinterface.h"
 
 #include <algorithm>
@@ -15,6 +16,7 @@
 #include <string>
 
 using namespace orvelin;
+using orvelin::testing::SilentUserInterface;
 namespace fs = std::filesystem;
 
 namespace {

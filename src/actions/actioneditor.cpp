@@ -14,22 +14,6 @@ namespace orvelin {
 
 namespace {
 
-// The command number (1 to 7) a command line starts with, 0 for none.
-int CommandNumber(std::string_view line) {
-    const std::string first = GetWord(line, 1);
-    if (first.size() != 1 || first[0] < '1' || first[0] > '7')
-        return 0;
-    return first[0] - '0';
-}
-
-// The 0-based entry of a list that a 1-based number word names, -1 for none.
-int EntryIndex(std::string_view word, std::size_t listSize) {
-    const WholeNumber n = ParseWholeNumber(word, 1, 32767);
-    if (n.error != NumberError::None || n.value > static_cast<std::int64_t>(listSize))
-        return -1;
-    return static_cast<int>(n.value - 1);
-}
-
 // The second line of "Wrong Parameters": which of Move's boxes holds the wrong value.
 std::string WrongBoxLine(int box) {
     static const char* const names[] = {"X", "Y", "width", "height"};
@@ -44,9 +28,10 @@ std::string MoveBox(std::string word) {
 
 } // namespace
 
-ActionEditor::ActionEditor(ProjectModel& model, UserInterface& ui, ActionEditorTexts texts,
-                           std::array<std::string, 3> stateCaptions)
-    : m_model(model), m_ui(ui), m_texts(std::move(texts)), m_commandTexts(m_texts.commandList()),
+ActionEditor::ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
+                           ActionEditorTexts texts, std::array<std::string, 3> stateCaptions)
+    : m_model(model), m_ui(ui), m_buffer(buffer), m_texts(std::move(texts)),
+      m_commandTexts(m_texts.commandList()),
       m_stateTexts(std::make_move_iterator(stateCaptions.begin()),
                    std::make_move_iterator(stateCaptions.end())) {}
 
@@ -220,12 +205,12 @@ void ActionEditor::moveLine(int from, int to) {
 }
 
 void ActionEditor::copy() {
-    ProgramBuffer() = storeProgram();
+    m_buffer.text = storeProgram();
 }
 
 void ActionEditor::paste() {
-    if (!ProgramBuffer().empty())
-        appendProgram(ProgramBuffer());
+    if (!m_buffer.text.empty())
+        appendProgram(m_buffer.text);
 }
 
 bool ActionEditor::loadLine(int index) {
@@ -274,7 +259,7 @@ bool ActionEditor::loadLine(int index) {
 }
 
 void ActionEditor::takeColor(std::int32_t colour) {
-    m_inputs.label = ColorToHex(HexText(colour), "NORMAL");
+    m_inputs.label = ColorToWeb(colour);
 }
 
 std::vector<int> ActionEditor::targetButtons(const std::vector<bool>& selected) const {

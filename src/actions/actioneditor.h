@@ -10,6 +10,7 @@
 
 namespace orvelin {
 
+struct ProgramBuffer;
 struct ProjectModel;
 class UserInterface;
 
@@ -43,7 +44,9 @@ struct ActionInputs {
  */
 class ActionEditor {
 public:
-    ActionEditor(ProjectModel& model, UserInterface& ui, ActionEditorTexts texts = {},
+    /// Copy and paste go through `buffer`, which outlives the editor.
+    ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
+                 ActionEditorTexts texts = {},
                  std::array<std::string, 3> stateCaptions = DefaultStateCaptions());
 
     /**
@@ -124,6 +127,7 @@ private:
 
     ProjectModel& m_model;
     UserInterface& m_ui;
+    ProgramBuffer& m_buffer;
     ActionEditorTexts m_texts;
     std::string m_kind;
 

@@ -3,7 +3,6 @@
 #include "texthelpers.h"
 
 #include <cstdint>
-#include <limits>
 
 namespace orvelin {
 
@@ -13,12 +12,8 @@ namespace {
 // a number inside the list, which is how a command for a since-removed button
 // still gets a readable line.
 std::string Entry(const std::vector<std::string>& list, std::string_view number) {
-    const WholeNumber n = ParseWholeNumber(number, std::numeric_limits<std::int16_t>::min(),
-                                           std::numeric_limits<std::int16_t>::max());
-    if (n.error != NumberError::None || n.value < 1 ||
-        n.value > static_cast<std::int64_t>(list.size()))
-        return {};
-    return list[static_cast<std::size_t>(n.value - 1)];
+    const int index = EntryIndex(number, list.size());
+    return index < 0 ? std::string() : list[static_cast<std::size_t>(index)];
 }
 
 // A move field as the list shows it: "left as it is" reads as two blanks.
@@ -86,11 +81,24 @@ std::string GetWord(std::string_view line, int n) {
     return {};
 }
 
-std::optional<std::string> ReadableLine(std::string_view line, const ReadableTexts& texts) {
+int CommandNumber(std::string_view line) {
     const std::string first = GetWord(line, 1);
     if (first.size() != 1 || first[0] < '1' || first[0] > '7')
+        return 0;
+    return first[0] - '0';
+}
+
+int EntryIndex(std::string_view word, std::size_t listSize) {
+    const WholeNumber n = ParseWholeNumber(word, 1, 32767);
+    if (n.error != NumberError::None || n.value > static_cast<std::int64_t>(listSize))
+        return -1;
+    return static_cast<int>(n.value - 1);
+}
+
+std::optional<std::string> ReadableLine(std::string_view line, const ReadableTexts& texts) {
+    const int command = CommandNumber(line);
+    if (command == 0)
         return std::nullopt;
-    const int command = first[0] - '0';
     const std::size_t index = static_cast<std::size_t>(command - 1);
     const std::string name = index < texts.commands.size() ? texts.commands[index] : std::string();
 

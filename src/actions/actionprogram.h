@@ -38,6 +38,12 @@ std::string JoinProgram(const std::vector<std::string>& lines);
  */
 std::string GetWord(std::string_view line, int n);
 
+/// The command number (1 to 7) a command line starts with, 0 for none.
+int CommandNumber(std::string_view line);
+
+/// The 0-based entry of a list that a 1-based number word names, -1 for none.
+int EntryIndex(std::string_view word, std::size_t listSize);
+
 /// The texts a readable line is made of; a language file may have changed them all.
 struct ReadableTexts {
     std::vector<std::string> commands; ///< "Show" ... "Call JavaScript", command 1 first

@@ -5,9 +5,12 @@
 namespace orvelin {
 
 /**
- * The program text that "Copy" left for "Paste": one for the whole run of the
- * designer, shared by all seven program kinds, empty at start and never saved.
+ * The program text that "Copy" left for "Paste": shared by all seven program kinds,
+ * empty at start and never saved. The main window holds the one of a designer run and
+ * hands it to every action editor it opens.
  */
-std::string& ProgramBuffer();
+struct ProgramBuffer {
+    std::string text;
+};
 
 } // namespace orvelin

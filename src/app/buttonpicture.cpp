@@ -7,7 +7,7 @@
 
 namespace orvelin {
 
-ButtonPicture::ButtonPicture(int index, QWidget* parent) : QWidget(parent), m_index(index) {
+ButtonPicture::ButtonPicture(int index, QWidget* parent) : MouseReporter(index, parent) {
     setObjectName(QStringLiteral("pButtons%1").arg(index));
     // The picture covers the widget; transparent pixels of a fresh picture show the
     // surface under it.
@@ -40,7 +40,7 @@ bool ButtonPicture::fitPicture() {
 void ButtonPicture::paintEvent(QPaintEvent*) {
     // Moved to a screen of another density: painted again at the new one.
     if (!qFuzzyCompare(m_picture.devicePixelRatio(), devicePixelRatioF()) && fitPicture()) {
-        emit resized(m_index);
+        emit resized(index());
         return;
     }
     QPainter painter(this);
@@ -51,23 +51,9 @@ void ButtonPicture::resizeEvent(QResizeEvent*) {
     // A resize that the design window already answered (it painted at the new size)
     // leaves the picture as it is: a move paints once.
     if (fitPicture())
-        emit resized(m_index);
+        emit resized(index());
 }
 
-void ButtonPicture::mousePressEvent(QMouseEvent* event) {
-    emit mousePressed(m_index, event);
-}
-
-void ButtonPicture::mouseMoveEvent(QMouseEvent* event) {
-    emit mouseMoved(m_index, event);
-}
-
-void ButtonPicture::mouseReleaseEvent(QMouseEvent* event) {
-    emit mouseReleased(m_index, event);
-}
-
-void ButtonPicture::mouseDoubleClickEvent(QMouseEvent* event) {
-    emit mouseDoubleClicked(m_index, event);
-}
+void ButtonPicture::mouseDoubleClickEvent(QMouseEvent*) {}
 
 } // namespace orvelin

@@ -1,6 +1,7 @@
 #include "colorbutton.h"
 
 #include "paintedicon.h"
+#include "paintsupport.h"
 
 #include <QColorDialog>
 #include <QPainter>
@@ -15,19 +16,6 @@ ColorButton::ColorButton(const QString& objectName, QWidget* parent) : QToolButt
     updateSwatch();
 }
 
-QColor ColorButton::ToQColor(std::int32_t colour) {
-    const auto value = static_cast<std::uint32_t>(colour);
-    return QColor(static_cast<int>(value & 0xFFu), static_cast<int>((value >> 8) & 0xFFu),
-                  static_cast<int>((value >> 16) & 0xFFu));
-}
-
-std::int32_t ColorButton::FromQColor(const QColor& colour) {
-    const auto value = static_cast<std::uint32_t>(colour.red()) |
-                       (static_cast<std::uint32_t>(colour.green()) << 8) |
-                       (static_cast<std::uint32_t>(colour.blue()) << 16);
-    return static_cast<std::int32_t>(value);
-}
-
 void ColorButton::setColour(std::int32_t colour) {
     if (colour == m_colour)
         return;
@@ -36,10 +24,10 @@ void ColorButton::setColour(std::int32_t colour) {
 }
 
 void ColorButton::choose() {
-    const QColor chosen = QColorDialog::getColor(ToQColor(m_colour), this, toolTip());
+    const QColor chosen = QColorDialog::getColor(ColorFromRef(m_colour), this, toolTip());
     if (!chosen.isValid())
         return;
-    m_colour = FromQColor(chosen);
+    m_colour = ColorToRef(chosen);
     updateSwatch();
     emit colourChosen(m_colour);
 }
@@ -48,7 +36,7 @@ void ColorButton::updateSwatch() {
     QIcon swatch;
     const QSize size = iconSize();
     AddPaintedPixmaps(swatch, size, [&](QPainter& painter) {
-        painter.fillRect(QRect(QPoint(0, 0), size), ToQColor(m_colour));
+        painter.fillRect(QRect(QPoint(0, 0), size), ColorFromRef(m_colour));
         painter.setPen(QPen(QColor(0, 0, 0, 110), 0));
         painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     });

@@ -19,9 +19,6 @@ public:
     /// Shows `colour` without reporting it.
     void setColour(std::int32_t colour);
 
-    static QColor ToQColor(std::int32_t colour);
-    static std::int32_t FromQColor(const QColor& colour);
-
 signals:
     void colourChosen(std::int32_t colour);
 

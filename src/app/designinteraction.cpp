@@ -198,8 +198,6 @@ void DesignInteraction::Form_MouseDown(QMouseEvent* event) {
 void DesignInteraction::picSizer_MouseDown(int handle, QMouseEvent* event) {
     const QPointF at = event->position();
     PressSizer(m_sizers, handle, at.x(), at.y());
-    if (SizerHandle* sizer = m_design.picSizer(handle))
-        sizer->setTag(QString::fromLatin1(kSizerTagDown));
 }
 
 void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
@@ -227,8 +225,6 @@ void DesignInteraction::picSizer_MouseUp(int handle, QMouseEvent*) {
     if (m_snap)
         m_snap->finish();
     const SizerReleaseOutcome out = ReleaseSizer(m_sizers, handle);
-    if (SizerHandle* sizer = m_design.picSizer(handle))
-        sizer->setTag(QString::fromLatin1(kSizerTagUp));
     if (out.updateTransparentButtons)
         m_design.UpdateTransparentBtns();
     if (out.showGeometry)

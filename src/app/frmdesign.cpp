@@ -143,11 +143,11 @@ void FrmDesign::buildWindow() {
     m_positioner = new LabelPositioner(m_surface);
     m_positioner->hide();
     connect(m_positioner, &LabelPositioner::mousePressed, this,
-            [this](QMouseEvent* e) { picLabelPositioner_MouseDown(e); });
+            [this](int, QMouseEvent* e) { picLabelPositioner_MouseDown(e); });
     connect(m_positioner, &LabelPositioner::mouseMoved, this,
-            [this](QMouseEvent* e) { picLabelPositioner_MouseMove(e); });
+            [this](int, QMouseEvent* e) { picLabelPositioner_MouseMove(e); });
     connect(m_positioner, &LabelPositioner::mouseReleased, this,
-            [this](QMouseEvent* e) { picLabelPositioner_MouseUp(e); });
+            [this](int, QMouseEvent* e) { picLabelPositioner_MouseUp(e); });
 
     m_scroll = new QScrollArea(this);
     m_scroll->setObjectName(QStringLiteral("scrSurface"));
@@ -193,8 +193,6 @@ void FrmDesign::LoadButton(int index) {
                 [this](int i, QMouseEvent* e) { pButtons_MouseMove(i, e); });
         connect(picture, &ButtonPicture::mouseReleased, this,
                 [this](int i, QMouseEvent* e) { pButtons_MouseUp(i, e); });
-        connect(picture, &ButtonPicture::mouseDoubleClicked, this,
-                [this](int i, QMouseEvent* e) { pButtons_DblClick(i, e); });
         connect(picture, &ButtonPicture::resized, this, [this](int i) { pButtons_Resize(i); });
         m_pictures.emplace_back(picture);
         // A later button lies above an earlier one.
@@ -384,33 +382,6 @@ void FrmDesign::setNoBackGround(bool on) {
     AppletChanged();
 }
 
-void FrmDesign::setTexts(const QStringList& texts) {
-    QWidget* const captioned[] = {m_btnAddBtn, m_btnDuplicate, m_btnRemove, m_btnViewHtml,
-                                  m_chkNoBackGround};
-    if (!texts.isEmpty())
-        setWindowTitle(texts[0]);
-    for (int k = 0; k < 5; ++k) {
-        const qsizetype caption = 1 + k;
-        const qsizetype tip = 6 + k;
-        auto* button = static_cast<QAbstractButton*>(captioned[k]);
-        if (caption < texts.size())
-            button->setText(texts[caption]);
-        if (tip < texts.size())
-            button->setToolTip(texts[tip]);
-    }
-}
-
-QStringList FrmDesign::texts() const {
-    const QAbstractButton* const captioned[] = {m_btnAddBtn, m_btnDuplicate, m_btnRemove,
-                                                m_btnViewHtml, m_chkNoBackGround};
-    QStringList out{windowTitle()};
-    for (const QAbstractButton* button : captioned)
-        out << button->text();
-    for (const QAbstractButton* button : captioned)
-        out << button->toolTip();
-    return out;
-}
-
 void FrmDesign::pButtons_MouseDown(int index, QMouseEvent* event) {
     emit buttonMouseDown(index, event);
 }
@@ -421,10 +392,6 @@ void FrmDesign::pButtons_MouseMove(int index, QMouseEvent* event) {
 
 void FrmDesign::pButtons_MouseUp(int index, QMouseEvent* event) {
     emit buttonMouseUp(index, event);
-}
-
-void FrmDesign::pButtons_DblClick(int index, QMouseEvent* event) {
-    emit buttonDoubleClick(index, event);
 }
 
 void FrmDesign::pButtons_Resize(int index) {

@@ -7,7 +7,6 @@
 #include "userinterface.h"
 
 #include <QPointer>
-#include <QStringList>
 #include <QWidget>
 #include <array>
 #include <memory>
@@ -91,12 +90,6 @@ public:
     bool noBackGround() const { return m_noBackGround; }
     void setNoBackGround(bool on);
 
-    /// Replaces the window's texts from a language file, in this order: caption, the
-    /// captions of btnAddBtn, btnDuplicate, btnRemove, btnViewHtml and chkNoBackGround,
-    /// then their tool tips in the same order. Missing texts stay as they are.
-    void setTexts(const QStringList& texts);
-    QStringList texts() const;
-
     /// The Arrange menu, on a menu bar of the window, and its toolbar above the surface.
     void addArrangeTools(QMenu* menu, QToolBar* tools);
 
@@ -117,7 +110,6 @@ signals:
     void buttonMouseDown(int index, QMouseEvent* event);
     void buttonMouseMove(int index, QMouseEvent* event);
     void buttonMouseUp(int index, QMouseEvent* event);
-    void buttonDoubleClick(int index, QMouseEvent* event);
     void sizerMouseDown(int handle, QMouseEvent* event);
     void sizerMouseMove(int handle, QMouseEvent* event);
     void sizerMouseUp(int handle, QMouseEvent* event);
@@ -131,7 +123,6 @@ protected:
     virtual void pButtons_MouseDown(int index, QMouseEvent* event);
     virtual void pButtons_MouseMove(int index, QMouseEvent* event);
     virtual void pButtons_MouseUp(int index, QMouseEvent* event);
-    virtual void pButtons_DblClick(int index, QMouseEvent* event);
     /// A picture changed size: painted again unless NoRedrawOnResize is set.
     virtual void pButtons_Resize(int index);
     virtual void picSizer_MouseDown(int handle, QMouseEvent* event);

@@ -138,7 +138,8 @@ void FrmMain::openActionEditor(const QString& kind, const QString& title) {
     std::vector<bool> selected(static_cast<std::size_t>(m_list.count()));
     for (int i = 1; i <= m_list.count(); ++i)
         selected[static_cast<std::size_t>(i - 1)] = m_list.isSelected(i);
-    ShowActionEditor(this, m_model, selected, m_ui, kind.toStdString(), title.toStdString());
+    ShowActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind.toStdString(),
+                     title.toStdString());
     // The dialog may have attached or removed an applet program.
     m_editor.SetMainParams();
 }

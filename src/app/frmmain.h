@@ -2,6 +2,7 @@
 
 #include "editor.h"
 #include "editorview.h"
+#include "programbuffer.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -74,6 +75,8 @@ private:
     Settings& m_settings;
     DesignView& m_design;
     Editor m_editor;
+    /// What the action editor's Copy left for Paste, for the whole run.
+    ProgramBuffer m_programBuffer;
     QListWidget* m_buttons = nullptr;
     ButtonListBinding* m_binding = nullptr;
     PropertyPanel* m_properties = nullptr;

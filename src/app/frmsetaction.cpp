@@ -2,6 +2,7 @@
 
 #include "accessiblenames.h"
 #include "messages.h"
+#include "paintsupport.h"
 #include "projectmodel.h"
 #include "typedfieldvalidator.h"
 #include "windowgeometry.h"
@@ -74,10 +75,12 @@ QFrame* Separator(QWidget* parent) {
 
 } // namespace
 
-FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, std::vector<bool> selected,
-                           QWidget* parent, const ActionEditorTexts& texts,
+FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
+                           std::vector<bool> selected, QWidget* parent,
+                           const ActionEditorTexts& texts,
                            const std::array<std::string, 3>& stateCaptions)
-    : QDialog(parent), m_editor(model, ui, texts, stateCaptions), m_selected(std::move(selected)) {
+    : QDialog(parent), m_editor(model, ui, buffer, texts, stateCaptions),
+      m_selected(std::move(selected)) {
     setObjectName(QStringLiteral("frmSetAction"));
     setModal(true);
     buildControls(texts);
@@ -389,7 +392,7 @@ void FrmSetAction::btnGetHexColor_Click() {
     const QColor colour = QColorDialog::getColor(initial, this);
     if (!colour.isValid())
         return;
-    m_editor.takeColor(colour.red() | (colour.green() << 8) | (colour.blue() << 16));
+    m_editor.takeColor(ColorToRef(colour));
     showInputs();
 }
 
@@ -474,10 +477,10 @@ void FrmSetAction::showPanels() {
 }
 
 void ShowActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
-                      UserInterface& ui, const std::string& kind, const std::string& title,
-                      const ActionEditorTexts& texts,
+                      UserInterface& ui, ProgramBuffer& buffer, const std::string& kind,
+                      const std::string& title, const ActionEditorTexts& texts,
                       const std::array<std::string, 3>& stateCaptions) {
-    FrmSetAction dialog(model, ui, selected, parent, texts, stateCaptions);
+    FrmSetAction dialog(model, ui, buffer, selected, parent, texts, stateCaptions);
     dialog.myShow(kind, title);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actioneditor.h"
+#include "programbuffer.h"
 
 #include <QDialog>
 #include <array>
@@ -32,8 +33,9 @@ class FrmSetAction : public QDialog {
 
 public:
     /// `selected` is the main button list's selection: entry i-1 for button i.
-    FrmSetAction(ProjectModel& model, UserInterface& ui, std::vector<bool> selected,
-                 QWidget* parent = nullptr, const ActionEditorTexts& texts = {},
+    FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
+                 std::vector<bool> selected, QWidget* parent = nullptr,
+                 const ActionEditorTexts& texts = {},
                  const std::array<std::string, 3>& stateCaptions = DefaultStateCaptions());
 
     /// Loads the program of `kind` and titles the window, without showing it.
@@ -109,8 +111,8 @@ private:
  * (button kinds) or the applet's slot and clears Saved; Cancel writes nothing.
  */
 void ShowActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
-                      UserInterface& ui, const std::string& kind, const std::string& title,
-                      const ActionEditorTexts& texts = {},
+                      UserInterface& ui, ProgramBuffer& buffer, const std::string& kind,
+                      const std::string& title, const ActionEditorTexts& texts = {},
                       const std::array<std::string, 3>& stateCaptions = DefaultStateCaptions());
 
 } // namespace orvelin

@@ -4,7 +4,7 @@
 
 namespace orvelin {
 
-LabelPositioner::LabelPositioner(QWidget* parent) : QWidget(parent) {
+LabelPositioner::LabelPositioner(QWidget* parent) : MouseReporter(0, parent) {
     setObjectName(QStringLiteral("picLabelPositioner"));
     setFixedSize(kSide, kSide);
     setCursor(Qt::SizeAllCursor);
@@ -28,18 +28,6 @@ void LabelPositioner::paintEvent(QPaintEvent*) {
     painter.fillRect(0, mid - 1, kSide, 3, Qt::white);
     painter.fillRect(mid, 0, 1, kSide, QColor(0xD0, 0x00, 0x00));
     painter.fillRect(0, mid, kSide, 1, QColor(0xD0, 0x00, 0x00));
-}
-
-void LabelPositioner::mousePressEvent(QMouseEvent* event) {
-    emit mousePressed(event);
-}
-
-void LabelPositioner::mouseMoveEvent(QMouseEvent* event) {
-    emit mouseMoved(event);
-}
-
-void LabelPositioner::mouseReleaseEvent(QMouseEvent* event) {
-    emit mouseReleased(event);
 }
 
 } // namespace orvelin

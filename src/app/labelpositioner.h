@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QWidget>
-
-class QMouseEvent;
+#include "mousereporter.h"
 
 namespace orvelin {
 
@@ -11,7 +9,7 @@ namespace orvelin {
  * the current button and state (the first line's left end on its baseline). It is shown
  * only while that state places its label at the position.
  */
-class LabelPositioner : public QWidget {
+class LabelPositioner : public MouseReporter {
     Q_OBJECT
 
 public:
@@ -24,16 +22,8 @@ public:
     /// The parent point the crosshair's centre stands on.
     QPoint centre() const;
 
-signals:
-    void mousePressed(QMouseEvent* event);
-    void mouseMoved(QMouseEvent* event);
-    void mouseReleased(QMouseEvent* event);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 };
 
 } // namespace orvelin

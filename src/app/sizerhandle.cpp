@@ -4,7 +4,7 @@
 
 namespace orvelin {
 
-SizerHandle::SizerHandle(int handle, QWidget* parent) : QWidget(parent), m_handle(handle) {
+SizerHandle::SizerHandle(int handle, QWidget* parent) : MouseReporter(handle, parent) {
     setObjectName(QStringLiteral("picSizer%1").arg(handle));
     setFixedSize(kSide, kSide);
     // The top and bottom handles change the height, the side ones the width.
@@ -16,18 +16,6 @@ void SizerHandle::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor(0x20, 0x20, 0x20));
-}
-
-void SizerHandle::mousePressEvent(QMouseEvent* event) {
-    emit mousePressed(m_handle, event);
-}
-
-void SizerHandle::mouseMoveEvent(QMouseEvent* event) {
-    emit mouseMoved(m_handle, event);
-}
-
-void SizerHandle::mouseReleaseEvent(QMouseEvent* event) {
-    emit mouseReleased(m_handle, event);
 }
 
 } // namespace orvelin

@@ -1,18 +1,15 @@
 #pragma once
 
-#include <QString>
-#include <QWidget>
-
-class QMouseEvent;
+#include "mousereporter.h"
 
 namespace orvelin {
 
 /**
  * One of the four resize handles `picSizer(0..3)` around the current button: 0 bottom,
  * 1 right, 2 top, 3 left. It draws itself and reports the mouse; what a drag does is the
- * design window's business. Its tag is "Down" while the user holds it, "Up" otherwise.
+ * design window's business.
  */
-class SizerHandle : public QWidget {
+class SizerHandle : public MouseReporter {
     Q_OBJECT
 
 public:
@@ -20,24 +17,10 @@ public:
 
     SizerHandle(int handle, QWidget* parent = nullptr);
 
-    int handle() const { return m_handle; }
-    const QString& tag() const { return m_tag; }
-    void setTag(const QString& tag) { m_tag = tag; }
-
-signals:
-    void mousePressed(int handle, QMouseEvent* event);
-    void mouseMoved(int handle, QMouseEvent* event);
-    void mouseReleased(int handle, QMouseEvent* event);
+    int handle() const { return id(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-
-private:
-    int m_handle;
-    QString m_tag = QStringLiteral("Up");
 };
 
 } // namespace orvelin

@@ -1,5 +1,9 @@
 #include "arguments.h"
 
+#include "commands.h"
+
+#include <ostream>
+
 namespace orvelin::cli {
 
 std::optional<std::string> Arguments::value(const std::string& name) const {
@@ -70,6 +74,26 @@ std::optional<std::string> ExtractOption(std::vector<std::string>& words, const 
     }
     words = std::move(rest);
     return found;
+}
+
+int UsageError(std::ostream& err, const char* command, const std::string& problem,
+               const char* usage) {
+    err << "orvelin-cli " << command << ": " << problem << "\nUsage:\n" << usage;
+    return kExitUsage;
+}
+
+std::optional<Arguments> ParseCommandLine(const CommandLine& line,
+                                          const std::vector<std::string>& args, std::ostream& err) {
+    Arguments parsed = ParseArguments(args, line.valueOptions, line.flagOptions);
+    if (!parsed.error.empty()) {
+        UsageError(err, line.command, parsed.error, line.usage);
+        return std::nullopt;
+    }
+    if (parsed.positional.size() != line.positionalCount) {
+        UsageError(err, line.command, line.positionalProblem, line.usage);
+        return std::nullopt;
+    }
+    return parsed;
 }
 
 } // namespace orvelin::cli

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "arguments.h"
+
 #include <iosfwd>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,6 +28,26 @@ int RunResave(const std::vector<std::string>& args, std::ostream& out, std::ostr
 #ifdef ORVELIN_CLI_RENDER
 int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #endif
+
+/// Writes "orvelin-cli COMMAND: PROBLEM" and the command's usage text to `err`; gives
+/// the exit status of a wrong command line.
+int UsageError(std::ostream& err, const char* command, const std::string& problem,
+               const char* usage);
+
+/// What a command accepts: its options and how many positional words it needs, with
+/// the text that asks for them when the count is wrong.
+struct CommandLine {
+    const char* command;
+    const char* usage;
+    std::size_t positionalCount;
+    const char* positionalProblem;
+    std::set<std::string> valueOptions;
+    std::set<std::string> flagOptions = {};
+};
+
+/// `args` read as `line` describes; none, after a UsageError, when they do not fit.
+std::optional<Arguments> ParseCommandLine(const CommandLine& line,
+                                          const std::vector<std::string>& args, std::ostream& err);
 
 /// One paragraph per command for --help and usage errors.
 extern const char* const kHtmlUsage;

@@ -14,12 +14,21 @@ namespace orvelin::cli {
  * other and answered with OK, so the command goes on and every such message is seen.
  * The progress window has no use here.
  */
-class ConsoleUserInterface : public SilentUserInterface {
+class ConsoleUserInterface : public UserInterface {
 public:
     explicit ConsoleUserInterface(std::ostream& err) : m_err(err) {}
 
     void showMessage(const std::string& text, const std::string& title) override;
     Answer askOkCancel(const std::string& text, const std::string& title) override;
+    Answer askYesNoCancel(const std::string&, const std::string&) override {
+        return Answer::Cancel;
+    }
+    std::optional<std::string> chooseOpenFile(const std::string&) override { return {}; }
+    std::optional<std::string> chooseSaveFile(const std::string&, const std::string&) override {
+        return {};
+    }
+    void showProgress(const std::string&, const std::string&, int) override {}
+    void hideProgress() override {}
 
     /// How many messages were shown.
     int messageCount() const { return m_messages; }

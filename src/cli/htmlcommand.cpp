@@ -61,27 +61,25 @@ struct LoadedCode {
 std::optional<int> loadCode(const char* command, const char* usage, std::size_t count,
                             bool writesPage, const std::vector<std::string>& args,
                             std::ostream& err, ConsoleUserInterface& ui, LoadedCode& loaded) {
-    const Arguments parsed =
-        ParseArguments(args, {"--applet-name"},
-                       writesPage ? std::set<std::string>{"--no-player"} : std::set<std::string>{});
-    if (parsed.error.empty() && parsed.positional.size() != count)
-        err << "orvelin-cli " << command
-            << (count == 1 ? ": give exactly one project file\n"
-                           : ": give the project file and the page to write\n");
-    if (!parsed.error.empty())
-        err << "orvelin-cli " << command << ": " << parsed.error << '\n';
-    if (!parsed.error.empty() || parsed.positional.size() != count) {
-        err << "Usage:\n" << usage;
+    const std::optional<Arguments> parsed = ParseCommandLine(
+        {command,
+         usage,
+         count,
+         count == 1 ? "give exactly one project file"
+                    : "give the project file and the page to write",
+         {"--applet-name"},
+         writesPage ? std::set<std::string>{"--no-player"} : std::set<std::string>{}},
+        args, err);
+    if (!parsed)
         return kExitUsage;
-    }
-    if (!ShowLoadResult(LoadProject(loaded.model, parsed.positional.front(), &ui), ui))
+    if (!ShowLoadResult(LoadProject(loaded.model, parsed->positional.front(), &ui), ui))
         return kExitFailed;
-    if (const auto name = parsed.value("--applet-name"))
+    if (const auto name = parsed->value("--applet-name"))
         SetAppletNameFromBox(loaded.model, *name);
     const std::string& name = NameTheApplet(loaded.model);
     loaded.html = MakeHTML(loaded.model, name, GetJSCaller(name));
-    loaded.positional = parsed.positional;
-    loaded.withPlayer = writesPage && !parsed.has("--no-player");
+    loaded.positional = parsed->positional;
+    loaded.withPlayer = writesPage && !parsed->has("--no-player");
     return std::nullopt;
 }
 

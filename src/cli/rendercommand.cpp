@@ -26,11 +26,6 @@ const char* const kRenderUsage =
 
 namespace {
 
-int UsageError(std::ostream& err, const std::string& problem) {
-    err << "orvelin-cli render: " << problem << "\nUsage:\n" << kRenderUsage;
-    return kExitUsage;
-}
-
 /// Fonts and image readers need a QGuiApplication; without a display, the offscreen
 /// platform gives one. A platform the caller chose is kept.
 std::unique_ptr<QGuiApplication> StartGui() {
@@ -54,32 +49,36 @@ std::unique_ptr<QGuiApplication> StartGui() {
 
 int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     (void)out;
-    const Arguments parsed =
-        ParseArguments(args, {"--state", "-o", "--output"}, {"--no-background"});
-    if (!parsed.error.empty())
-        return UsageError(err, parsed.error);
-    if (parsed.positional.size() != 1)
-        return UsageError(err, "give exactly one project file");
-    std::optional<std::string> output = parsed.value("-o");
+    const std::optional<Arguments> parsed = ParseCommandLine({"render",
+                                                              kRenderUsage,
+                                                              1,
+                                                              "give exactly one project file",
+                                                              {"--state", "-o", "--output"},
+                                                              {"--no-background"}},
+                                                             args, err);
+    if (!parsed)
+        return kExitUsage;
+    std::optional<std::string> output = parsed->value("-o");
     if (!output)
-        output = parsed.value("--output");
+        output = parsed->value("--output");
     if (!output || output->empty())
-        return UsageError(err, "name the image to write with -o FILE.png");
-    const std::string state = parsed.value("--state").value_or("UP");
+        return UsageError(err, "render", "name the image to write with -o FILE.png", kRenderUsage);
+    const std::string state = parsed->value("--state").value_or("UP");
     ButtonState known = ButtonState::UP;
     if (!StateFromName(state, known))
-        return UsageError(err, "--state is UP, OVER or DOWN, not \"" + state + "\"");
+        return UsageError(err, "render", "--state is UP, OVER or DOWN, not \"" + state + "\"",
+                          kRenderUsage);
 
     const std::unique_ptr<QGuiApplication> app = StartGui();
 
     ConsoleUserInterface ui(err);
     ProjectModel model;
-    if (!ShowLoadResult(LoadProject(model, parsed.positional.front(), &ui), ui))
+    if (!ShowLoadResult(LoadProject(model, parsed->positional.front(), &ui), ui))
         return kExitFailed;
     model.CurrentState = known;
 
     RenderOptions options;
-    options.noBackGround = parsed.has("--no-background");
+    options.noBackGround = parsed->has("--no-background");
     options.ui = &ui;
     const QImage surface = RenderSurface(model, known, options);
 

@@ -18,24 +18,25 @@ const char* const kResaveUsage =
     "      was.\n";
 
 int RunResave(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
-    const Arguments parsed = ParseArguments(args, {}, {"--legacy"});
-    if (parsed.error.empty() && parsed.positional.size() != 2)
-        err << "orvelin-cli resave: give the project file to read and the one to write\n";
-    if (!parsed.error.empty())
-        err << "orvelin-cli resave: " << parsed.error << '\n';
-    if (!parsed.error.empty() || parsed.positional.size() != 2) {
-        err << "Usage:\n" << kResaveUsage;
+    const std::optional<Arguments> parsed =
+        ParseCommandLine({"resave",
+                          kResaveUsage,
+                          2,
+                          "give the project file to read and the one to write",
+                          {},
+                          {"--legacy"}},
+                         args, err);
+    if (!parsed)
         return kExitUsage;
-    }
 
     ConsoleUserInterface ui(err);
     ProjectModel model;
-    const std::string& in = parsed.positional[0];
-    if (!ShowLoadResult(parsed.has("--legacy") ? LoadProject_OLD(model, in, &ui)
+    const std::string& in = parsed->positional[0];
+    if (!ShowLoadResult(parsed->has("--legacy") ? LoadProject_OLD(model, in, &ui)
                                                : LoadProject(model, in, &ui),
                         ui))
         return kExitFailed;
-    return SaveProject(model, parsed.positional[1], ui) ? kExitOk : kExitFailed;
+    return SaveProject(model, parsed->positional[1], ui) ? kExitOk : kExitFailed;
 }
 
 } // namespace orvelin::cli

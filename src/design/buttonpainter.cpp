@@ -111,14 +111,14 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
             QString::fromStdString(button.Label(s)).split(QStringLiteral("\\n"));
         const int count = static_cast<int>(lines.size());
 
-        drawString(painter, index, QString(), font, size, colour, bold, italic, 0, 0);
+        drawString(painter, QString(), font, size, colour, bold, italic, 0, 0);
         const QFontMetrics metrics = painter.fontMetrics();
         const int step = metrics.lineSpacing();
 
         if (button.PositionText(s) != 0) {
             for (int k = 0; k < count; ++k)
-                drawString(painter, index, lines[k], font, size, colour, bold, italic,
-                           button.LabelPosX(s), button.LabelPosY(s) + k * step);
+                drawString(painter, lines[k], font, size, colour, bold, italic, button.LabelPosX(s),
+                           button.LabelPosY(s) + k * step);
             return true;
         }
         // One line: its baseline is Height/2 + TextHeight/3, which centres capitals. More
@@ -128,7 +128,7 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
             const double width = metrics.horizontalAdvance(lines[k]);
             const int left = RoundEven(button.Width / 2.0 - width / 2.0);
             const int baseline = RoundEven(reference + (k - (count - 1) / 2.0) * step);
-            drawString(painter, index, lines[k], font, size, colour, bold, italic, left, baseline);
+            drawString(painter, lines[k], font, size, colour, bold, italic, left, baseline);
         }
         return true;
     } catch (const std::exception& error) {
@@ -145,10 +145,9 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
     }
 }
 
-void ButtonPainter::drawString(QPainter& painter, int ButtonIndex, const QString& StringToDraw,
+void ButtonPainter::drawString(QPainter& painter, const QString& StringToDraw,
                                const QString& strFont, int iFontSize, std::int32_t lFontColor,
                                bool bBold, bool bItalic, int x, int y) {
-    (void)ButtonIndex;
     // A larger or non-positive size is refused the way a picture refuses an invalid one.
     if (iFontSize <= 0 || iFontSize > kMaxFontSize)
         throw LabelError("Invalid property value");

@@ -51,9 +51,8 @@ public:
     bool DrawLabel(QPainter& painter, int index);
 
     /// One line of text with its baseline at (x, y); an empty text only selects the font.
-    void drawString(QPainter& painter, int ButtonIndex, const QString& StringToDraw,
-                    const QString& strFont, int iFontSize, std::int32_t lFontColor, bool bBold,
-                    bool bItalic, int x, int y);
+    void drawString(QPainter& painter, const QString& StringToDraw, const QString& strFont,
+                    int iFontSize, std::int32_t lFontColor, bool bBold, bool bItalic, int x, int y);
 
     /// A raised edge whose light and dark sides derive from the state's background colour;
     /// only when the button's Border flag is set.

@@ -11,6 +11,13 @@ QColor ColorFromRef(std::int32_t colour) {
                   static_cast<int>((value >> 16) & 0xFFu));
 }
 
+std::int32_t ColorToRef(const QColor& colour) {
+    const auto value = static_cast<std::uint32_t>(colour.red()) |
+                       (static_cast<std::uint32_t>(colour.green()) << 8) |
+                       (static_cast<std::uint32_t>(colour.blue()) << 16);
+    return static_cast<std::int32_t>(value);
+}
+
 QImage NewPicture(QSize size) {
     QImage picture(size.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
     picture.setDotsPerMeterX(kPictureDotsPerMeter);

@@ -13,6 +13,8 @@ inline constexpr int kPictureDotsPerMeter = 3780;
 
 /// A colour value of the project (0x00BBGGRR, red in the low byte); the high byte is ignored.
 QColor ColorFromRef(std::int32_t colour);
+/// The project's colour value of `colour`.
+std::int32_t ColorToRef(const QColor& colour);
 
 /// A transparent picture of `size` at 96 dpi, ready for the painting routines.
 QImage NewPicture(QSize size);

@@ -52,21 +52,6 @@ std::string NormalizeSection(std::string_view section) {
     return std::string(section);
 }
 
-std::string MemorySettingsBackend::get(const std::string& section, const std::string& key,
-                                       const std::string& defaultValue) const {
-    auto it = m_values.find({NormalizeSection(section), key});
-    return it == m_values.end() ? defaultValue : it->second;
-}
-
-void MemorySettingsBackend::set(const std::string& section, const std::string& key,
-                                const std::string& value) {
-    m_values[{NormalizeSection(section), key}] = value;
-}
-
-bool MemorySettingsBackend::contains(const std::string& section, const std::string& key) const {
-    return m_values.count({NormalizeSection(section), key}) > 0;
-}
-
 std::string SectionPath(SettingsSection section, std::string_view formName) {
     std::string path = kVersionText;
     switch (section) {

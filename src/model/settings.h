@@ -1,9 +1,7 @@
 #pragma once
 
-#include <map>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace orvelin {
 
@@ -24,21 +22,6 @@ public:
 
 /// A section name without its trailing "\" (or "/"), so both spellings meet.
 std::string NormalizeSection(std::string_view section);
-
-/// Settings held in memory: a fresh store for every test.
-class MemorySettingsBackend : public SettingsBackend {
-public:
-    std::string get(const std::string& section, const std::string& key,
-                    const std::string& defaultValue) const override;
-    void set(const std::string& section, const std::string& key, const std::string& value) override;
-
-    /// Whether the key was ever written.
-    bool contains(const std::string& section, const std::string& key) const;
-    std::size_t size() const { return m_values.size(); }
-
-private:
-    std::map<std::pair<std::string, std::string>, std::string> m_values;
-};
 
 /// The sub-sections of the program's settings, each below the version text.
 enum class SettingsSection { Params, Language, Recent, Browsers, Sizes };

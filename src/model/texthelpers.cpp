@@ -1,15 +1,9 @@
 #include "texthelpers.h"
 
-#include "replacepasses.h"
-
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 #include <limits>
-#include <type_traits>
 
 namespace orvelin {
 
@@ -112,120 +106,6 @@ Significant SignificantDigits(const DecimalText& number) {
 
 } // namespace
 
-namespace {
-
-// The label coding reads eight bytes at a time: labels are long texts with an escape
-// every few characters, where a search call per escape, or a branch per character
-// that guesses wrong at every blank, would cost more than the text itself.
-
-constexpr std::uint64_t kLowSevenBits = 0x7F7F7F7F7F7F7F7Full;
-
-constexpr std::uint64_t everyByte(char c) {
-    return 0x0101010101010101ull * static_cast<unsigned char>(c);
-}
-
-/// Eight bytes as a number whose lowest byte is the first, on any machine.
-std::uint64_t loadWord(const char* p) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, p, sizeof word);
-    if constexpr (std::endian::native == std::endian::big) {
-        std::uint64_t reversed = 0;
-        for (int k = 0; k < 8; ++k, word >>= 8)
-            reversed = (reversed << 8) | (word & 0xFF);
-        word = reversed;
-    }
-    return word;
-}
-
-/// Four bytes as a number, compared only with other loaded quads.
-std::uint32_t loadQuad(const char* p) {
-    std::uint32_t quad = 0;
-    std::memcpy(&quad, p, sizeof quad);
-    return quad;
-}
-
-/// The top bit of each byte of `word` that equals the byte of `pattern`, and no other
-/// bit (the exact form: the shorter test may also flag the byte after a match).
-std::uint64_t matchingBytes(std::uint64_t word, std::uint64_t pattern) {
-    const std::uint64_t x = word ^ pattern;
-    return ~(((x & kLowSevenBits) + kLowSevenBits) | x | kLowSevenBits);
-}
-
-/// How many bytes matchingBytes flagged in `mask`: the flags summed by a
-/// multiplication into the top byte.
-std::size_t countMatches(std::uint64_t mask) {
-    return static_cast<std::size_t>(((mask >> 7) * 0x0101010101010101ull) >> 56);
-}
-
-/// How much longer EncodeLabel makes `text`: four bytes per blank, three per quote.
-std::size_t encodedGrowth(std::string_view text) {
-    const std::uint64_t blanks = everyByte(' ');
-    const std::uint64_t quotes = everyByte('"');
-    std::size_t growth = 0;
-    std::size_t base = 0;
-    for (; base + 8 <= text.size(); base += 8) {
-        const std::uint64_t word = loadWord(text.data() + base);
-        growth += 4 * countMatches(matchingBytes(word, blanks)) +
-                  3 * countMatches(matchingBytes(word, quotes));
-    }
-    for (; base < text.size(); ++base)
-        growth += text[base] == ' ' ? 4 : text[base] == '"' ? 3 : 0;
-    return growth;
-}
-
-/// What EncodeLabel makes of each byte, padded to eight bytes for fixed-size copies:
-/// blanks and quotes alternate with text too irregularly for a branch per character.
-struct EncodedByte {
-    char text[8];
-    std::uint8_t length;
-};
-
-constexpr std::array<EncodedByte, 256> kEncodedBytes = [] {
-    std::array<EncodedByte, 256> table{};
-    for (std::size_t b = 0; b < table.size(); ++b)
-        table[b] = {{static_cast<char>(b)}, 1};
-    table['|'] = {{'I'}, 1};
-    table[' '] = {{'&', 'n', 'b', 's', 'p'}, 5};
-    table['"'] = {{'&', 'y', '0', '2'}, 4};
-    return table;
-}();
-
-/// Copies a run of `length` bytes. Runs between escapes are short: where `slack` says
-/// 16 bytes may be read at `from` and written at `to`, one fixed-size copy does, its
-/// excess overwritten later.
-void copyRun(char* to, const char* from, std::size_t length, bool slack) {
-    if (length <= 16 && slack)
-        std::memcpy(to, from, 16);
-    else
-        std::memcpy(to, from, length);
-}
-
-/// The escape starting at text[amp] ("&"): what it stands for and its length, or none.
-/// `Roomy` promises five bytes from amp. Branches, not arithmetic, tell the escapes
-/// apart: a guessed branch lets the next escape start before this one is read.
-template <bool Roomy>
-bool escapeAt(std::string_view text, std::size_t amp, char& decoded, std::size_t& length) {
-    const std::size_t left = text.size() - amp;
-    if (!Roomy && left < 4)
-        return false;
-    const std::uint32_t head = loadQuad(text.data() + amp);
-    if (head == loadQuad("&nbs") && (Roomy || left >= 5) && text[amp + 4] == 'p') {
-        decoded = ' ';
-        length = 5;
-    } else if (head == loadQuad("&y02")) {
-        decoded = '"';
-        length = 4;
-    } else if (head == loadQuad("&y01")) {
-        decoded = ';';
-        length = 4;
-    } else {
-        return false;
-    }
-    return true;
-}
-
-} // namespace
-
 std::string EncodeLabel(std::string_view text) {
     std::string out;
     AppendEncodedLabel(out, text);
@@ -243,35 +123,15 @@ void AppendEncodedLabel(std::string& out, std::string_view text) {
     // quotes through the repeated replace. Neither "&nbsp" nor "&y02" holds a
     // blank or a double quote, so each replace finds just the characters of the
     // text itself, and those are the ones a single scan meets.
-    //
-    // Room for the longest outcome (every character a blank) where the string has it
-    // already, else room for the exact outcome; cut to size at the end.
-    const std::size_t start = out.size();
-    const std::size_t longest = 5 * text.size();
-    out.resize(start +
-               (out.capacity() - start >= longest ? longest : text.size() + encodedGrowth(text)));
-    char* const dest = out.data() + start;
-    const char* const src = text.data();
-    std::size_t written = 0;
-    std::size_t at = 0;
-    // Eight bytes are stored per character while eight remain to be read: each of them
-    // gives at least one byte, so the output has room for the excess.
-    const auto put = [&](std::size_t k, std::size_t size) {
-        const EncodedByte& e = kEncodedBytes[static_cast<unsigned char>(src[k])];
-        std::memcpy(dest + written, e.text, size);
-        written += e.length;
-    };
-    for (; at + 11 <= text.size(); at += 4) {
-        put(at, 8);
-        put(at + 1, 8);
-        put(at + 2, 8);
-        put(at + 3, 8);
+    out.reserve(out.size() + text.size());
+    for (const char c : text) {
+        if (c == ' ')
+            out += "&nbsp";
+        else if (c == '"')
+            out += "&y02";
+        else
+            out += c == '|' ? 'I' : c;
     }
-    for (; at + 8 <= text.size(); ++at)
-        put(at, 8);
-    for (; at < text.size(); ++at)
-        put(at, kEncodedBytes[static_cast<unsigned char>(src[at])].length);
-    out.resize(start + written);
 }
 
 void AppendDecodedLabel(std::string& out, std::string_view text) {
@@ -280,46 +140,26 @@ void AppendDecodedLabel(std::string& out, std::string_view text) {
     // overlap (each starts with the only "&" it has), so the occurrences the
     // three replaces find are exactly those of the text itself, and each "&"
     // can be judged on its own.
-    const std::size_t first = text.find('&');
-    if (first == std::string_view::npos) {
-        out.append(text);
-        return;
+    out.reserve(out.size() + text.size());
+    std::size_t from = 0;
+    for (std::size_t amp = text.find('&'); amp != std::string_view::npos;
+         amp = text.find('&', from)) {
+        out.append(text, from, amp - from);
+        const std::string_view rest = text.substr(amp + 1, 4);
+        from = amp + 4;
+        if (rest == "nbsp") {
+            out += ' ';
+            from = amp + 5;
+        } else if (rest.substr(0, 3) == "y01") {
+            out += ';';
+        } else if (rest.substr(0, 3) == "y02") {
+            out += '"';
+        } else {
+            out += '&';
+            from = amp + 1;
+        }
     }
-    // The text goes in whole and is rewritten from its first "&": decoding only shortens.
-    const std::size_t start = out.size();
-    out.append(text);
-    char* const dest = out.data() + start;
-    const char* const src = text.data();
-    std::size_t written = first;
-    std::size_t from = first;
-    // With `roomy` true the escape and a 16-byte run copy both fit in the text.
-    const auto decodeAt = [&](std::size_t amp, auto roomy) {
-        char decoded = 0;
-        std::size_t length = 0;
-        if (!escapeAt<decltype(roomy)::value>(text, amp, decoded, length))
-            return;
-        // The output lags the input: the slack holds for both.
-        copyRun(dest + written, src + from, amp - from, roomy || from + 16 <= text.size());
-        written += amp - from;
-        dest[written++] = decoded;
-        from = amp + length;
-    };
-    const std::uint64_t amps = everyByte('&');
-    std::size_t base = first;
-    // An "&" in a word is at most 7 bytes in and the run before it starts no later, so
-    // both its escape and a 16-byte copy of that run end within 24 bytes of the word.
-    for (; base + 24 <= text.size(); base += 8) {
-        for (std::uint64_t found = matchingBytes(loadWord(src + base), amps); found != 0;
-             found &= found - 1)
-            decodeAt(base + static_cast<std::size_t>(std::countr_zero(found)) / 8,
-                     std::true_type{});
-    }
-    for (; base < text.size(); ++base) {
-        if (src[base] == '&')
-            decodeAt(base, std::false_type{});
-    }
-    std::memcpy(dest + written, src + from, text.size() - from);
-    out.resize(start + written + (text.size() - from));
+    out.append(text, from, std::string_view::npos);
 }
 
 namespace {
@@ -349,6 +189,16 @@ bool CanFormNewMatches(std::string_view search, std::string_view replacement) {
     return false;
 }
 
+/// One pass: positions below the length the text had when it began, going on at
+/// i + 1 in the changed text after a replacement at i.
+void ReplacePass(std::string& text, std::string_view search, std::string_view replacement) {
+    const std::size_t passEnd = text.size();
+    for (std::size_t i = 0; i < passEnd && i < text.size(); ++i) {
+        if (std::string_view(text).substr(i, search.size()) == search)
+            text.replace(i, search.size(), replacement);
+    }
+}
+
 } // namespace
 
 std::string ReplaceAll(std::string_view text, std::string_view search,
@@ -359,7 +209,13 @@ std::string ReplaceAll(std::string_view text, std::string_view search,
         // A replacement holding the search text would be replaced again forever;
         // it gets one pass.
         const bool endless = replacement.find(search) != std::string_view::npos;
-        return ReplacePasses(text, search, replacement).run(endless);
+        std::string out(text);
+        for (;;) {
+            const std::size_t before = out.size();
+            ReplacePass(out, search, replacement);
+            if (endless || out.size() == before)
+                return out;
+        }
     }
     std::string out;
     out.reserve(text.size());
@@ -427,36 +283,7 @@ bool StartsWith(std::string_view text, std::string_view prefix) {
     return text.substr(0, prefix.size()) == prefix;
 }
 
-namespace {
-
-/// Digits with at most a sign, as every saved number is written, read directly; none
-/// for any other text. Up to 18 digits cannot overflow the 64-bit sum.
-std::optional<WholeNumber> PlainWholeNumber(std::string_view text, std::int64_t min,
-                                            std::int64_t max) {
-    const bool negative = !text.empty() && text.front() == '-';
-    const std::size_t first = negative || (!text.empty() && text.front() == '+') ? 1 : 0;
-    if (text.size() == first || text.size() - first > 18)
-        return std::nullopt;
-    std::int64_t magnitude = 0;
-    for (std::size_t p = first; p < text.size(); ++p) {
-        if (!IsDigit(text[p]))
-            return std::nullopt;
-        magnitude = magnitude * 10 + (text[p] - '0');
-    }
-    // Zero is taken whatever the range, as the general reading takes it.
-    if (magnitude == 0)
-        return WholeNumber{0, NumberError::None};
-    const std::int64_t value = negative ? -magnitude : magnitude;
-    if (value < min || value > max)
-        return WholeNumber{0, NumberError::Overflow};
-    return WholeNumber{value, NumberError::None};
-}
-
-} // namespace
-
 WholeNumber ParseWholeNumber(std::string_view text, std::int64_t min, std::int64_t max) {
-    if (const std::optional<WholeNumber> plain = PlainWholeNumber(text, min, max))
-        return *plain;
     const std::optional<DecimalText> number = ScanDecimal(text);
     if (!number)
         return {0, NumberError::TypeMismatch};
@@ -552,44 +379,20 @@ std::string HexText(std::int32_t value) {
     return out;
 }
 
-std::string ColorToHex(std::string_view hex, std::string_view mode) {
-    std::string red, green, blue;
-    switch (hex.size()) {
-    case 0:
-    case 1:
-        red = green = blue = "00";
-        break;
-    case 2:
-        red = hex;
-        green = blue = "00";
-        break;
-    case 4:
-        red = hex.substr(2, 2);
-        green = hex.substr(0, 2);
-        blue = "00";
-        break;
-    case 6:
-        red = hex.substr(4, 2);
-        green = hex.substr(2, 2);
-        blue = hex.substr(0, 2);
-        break;
-    default:
-        break;
-    }
-    const std::string lowered = ToLowerAscii(mode);
-    if (lowered == "red")
-        return red;
-    if (lowered == "green")
-        return green;
-    if (lowered == "blue")
-        return blue;
-    if (lowered == "normal")
-        return red + green + blue;
-    return {};
-}
-
 std::string ColorToWeb(std::int32_t colour) {
-    return ColorToHex(HexText(colour), "NORMAL");
+    const std::string hex = HexText(colour);
+    switch (hex.size()) {
+    case 1:
+        return "000000";
+    case 2:
+        return hex + "0000";
+    case 4:
+        return hex.substr(2, 2) + hex.substr(0, 2) + "00";
+    case 6:
+        return hex.substr(4, 2) + hex.substr(2, 2) + hex.substr(0, 2);
+    default:
+        return {};
+    }
 }
 
 std::string BareFileName(std::string_view path) {
@@ -613,26 +416,6 @@ std::string ToLowerAscii(std::string_view text) {
             c = static_cast<char>(c - 'A' + 'a');
     }
     return out;
-}
-
-void StringTokenizer::init(std::string_view, std::string_view, bool) {
-    m_text = "fds";
-}
-
-std::string StringTokenizer::nextToken() {
-    return {};
-}
-
-bool StringTokenizer::hasMoreTokens() const {
-    return false;
-}
-
-bool StringTokenizer::hasMoreElements() const {
-    return false;
-}
-
-int StringTokenizer::countTokens() const {
-    return 0;
 }
 
 } // namespace orvelin

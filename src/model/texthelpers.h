@@ -39,7 +39,8 @@ void AppendDecodedLabel(std::string& out, std::string_view text);
  * it gets one pass. Some other pairs (such as "ab" -> "bbaa") grow without
  * practical end as well; no caller passes such a pair.
  *
- * The cost is linear in the text and the characters written (see ReplacePasses).
+ * Pairs that cannot form new matches take one plain left-to-right replace, which
+ * gives the same text; no caller passes any other pair.
  */
 std::string ReplaceAll(std::string_view text, std::string_view search,
                        std::string_view replacement);
@@ -90,13 +91,10 @@ std::string MakePositive(std::string_view text);
 std::string HexText(std::int32_t value);
 
 /**
- * Web colour text from the hexadecimal text of a colour value (red in the low
- * byte). Mode "normal" gives RRGGBB, "red"/"green"/"blue" one component; the
- * lengths 3, 5 and above 6 give the empty text.
+ * Web colour text RRGGBB of a colour value (red in the low byte), taken from the
+ * digits of HexText: a value of one digit gives "000000", one of 3, 5, 7 or 8
+ * digits the empty text, as the applet code has always been written.
  */
-std::string ColorToHex(std::string_view hex, std::string_view mode);
-
-/// ColorToHex(HexText(colour), "NORMAL").
 std::string ColorToWeb(std::int32_t colour);
 
 /// What follows the last "/" or "\" of a path (the whole path without one).
@@ -105,18 +103,5 @@ std::string BareFileName(std::string_view path);
 /// Upper-case and lower-case forms of ASCII letters only.
 std::string ToUpperAscii(std::string_view text);
 std::string ToLowerAscii(std::string_view text);
-
-/// Kept for completeness of the shared module: an inert tokenizer.
-class StringTokenizer {
-public:
-    void init(std::string_view text, std::string_view delimiter, bool returnDelimiters);
-    std::string nextToken();
-    bool hasMoreTokens() const;
-    bool hasMoreElements() const;
-    int countTokens() const;
-
-private:
-    std::string m_text = "fds";
-};
 
 } // namespace orvelin

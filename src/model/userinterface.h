@@ -50,21 +50,4 @@ public:
     }
 };
 
-/// A user interface that shows nothing and cancels every question; for code that
-/// loads or saves without anyone watching (benchmarks, tests).
-class SilentUserInterface : public UserInterface {
-public:
-    void showMessage(const std::string&, const std::string&) override {}
-    Answer askYesNoCancel(const std::string&, const std::string&) override {
-        return Answer::Cancel;
-    }
-    Answer askOkCancel(const std::string&, const std::string&) override { return Answer::Ok; }
-    std::optional<std::string> chooseOpenFile(const std::string&) override { return {}; }
-    std::optional<std::string> chooseSaveFile(const std::string&, const std::string&) override {
-        return {};
-    }
-    void showProgress(const std::string&, const std::string&, int) override {}
-    void hideProgress() override {}
-};
-
 } // namespace orvelin

@@ -17,13 +17,11 @@ enum Command { Show, Hide, Move, SetLabel, SetColor, Wait, CallJavaScript };
 class ActionEditorTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        ProgramBuffer().clear();
         model.ButtonCount = 3;
         model.CurrentButton = 2;
         model.Button(1).ProgramOVER = "1 1;";
         model.Button(2).ProgramOVER = "2 1;6 500;";
     }
-    void TearDown() override { ProgramBuffer().clear(); }
 
     void open(const std::string& program) {
         model.Button(2).ProgramOVER = program;
@@ -37,7 +35,8 @@ protected:
 
     ProjectModel model;
     FakeUserInterface ui;
-    ActionEditor editor{model, ui};
+    ProgramBuffer buffer;
+    ActionEditor editor{model, ui, buffer};
 };
 
 } // namespace
@@ -106,7 +105,7 @@ TEST_F(ActionEditorTest, UnknownKindIsReportedAndStoresNothing) {
 
 TEST_F(ActionEditorTest, CancellingWritesNothing) {
     {
-        ActionEditor scratch(model, ui);
+        ActionEditor scratch(model, ui, buffer);
         scratch.open("ProgramOVER");
         scratch.setCommand(Show);
         scratch.add();
@@ -184,15 +183,15 @@ TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgramAndPastedTextNeedsItsFina
     EXPECT_EQ(editor.selection(), 1);
 
     editor.copy();
-    EXPECT_EQ(ProgramBuffer(), "2 1;6 500;");
+    EXPECT_EQ(buffer.text, "2 1;6 500;");
     editor.paste();
     EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;");
     EXPECT_EQ(editor.readableLines().size(), 4u);
     EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
-    ProgramBuffer() = "1 3;2 3"; // without its final ";": the last command is lost
+    buffer.text = "1 3;2 3"; // without its final ";": the last command is lost
     editor.paste();
     EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;1 3;");
-    ActionEditor other(model, ui); // the buffer serves every program kind
+    ActionEditor other(model, ui, buffer); // the buffer serves every program kind
     other.open("AppletProgramDOWN");
     other.paste();
     other.ok({});
@@ -305,7 +304,7 @@ TEST_F(ActionEditorTest, ReplacedTextsShowInTheLists) {
     ActionEditorTexts texts;
     texts.at(15) = "Zeigen";
     texts.at(11) = "Höhe:";
-    ActionEditor german(model, ui, texts, {"Oben", "Über", "Unten"});
+    ActionEditor german(model, ui, buffer, texts, {"Oben", "Über", "Unten"});
     model.Button(2).ProgramOVER = "1 2;3 1 1 2 3 4;4 1 2 x;";
     german.open("ProgramOVER");
     EXPECT_EQ(german.readableLines(),

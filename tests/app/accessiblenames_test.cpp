@@ -14,6 +14,7 @@
 #include "qtshell.h"
 #include "tempfolder.h"
 #include "testapplication.h"
+#include "testdoubles.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -92,7 +93,8 @@ TEST(AccessibleNames, EveryControlThatTakesFocusInEveryWindowSaysWhatItIs) {
     FrmHTML html(model, ui, settings, shell);
     FrmMessage message;
     FrmMultiLineEditor lines(&label);
-    FrmSetAction action(model, ui, std::vector<bool>{true});
+    ProgramBuffer buffer;
+    FrmSetAction action(model, ui, buffer, std::vector<bool>{true});
     QStringList unnamed;
     for (QWidget* window : std::initializer_list<QWidget*>{
              &designer.mainWindow(), &designer.designWindow(), &advanced, &offset, &browsers,

@@ -5,6 +5,7 @@
 #include "settings.h"
 #include "tempfolder.h"
 #include "testapplication.h"
+#include "testdoubles.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -13,6 +14,7 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 using namespace orvelin::testing;
 
 namespace {

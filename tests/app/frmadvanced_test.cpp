@@ -3,6 +3,7 @@
 #include "frmadvanced.h"
 #include "settings.h"
 #include "testapplication.h"
+#include "testdoubles.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 using Answer = UserInterface::Answer;
 
 namespace {

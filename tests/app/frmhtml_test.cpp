@@ -8,6 +8,7 @@
 #include "qtshell.h"
 #include "tempfolder.h"
 #include "testapplication.h"
+#include "testdoubles.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -20,6 +21,7 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 
 TEST(FrmHTML, ShowsAndCopiesExactlyTheGeneratedCodeAndNamesTheAppletAsTyped) {
     orvelin::testing::TestApplication();

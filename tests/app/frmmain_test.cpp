@@ -5,6 +5,7 @@
 #include "frmsetaction.h"
 #include "mainmenus.h"
 #include "testapplication.h"
+#include "testdoubles.h"
 #include "windowgeometry.h"
 
 #include <QAction>
@@ -22,6 +23,7 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 using namespace orvelin::testing;
 
 namespace {

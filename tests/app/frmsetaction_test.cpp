@@ -22,11 +22,11 @@ class FrmSetActionTest : public ::testing::Test {
 protected:
     void SetUp() override {
         orvelin::testing::TestApplication();
-        ProgramBuffer().clear();
         model.ButtonCount = 3;
         model.CurrentButton = 2;
         model.Button(2).ProgramDOWN = "2 1;6 500;";
-        dialog = std::make_unique<FrmSetAction>(model, ui, std::vector<bool>{false, true, true});
+        dialog =
+            std::make_unique<FrmSetAction>(model, ui, buffer, std::vector<bool>{false, true, true});
         dialog->load("ProgramDOWN", "Set Action: On Button Press...");
     }
 
@@ -49,6 +49,7 @@ protected:
 
     ProjectModel model;
     orvelin::testing::FakeUserInterface ui;
+    ProgramBuffer buffer;
     std::unique_ptr<FrmSetAction> dialog;
 };
 

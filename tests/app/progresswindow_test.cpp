@@ -1,5 +1,6 @@
 #include "colorbutton.h"
 #include "frmmessage.h"
+#include "paintsupport.h"
 #include "qtuserinterface.h"
 #include "startupprobe.h"
 #include "testapplication.h"
@@ -40,8 +41,8 @@ TEST(QtUserInterface, MessagesGetTheProgramTitleAndSingleLineBreaks) {
 }
 
 TEST(ColorButton, ModelColoursKeepRedInTheLowByteAndSettingOneDoesNotReportIt) {
-    EXPECT_EQ(ColorButton::ToQColor(65535), QColor(255, 255, 0));
-    EXPECT_EQ(ColorButton::FromQColor(QColor(0x12, 0x34, 0x56)), 0x563412);
+    EXPECT_EQ(ColorFromRef(65535), QColor(255, 255, 0));
+    EXPECT_EQ(ColorToRef(QColor(0x12, 0x34, 0x56)), 0x563412);
 
     orvelin::testing::TestApplication();
     ColorButton button(QStringLiteral("picFontColor"));

@@ -7,6 +7,7 @@
 #include "projectmodel.h"
 #include "publishing.h"
 #include "tempfolder.h"
+#include "testdoubles.h"
 #include "userinterface.h"
 
 #include <fcntl.h>
@@ -21,6 +22,7 @@
 namespace fs = std::filesystem;
 using namespace orvelin;
 using orvelin::testing::ReadBytes;
+using orvelin::testing::SilentUserInterface;
 using Environment = std::map<std::string, std::optional<std::string>>;
 
 namespace {

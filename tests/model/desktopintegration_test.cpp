@@ -1,6 +1,7 @@
 #include "desktopintegration.h"
 #include "settings.h"
 #include "tempfolder.h"
+#include "testdoubles.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include <vector>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 using namespace orvelin::testing;
 
 namespace {

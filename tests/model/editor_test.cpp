@@ -4,11 +4,13 @@
 #include "programfolder.h"
 #include "projectfile.h"
 #include "tempfolder.h"
+#include "testdoubles.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 using Answer = UserInterface::Answer;
 using Texts = std::vector<std::string>;
 using Selection = std::vector<int>;

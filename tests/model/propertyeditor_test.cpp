@@ -3,12 +3,14 @@
 #include "fakeui.h"
 #include "projectfile.h"
 #include "propertyeditor.h"
+#include "testdoubles.h"
 
 #include <fnmatch.h>
 #include <gtest/gtest.h>
 #include <sstream>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 
 namespace {
 

@@ -1,11 +1,13 @@
 #include "buttonrecord.h"
 #include "settings.h"
+#include "testdoubles.h"
 
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 
 namespace {
 

@@ -1,50 +1,10 @@
 #include "texthelpers.h"
 
 #include <gtest/gtest.h>
-#include <random>
 #include <string>
-#include <tuple>
 #include <vector>
 
 using namespace orvelin;
-
-namespace {
-
-// The repeated-pass replace written out step by step: whole passes until one leaves the
-// length unchanged; a pass looks at the positions below the length the text had when it
-// began and, after a replacement, goes on one position further in the changed text. A
-// replacement holding the search text gets one pass (it would never end). Gives up (false)
-// after `passCap` passes or past `lengthCap` characters, for rules that blow up.
-bool LiteralReplaceAll(std::string& s, const std::string& search, const std::string& replacement,
-                       int passCap = 400, std::size_t lengthCap = 4000) {
-    if (search.empty())
-        return true;
-    const bool endless = replacement.find(search) != std::string::npos;
-    for (int pass = 0; pass < passCap; ++pass) {
-        const std::size_t passEnd = s.size();
-        for (std::size_t i = 0; i < passEnd; ++i) {
-            if (i + search.size() <= s.size() && s.compare(i, search.size(), search) == 0)
-                s = s.substr(0, i) + replacement + s.substr(i + search.size());
-        }
-        if (s.size() == passEnd || endless)
-            return true;
-        if (s.size() > lengthCap)
-            return false;
-    }
-    return false;
-}
-
-std::string RandomText(std::mt19937& rng, std::string_view alphabet, std::size_t maxLength,
-                       std::size_t minLength = 0) {
-    std::uniform_int_distribution<std::size_t> length(minLength, maxLength);
-    std::uniform_int_distribution<std::size_t> pick(0, alphabet.size() - 1);
-    std::string out(length(rng), ' ');
-    for (char& c : out)
-        c = alphabet[pick(rng)];
-    return out;
-}
-
-} // namespace
 
 TEST(ReplaceAll, RepeatsPassesAsTheDesignerDoes) {
     // Text, search, replacement, result. A match formed behind the scan or pushed past the
@@ -69,45 +29,7 @@ TEST(ReplaceAll, RepeatsPassesAsTheDesignerDoes) {
                                     {"xaby", "ab", "aab", "xaaaaby"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c[0]) + " " + c[1] + " -> " + c[2]);
-        std::string literal = c[0];
-        EXPECT_TRUE(LiteralReplaceAll(literal, c[1], c[2]));
-        EXPECT_EQ(literal, c[3]);
         EXPECT_EQ(ReplaceAll(c[0], c[1], c[2]), c[3]);
-    }
-}
-
-TEST(ReplaceAll, AgreesWithThePassByPassReplaceOnRandomTexts) {
-    // Short texts over four small alphabets, then longer ones with short rules.
-    struct Run {
-        unsigned seed;
-        int rounds, minCompared;
-        std::vector<std::string_view> alphabets;
-        std::string_view ruleAlphabet; // empty: the text's own
-        std::size_t textLength, searchLength, replacementLength;
-        int passCap;
-        std::size_t lengthCap;
-    };
-    const Run runs[] = {
-        {20240611, 60000, 55000, {"ab", "ab&n", "abc", "a"}, "", 14, 3, 5, 400, 4000},
-        {77, 3000, 2500, {"aab"}, "ab", 120, 4, 6, 2000, 2000}};
-    for (const Run& run : runs) {
-        std::mt19937 rng(run.seed);
-        int compared = 0;
-        for (int round = 0; round < run.rounds; ++round) {
-            const std::string_view alphabet =
-                run.alphabets[static_cast<std::size_t>(round) % run.alphabets.size()];
-            const std::string_view rules = run.ruleAlphabet.empty() ? alphabet : run.ruleAlphabet;
-            const std::string text = RandomText(rng, alphabet, run.textLength);
-            const std::string search = RandomText(rng, rules, run.searchLength, 1);
-            const std::string replacement = RandomText(rng, rules, run.replacementLength);
-            std::string expected = text;
-            if (!LiteralReplaceAll(expected, search, replacement, run.passCap, run.lengthCap))
-                continue; // a rule that grows without end in reasonable time
-            ASSERT_EQ(ReplaceAll(text, search, replacement), expected)
-                << '"' << text << "\" \"" << search << "\" -> \"" << replacement << '"';
-            ++compared;
-        }
-        EXPECT_GT(compared, run.minCompared);
     }
 }
 
@@ -122,37 +44,10 @@ TEST(LabelEncoding, BarBecomesCapitalIAndOnlySemicolonIsDecodedButNeverEncoded) 
     EXPECT_EQ(DecodeLabel("&&nbspnbsp"), "& nbsp");
     EXPECT_EQ(DecodeLabel("&y0&y01"), "&y0;");
     EXPECT_EQ(EncodeLabel(std::string(100, ' ')).size(), 500u);
-    const std::string plain(300, 'x'); // nothing to replace
-    EXPECT_EQ(EncodeLabel(plain) + DecodeLabel(plain), plain + plain);
-}
-
-TEST(LabelEncoding, MatchesTheThreeReplacesWhetherBuiltAloneOrAppended) {
-    // The long texts reach the word-at-a-time scans, with escapes at every offset.
-    std::mt19937 rng(5);
-    for (int round = 0; round < 23000; ++round) {
-        const std::string text = RandomText(rng, "ab |\"&nbspy012;", round < 20000 ? 24 : 150);
-        std::string encoded = text;
-        for (char& c : encoded)
-            c = c == '|' ? 'I' : c;
-        LiteralReplaceAll(encoded, " ", "&nbsp");
-        LiteralReplaceAll(encoded, "\"", "&y02");
-        std::string decoded = text;
-        LiteralReplaceAll(decoded, "&nbsp", " ");
-        LiteralReplaceAll(decoded, "&y01", ";");
-        LiteralReplaceAll(decoded, "&y02", "\"");
-        ASSERT_EQ(EncodeLabel(text), encoded) << text;
-        ASSERT_EQ(DecodeLabel(text), decoded) << text;
-        ASSERT_TRUE(text.find_first_of("&|") != std::string::npos || DecodeLabel(encoded) == text);
-        // Appending keeps what the string held, with or without room to spare.
-        std::string roomy = "head|";
-        roomy.reserve(2000);
-        AppendEncodedLabel(roomy, text);
-        ASSERT_EQ(roomy, "head|" + encoded) << text;
-        std::string tight = "head|";
-        tight.shrink_to_fit();
-        AppendDecodedLabel(tight, text);
-        ASSERT_EQ(tight, "head|" + decoded) << text;
-    }
+    std::string appended = "head|";
+    AppendEncodedLabel(appended, "a b");
+    AppendDecodedLabel(appended, "&y02");
+    EXPECT_EQ(appended, "head|a&nbspb\"");
 }
 
 TEST(TextHelpers, IdentifiersTokensCountsAndNames) {
@@ -218,25 +113,6 @@ TEST(ParseWholeNumber, ReadsTypedNumbersRoundingHalvesToEven) {
     EXPECT_EQ(NumberErrorText(NumberError::None), "");
 }
 
-TEST(ParseWholeNumber, PlainDigitsReadAsTheSameNumberWithAFraction) {
-    // "digits" and "digits.0" must agree: the second form is always read the long way.
-    std::mt19937 rng(3);
-    const std::int64_t bounds[] = {0, 1, 5, 32767, -32768, 2147483647, INT64_MAX, INT64_MIN};
-    for (int round = 0; round < 20000; ++round) {
-        std::string text = std::vector<std::string>{"-", "+", "", ""}[rng() % 4];
-        const std::size_t digits = 1 + rng() % 21;
-        for (std::size_t k = 0; k < digits; ++k)
-            text += static_cast<char>('0' + (k == 0 && round % 2 ? 0 : rng() % 10));
-        std::int64_t min = bounds[rng() % 8], max = bounds[rng() % 8];
-        if (min > max)
-            std::swap(min, max);
-        const WholeNumber direct = ParseWholeNumber(text, min, max);
-        const WholeNumber general = ParseWholeNumber(text + ".0", min, max);
-        ASSERT_EQ(direct.error, general.error) << text << " in " << min << ".." << max;
-        ASSERT_EQ(direct.value, general.value) << text << " in " << min << ".." << max;
-    }
-}
-
 TEST(NumberFallbacks, CIntGivesZeroAndPositiveGivesFiveForWhatIsNoNumber) {
     const std::pair<const char*, int> ints[] = {
         {"2.5", 2},   {"3.5", 4}, {" 12 ", 12}, {"-32768", -32768},
@@ -255,15 +131,8 @@ TEST(Colours, HexTextAndWebColoursSplitTheValueByItsTextsLength) {
     using Texts = std::vector<std::string>;
     EXPECT_EQ((Texts{HexText(0), HexText(256), HexText(0xABCDEF), HexText(-1), HexText(INT32_MIN)}),
               (Texts{"0", "100", "ABCDEF", "FFFFFFFF", "80000000"}));
-    const std::tuple<const char*, const char*, const char*> hex[] = {
-        {"FF", "NORMAL", "FF0000"},   {"5", "NORMAL", "000000"},      {"", "normal", "000000"},
-        {"ABC", "NORMAL", ""},        {"12345", "NORMAL", ""},        {"1234567", "NORMAL", ""},
-        {"1234", "Normal", "341200"}, {"123456", "NORMAL", "563412"}, {"123456", "red", "56"},
-        {"123456", "Green", "34"},    {"123456", "BLUE", "12"},       {"1234", "blue", "00"},
-        {"ABC", "red", ""},           {"123456", "purple", ""}};
-    for (const auto& [text, mode, expected] : hex)
-        EXPECT_EQ(ColorToHex(text, mode), expected) << text << " " << mode;
     EXPECT_EQ((Texts{ColorToWeb(65280), ColorToWeb(16777215), ColorToWeb(5), ColorToWeb(256),
-                     ColorToWeb(1048575), ColorToWeb(-1)}),
-              (Texts{"00FF00", "FFFFFF", "000000", "", "", ""}));
+                     ColorToWeb(1048575), ColorToWeb(-1), ColorToWeb(0x34), ColorToWeb(0x1234),
+                     ColorToWeb(0x123456)}),
+              (Texts{"00FF00", "FFFFFF", "000000", "", "", "", "340000", "341200", "563412"}));
 }

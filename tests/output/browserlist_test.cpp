@@ -1,11 +1,13 @@
 #include "browserlist.h"
 #include "tempfolder.h"
+#include "testdoubles.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
 using namespace orvelin;
+using orvelin::testing::MemorySettingsBackend;
 using orvelin::testing::TempFolder;
 
 namespace {

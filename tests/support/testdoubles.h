@@ -1,0 +1,53 @@
+#pragma once
+
+#include "settings.h"
+#include "userinterface.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace orvelin::testing {
+
+/// Settings held in memory: a fresh store for every test.
+class MemorySettingsBackend : public SettingsBackend {
+public:
+    std::string get(const std::string& section, const std::string& key,
+                    const std::string& defaultValue) const override {
+        const auto it = m_values.find({NormalizeSection(section), key});
+        return it == m_values.end() ? defaultValue : it->second;
+    }
+    void set(const std::string& section, const std::string& key,
+             const std::string& value) override {
+        m_values[{NormalizeSection(section), key}] = value;
+    }
+
+    /// Whether the key was ever written.
+    bool contains(const std::string& section, const std::string& key) const {
+        return m_values.count({NormalizeSection(section), key}) > 0;
+    }
+    std::size_t size() const { return m_values.size(); }
+
+private:
+    std::map<std::pair<std::string, std::string>, std::string> m_values;
+};
+
+/// A user interface that shows nothing and cancels every question, for code that
+/// loads or saves without anyone watching.
+class SilentUserInterface : public UserInterface {
+public:
+    void showMessage(const std::string&, const std::string&) override {}
+    Answer askYesNoCancel(const std::string&, const std::string&) override {
+        return Answer::Cancel;
+    }
+    Answer askOkCancel(const std::string&, const std::string&) override { return Answer::Ok; }
+    std::optional<std::string> chooseOpenFile(const std::string&) override { return {}; }
+    std::optional<std::string> chooseSaveFile(const std::string&, const std::string&) override {
+        return {};
+    }
+    void showProgress(const std::string&, const std::string&, int) override {}
+    void hideProgress() override {}
+};
+
+} // namespace orvelin::testing
