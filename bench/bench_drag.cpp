@@ -32,8 +32,8 @@ QApplication& App() {
 /// The main editor's part is left out: it fills the same fields whatever the count.
 struct NoEditor : SurfaceEditorLink {
     void ShowProp(int) override {}
-    void ShowGeometry(int) override {}
-    void ShowSelection() override {}
+    void showGeometry(int) override {}
+    void showSelection() override {}
 };
 
 /// Where button `i` of 101 stands: ten to a row, small enough to fit the applet.
@@ -55,9 +55,9 @@ void BM_DragStepWith101SelectedButtons(benchmark::State& state) {
     FrmDesign design(model, list);
     DesignInteraction interaction(design, model, list, editor);
     for (int i = 1; i <= kButtons; ++i) {
-        model.AddButton(kFactoryDefaultButton);
+        model.addButton(kFactoryDefaultButton);
         const QRect r = Place(i);
-        ButtonRecord& b = model.Button(i);
+        ButtonRecord& b = model.button(i);
         b.x = static_cast<std::int16_t>(r.x());
         b.y = static_cast<std::int16_t>(r.y());
         b.Width = static_cast<std::int16_t>(r.width());
@@ -82,8 +82,8 @@ void BM_DragStepWith101SelectedButtons(benchmark::State& state) {
         interaction.pButtons_MouseMove(1, forth ? &right : &left);
         forth = !forth;
     }
-    if (model.Button(kButtons).x != Place(kButtons).x() &&
-        model.Button(kButtons).x != Place(kButtons).x() + 1)
+    if (model.button(kButtons).x != Place(kButtons).x() &&
+        model.button(kButtons).x != Place(kButtons).x() + 1)
         state.SkipWithError("the group did not move as one");
 }
 BENCHMARK(BM_DragStepWith101SelectedButtons);

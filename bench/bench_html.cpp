@@ -23,8 +23,8 @@ ProjectModel fullProject() {
     model.AppletProgramOUT = "5 1 1 FFFFFF;4 1 1 Back&nbspagain;";
     model.BackImg = "C:\\web\\images\\page background.jpg";
     for (int i = 1; i <= kMaxButtons; ++i) {
-        model.AddButton(kFactoryDefaultButton);
-        ButtonRecord& b = model.Button(i);
+        model.addButton(kFactoryDefaultButton);
+        ButtonRecord& b = model.button(i);
         const std::string n = std::to_string(i);
         b.x = static_cast<std::int16_t>((i % 10) * 50);
         b.y = static_cast<std::int16_t>((i / 10) * 30);
@@ -50,13 +50,13 @@ void useBuildProgramFolder() {
     const std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", ec);
     const std::filesystem::path bin = exe.parent_path().parent_path() / "bin";
     if (!ec && std::filesystem::exists(bin / "Orvel.ini", ec))
-        SetProgramFolderOverride(bin.string());
+        setProgramFolderOverride(bin.string());
 }
 
 void BM_MakeHtml(benchmark::State& state) {
     useBuildProgramFolder();
     ProjectModel model = fullProject();
-    const std::string& name = NameTheApplet(model);
+    const std::string& name = nameTheApplet(model);
     const std::string jsCaller = GetJSCaller(name);
     std::size_t bytes = 0;
     for (auto _ : state) {
@@ -72,7 +72,7 @@ BENCHMARK(BM_MakeHtml);
 void BM_PlainStreamOfTheSameBytes(benchmark::State& state) {
     useBuildProgramFolder();
     ProjectModel model = fullProject();
-    const std::string& name = NameTheApplet(model);
+    const std::string& name = nameTheApplet(model);
     const std::string text = MakeHTML(model, name, GetJSCaller(name)).text;
     std::vector<std::string> lines;
     for (std::size_t start = 0, end; start < text.size(); start = end + 2) {

@@ -52,7 +52,7 @@ Fixture& Shared() {
         m.ButtonCount = kMaxButtons;
         ImageCache cache;
         for (int i = 1; i <= kMaxButtons; ++i) {
-            ButtonRecord& b = m.Button(i);
+            ButtonRecord& b = m.button(i);
             b.x = static_cast<std::int16_t>(((i - 1) % 11) * 72 + 4);
             b.y = static_cast<std::int16_t>(((i - 1) / 11) * 42 + 4);
             b.Width = 68;
@@ -74,7 +74,7 @@ void BM_RenderSurface101Buttons(benchmark::State& state) {
     RenderOptions options;
     options.images = &images;
     for (auto _ : state) {
-        QImage surface = RenderSurface(f.model, ButtonState::UP, options);
+        QImage surface = renderSurface(f.model, ButtonState::UP, options);
         benchmark::DoNotOptimize(surface.constBits());
     }
 }
@@ -84,16 +84,16 @@ void BM_DirectQPainter101Buttons(benchmark::State& state) {
     Fixture& f = Shared();
     const ProjectModel& m = f.model;
     for (auto _ : state) {
-        QImage surface = NewPicture(QSize(m.AppletWidth, m.AppletHeight));
+        QImage surface = newPicture(QSize(m.AppletWidth, m.AppletHeight));
         QPainter p(&surface);
-        p.fillRect(surface.rect(), ColorFromRef(m.BackGround));
+        p.fillRect(surface.rect(), colorFromRef(m.BackGround));
         for (int i = 1; i <= m.ButtonCount; ++i) {
-            const ButtonRecord& b = m.Button(i);
+            const ButtonRecord& b = m.button(i);
             const QRect r(b.x, b.y, b.Width, b.Height);
             p.save();
             p.setClipRect(r);
-            p.fillRect(r, ColorFromRef(b.BackColorUP));
-            DrawPlacedImage(p, f.images[static_cast<std::size_t>(i - 1)], r, b.ImgStyleUP);
+            p.fillRect(r, colorFromRef(b.BackColorUP));
+            drawPlacedImage(p, f.images[static_cast<std::size_t>(i - 1)], r, b.ImgStyleUP);
             QFont font(QString::fromStdString(b.FontUP));
             font.setPointSize(b.FontSizeUP);
             p.setFont(font);

@@ -26,7 +26,7 @@ ProjectModel fullProject() {
     ProjectModel m;
     m.AppletProgramStart = "1 1;2 2;";
     for (int b = 1; b <= kMaxButtons; ++b) {
-        ButtonRecord& r = m.Button(b);
+        ButtonRecord& r = m.button(b);
         r.x = static_cast<std::int16_t>(b * 5);
         r.y = static_cast<std::int16_t>(b * 3);
         std::string label;
@@ -132,7 +132,7 @@ BENCHMARK(BM_WritePlainStream)->UseRealTime();
 void BM_ProjectTextInMemory(benchmark::State& state) {
     const ProjectModel model = fullProject();
     for (auto _ : state)
-        benchmark::DoNotOptimize(ProjectText(model));
+        benchmark::DoNotOptimize(projectText(model));
 }
 BENCHMARK(BM_ProjectTextInMemory);
 

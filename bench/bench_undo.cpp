@@ -40,9 +40,9 @@ struct Bench {
         designer.start({});
         Editor& editor = designer.mainWindow().editor();
         while (designer.model().ButtonCount < kButtons)
-            editor.AddButton();
+            editor.addButton();
         for (int i = 1; i <= kButtons; ++i) {
-            ButtonRecord& b = designer.model().Button(i);
+            ButtonRecord& b = designer.model().button(i);
             b.x = static_cast<std::int16_t>(5 + ((i - 1) % 10) * 50);
             b.y = static_cast<std::int16_t>(5 + ((i - 1) / 10) * 15);
             b.Width = 45;
@@ -51,7 +51,7 @@ struct Bench {
         std::vector<int> all(kButtons);
         for (int i = 0; i < kButtons; ++i)
             all[static_cast<std::size_t>(i)] = i + 1;
-        editor.SetListSelection(all);
+        editor.setListSelection(all);
         designer.mainWindow().history().clear();
         QApplication::processEvents();
     }
@@ -83,7 +83,7 @@ void UndoRedo(benchmark::State& state, bool timeUndo) {
     Bench bench;
     UndoHistory& history = bench.designer.mainWindow().history();
     for (int i = 1; i <= kButtons; ++i)
-        bench.designer.model().Button(i).x += 3;
+        bench.designer.model().button(i).x += 3;
     history.capture();
     if (history.stack().count() != 1)
         state.SkipWithError("the group move made no single step");
@@ -99,7 +99,7 @@ void UndoRedo(benchmark::State& state, bool timeUndo) {
     }
     if (!timeUndo)
         history.redo();
-    if (bench.designer.model().Button(kButtons).x != 5 + 3)
+    if (bench.designer.model().button(kButtons).x != 5 + 3)
         state.SkipWithError("redo did not put the move back");
 }
 

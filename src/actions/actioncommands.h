@@ -45,19 +45,19 @@ struct CommandInputs {
 };
 
 /// "Show" / "Hide": "c B".
-CommandResult BuildShowHide(ActionCommand command, const CommandInputs& in);
+CommandResult buildShowHide(ActionCommand command, const CommandInputs& in);
 /// "Move": "3 B X Y W H", an empty box written as -999.
-CommandResult BuildMove(const CommandInputs& in);
+CommandResult buildMove(const CommandInputs& in);
 /// "Set Label": "4 B S T"; may change `in.label`.
-CommandResult BuildSetLabel(CommandInputs& in);
+CommandResult buildSetLabel(CommandInputs& in);
 /// "Set Color": "5 B S RGB" when the box holds exactly six characters.
-CommandResult BuildSetColor(const CommandInputs& in);
+CommandResult buildSetColor(const CommandInputs& in);
 /// "Wait": "6 M"; needs no button.
-CommandResult BuildWait(const CommandInputs& in);
+CommandResult buildWait(const CommandInputs& in);
 /// "Call JavaScript": "7 0 J"; needs no button.
-CommandResult BuildCallJavaScript(const CommandInputs& in);
+CommandResult buildCallJavaScript(const CommandInputs& in);
 
 /// Dispatches on the command number (1 to 7); anything else builds nothing.
-CommandResult BuildCommand(int command, CommandInputs& in);
+CommandResult buildCommand(int command, CommandInputs& in);
 
 } // namespace orvelin

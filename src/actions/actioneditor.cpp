@@ -15,14 +15,14 @@ namespace orvelin {
 namespace {
 
 // The second line of "Wrong Parameters": which of Move's boxes holds the wrong value.
-std::string WrongBoxLine(int box) {
+std::string wrongBoxLine(int box) {
     static const char* const names[] = {"X", "Y", "width", "height"};
     if (box < 0 || box > 3)
         return {};
-    return std::string(kCrLf) + Messages()[Msg::WrongBox] + names[box];
+    return std::string(kCrLf) + messages()[Msg::WrongBox] + names[box];
 }
 
-std::string MoveBox(std::string word) {
+std::string moveBox(std::string word) {
     return word == "-999" ? std::string() : word;
 }
 
@@ -45,20 +45,20 @@ void ActionEditor::open(std::string_view kind) {
 
     m_buttonTexts.clear();
     for (int i = 1; i <= m_model.ButtonCount; ++i)
-        m_buttonTexts.push_back(Messages()[Msg::ButtonPrefix] + std::to_string(i));
+        m_buttonTexts.push_back(messages()[Msg::ButtonPrefix] + std::to_string(i));
     m_button = m_buttonTexts.empty() ? -1 : 0;
     setCommand(0);
     m_state = 0;
 
     std::string program;
-    if (IsButtonProgramKind(kind)) {
+    if (isButtonProgramKind(kind)) {
         // With no current button there is no program to show, and nothing is wrong.
-        if (const std::string* slot = m_model.ProgramSlot(kind, m_model.CurrentButton))
+        if (const std::string* slot = m_model.programSlot(kind, m_model.CurrentButton))
             program = *slot;
-    } else if (IsAppletProgramKind(kind)) {
-        program = *m_model.ProgramSlot(kind, 0);
+    } else if (isAppletProgramKind(kind)) {
+        program = *m_model.programSlot(kind, 0);
     } else {
-        m_ui.showWarning(Messages()[Msg::WrongReturnParameters]);
+        m_ui.showWarning(messages()[Msg::WrongReturnParameters]);
         return;
     }
     appendProgram(program);
@@ -122,7 +122,7 @@ bool ActionEditor::add() {
     // would cut the label there and leave the rest as a line of its own.
     if (m_command + 1 == static_cast<int>(ActionCommand::SetLabel) && !m_buttonTexts.empty() &&
         m_inputs.label.find(';') != std::string::npos &&
-        m_ui.askYesNoCancel(Messages()[Msg::LabelCutAtSemicolon]) != UserInterface::Answer::Yes)
+        m_ui.askYesNoCancel(messages()[Msg::LabelCutAtSemicolon]) != UserInterface::Answer::Yes)
         return false;
     CommandInputs in;
     in.haveButtons = !m_buttonTexts.empty();
@@ -136,16 +136,16 @@ bool ActionEditor::add() {
     in.milliseconds = m_inputs.milliseconds;
     in.javaScript = m_inputs.javaScript;
 
-    CommandResult result = BuildCommand(m_command + 1, in);
+    CommandResult result = buildCommand(m_command + 1, in);
     m_inputs.label = in.label;
     switch (result.outcome) {
     case CommandResult::Outcome::Line:
         break;
     case CommandResult::Outcome::NoButtons:
-        m_ui.showWarning(Messages()[Msg::NoButtonsOnApplet]);
+        m_ui.showWarning(messages()[Msg::NoButtonsOnApplet]);
         return false;
     case CommandResult::Outcome::WrongParameters:
-        m_ui.showWarning(result.error + WrongBoxLine(result.box), Messages()[Msg::WrongParameters]);
+        m_ui.showWarning(result.error + wrongBoxLine(result.box), messages()[Msg::WrongParameters]);
         return false;
     case CommandResult::Outcome::Silent:
         return false;
@@ -219,12 +219,12 @@ bool ActionEditor::loadLine(int index) {
         return false;
     const std::string& line =
         m_code[static_cast<std::size_t>(m_source[static_cast<std::size_t>(index)])];
-    const int command = CommandNumber(line);
+    const int command = commandNumber(line);
     if (command == 0)
         return false;
     setCommand(command - 1);
     if (command <= static_cast<int>(ActionCommand::SetColor)) {
-        const int b = EntryIndex(GetWord(line, 2), m_buttonTexts.size());
+        const int b = entryIndex(GetWord(line, 2), m_buttonTexts.size());
         if (b >= 0)
             m_button = b;
     }
@@ -233,14 +233,14 @@ bool ActionEditor::loadLine(int index) {
     case ActionCommand::Hide:
         break;
     case ActionCommand::Move:
-        m_inputs.x = MoveBox(GetWord(line, 3));
-        m_inputs.y = MoveBox(GetWord(line, 4));
-        m_inputs.width = MoveBox(GetWord(line, 5));
-        m_inputs.height = MoveBox(GetWord(line, 6));
+        m_inputs.x = moveBox(GetWord(line, 3));
+        m_inputs.y = moveBox(GetWord(line, 4));
+        m_inputs.width = moveBox(GetWord(line, 5));
+        m_inputs.height = moveBox(GetWord(line, 6));
         break;
     case ActionCommand::SetLabel:
     case ActionCommand::SetColor: {
-        const int s = EntryIndex(GetWord(line, 3), m_stateTexts.size());
+        const int s = entryIndex(GetWord(line, 3), m_stateTexts.size());
         if (s >= 0)
             m_state = s;
         m_inputs.label = command == static_cast<int>(ActionCommand::SetLabel)
@@ -259,12 +259,12 @@ bool ActionEditor::loadLine(int index) {
 }
 
 void ActionEditor::takeColor(std::int32_t colour) {
-    m_inputs.label = ColorToWeb(colour);
+    m_inputs.label = colorToWeb(colour);
 }
 
 std::vector<int> ActionEditor::targetButtons(const std::vector<bool>& selected) const {
     std::vector<int> buttons;
-    if (!IsButtonProgramKind(m_kind))
+    if (!isButtonProgramKind(m_kind))
         return buttons;
     // The program came from the current button alone; every selected button gets it.
     for (int i = 1; i <= m_model.ButtonCount && i < kButtonSlots; ++i)
@@ -276,23 +276,23 @@ std::vector<int> ActionEditor::targetButtons(const std::vector<bool>& selected) 
 
 void ActionEditor::ok(const std::vector<bool>& selected) {
     const std::string program = storeProgram();
-    if (IsButtonProgramKind(m_kind)) {
+    if (isButtonProgramKind(m_kind)) {
         for (int i : targetButtons(selected))
-            *m_model.ProgramSlot(m_kind, i) = program;
-    } else if (IsAppletProgramKind(m_kind)) {
-        *m_model.ProgramSlot(m_kind, 0) = program;
+            *m_model.programSlot(m_kind, i) = program;
+    } else if (isAppletProgramKind(m_kind)) {
+        *m_model.programSlot(m_kind, 0) = program;
     }
     m_model.Saved = false;
 }
 
 void ActionEditor::appendProgram(std::string_view text) {
-    for (std::string& line : SplitProgram(text))
+    for (std::string& line : splitProgram(text))
         m_code.push_back(std::move(line));
     refreshActionList();
 }
 
 std::string ActionEditor::storeProgram() const {
-    return JoinProgram(m_code);
+    return joinProgram(m_code);
 }
 
 void ActionEditor::refreshActionList() {
@@ -307,7 +307,7 @@ void ActionEditor::refreshActionList() {
     m_source.clear();
     m_selection = -1;
     for (std::size_t i = 0; i < m_code.size(); ++i) {
-        if (std::optional<std::string> readable = ReadableLine(m_code[i], texts)) {
+        if (std::optional<std::string> readable = readableLine(m_code[i], texts)) {
             m_readable.push_back(std::move(*readable));
             m_source.push_back(static_cast<int>(i));
         }

@@ -47,7 +47,7 @@ public:
     /// Copy and paste go through `buffer`, which outlives the editor.
     ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
                  ActionEditorTexts texts = {},
-                 std::array<std::string, 3> stateCaptions = DefaultStateCaptions());
+                 std::array<std::string, 3> stateCaptions = defaultStateCaptions());
 
     /**
      * Fills the lists for `kind` and loads its program: a button kind from the

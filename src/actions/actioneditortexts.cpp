@@ -44,7 +44,7 @@ std::vector<std::string> ActionEditorTexts::commandList() const {
     return {commands.begin(), commands.end()};
 }
 
-std::array<std::string, 3> DefaultStateCaptions() {
+std::array<std::string, 3> defaultStateCaptions() {
     return {"Up State", "Mouse-Over", "Down State"};
 }
 

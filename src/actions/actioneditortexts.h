@@ -51,6 +51,6 @@ struct ActionEditorTexts {
 };
 
 /// The captions of the main editor's three state buttons, UP first.
-std::array<std::string, 3> DefaultStateCaptions();
+std::array<std::string, 3> defaultStateCaptions();
 
 } // namespace orvelin

@@ -12,18 +12,18 @@ namespace {
 // a number inside the list, which is how a command for a since-removed button
 // still gets a readable line.
 std::string Entry(const std::vector<std::string>& list, std::string_view number) {
-    const int index = EntryIndex(number, list.size());
+    const int index = entryIndex(number, list.size());
     return index < 0 ? std::string() : list[static_cast<std::size_t>(index)];
 }
 
 // A move field as the list shows it: "left as it is" reads as two blanks.
-std::string MoveField(std::string_view word) {
+std::string moveField(std::string_view word) {
     return ReplaceAll(word, "-999", "  ");
 }
 
 } // namespace
 
-std::string ProgramKindTitle(std::string_view kind) {
+std::string programKindTitle(std::string_view kind) {
     if (kind == "ProgramUP")
         return "Set Action: On Leaving Button...";
     if (kind == "ProgramOVER")
@@ -41,7 +41,7 @@ std::string ProgramKindTitle(std::string_view kind) {
     return {};
 }
 
-std::vector<std::string> SplitProgram(std::string_view text) {
+std::vector<std::string> splitProgram(std::string_view text) {
     std::vector<std::string> lines;
     std::string line;
     for (char c : text) {
@@ -55,7 +55,7 @@ std::vector<std::string> SplitProgram(std::string_view text) {
     return lines;
 }
 
-std::string JoinProgram(const std::vector<std::string>& lines) {
+std::string joinProgram(const std::vector<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines) {
         text += line;
@@ -81,22 +81,22 @@ std::string GetWord(std::string_view line, int n) {
     return {};
 }
 
-int CommandNumber(std::string_view line) {
+int commandNumber(std::string_view line) {
     const std::string first = GetWord(line, 1);
     if (first.size() != 1 || first[0] < '1' || first[0] > '7')
         return 0;
     return first[0] - '0';
 }
 
-int EntryIndex(std::string_view word, std::size_t listSize) {
-    const WholeNumber n = ParseWholeNumber(word, 1, 32767);
+int entryIndex(std::string_view word, std::size_t listSize) {
+    const WholeNumber n = parseWholeNumber(word, 1, 32767);
     if (n.error != NumberError::None || n.value > static_cast<std::int64_t>(listSize))
         return -1;
     return static_cast<int>(n.value - 1);
 }
 
-std::optional<std::string> ReadableLine(std::string_view line, const ReadableTexts& texts) {
-    const int command = CommandNumber(line);
+std::optional<std::string> readableLine(std::string_view line, const ReadableTexts& texts) {
+    const int command = commandNumber(line);
     if (command == 0)
         return std::nullopt;
     const std::size_t index = static_cast<std::size_t>(command - 1);
@@ -108,9 +108,9 @@ std::optional<std::string> ReadableLine(std::string_view line, const ReadableTex
         return name + " " + Entry(texts.buttons, GetWord(line, 2));
     case 3:
         return name + " " + Entry(texts.buttons, GetWord(line, 2)) +
-               "  ->  x:" + MoveField(GetWord(line, 3)) + " y:" + MoveField(GetWord(line, 4)) +
-               " " + texts.widthCaption + MoveField(GetWord(line, 5)) + " " + texts.heightCaption +
-               MoveField(GetWord(line, 6));
+               "  ->  x:" + moveField(GetWord(line, 3)) + " y:" + moveField(GetWord(line, 4)) +
+               " " + texts.widthCaption + moveField(GetWord(line, 5)) + " " + texts.heightCaption +
+               moveField(GetWord(line, 6));
     case 4:
         return name + " " + Entry(texts.buttons, GetWord(line, 2)) + " " +
                Entry(texts.states, GetWord(line, 3)) + "  ->  " + DecodeLabel(GetWord(line, 4));

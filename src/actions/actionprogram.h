@@ -20,17 +20,17 @@ inline constexpr std::array<std::string_view, 7> kProgramKinds = {
 };
 
 /// How the designer titles the editor for `kind`; empty for an unknown kind.
-std::string ProgramKindTitle(std::string_view kind);
+std::string programKindTitle(std::string_view kind);
 
 /**
  * Splits program text into its command lines. Every ";" closes a line, empty
  * ones included ("1 2;;" gives "1 2" and ""); text after the last ";" is
  * dropped, so a program that lost its final ";" loses its last command.
  */
-std::vector<std::string> SplitProgram(std::string_view text);
+std::vector<std::string> splitProgram(std::string_view text);
 
 /// Program text from command lines: each line followed by ";".
-std::string JoinProgram(const std::vector<std::string>& lines);
+std::string joinProgram(const std::vector<std::string>& lines);
 
 /**
  * The n-th blank-separated word of `line`, counted from 1; empty when there is
@@ -39,10 +39,10 @@ std::string JoinProgram(const std::vector<std::string>& lines);
 std::string GetWord(std::string_view line, int n);
 
 /// The command number (1 to 7) a command line starts with, 0 for none.
-int CommandNumber(std::string_view line);
+int commandNumber(std::string_view line);
 
 /// The 0-based entry of a list that a 1-based number word names, -1 for none.
-int EntryIndex(std::string_view word, std::size_t listSize);
+int entryIndex(std::string_view word, std::size_t listSize);
 
 /// The texts a readable line is made of; a language file may have changed them all.
 struct ReadableTexts {
@@ -58,6 +58,6 @@ struct ReadableTexts {
  * "Show Button 2" or "Wait: 500 ms". Nothing when the first word is not one of
  * "1" to "7". A button or state number outside its list shows as empty text.
  */
-std::optional<std::string> ReadableLine(std::string_view line, const ReadableTexts& texts);
+std::optional<std::string> readableLine(std::string_view line, const ReadableTexts& texts);
 
 } // namespace orvelin

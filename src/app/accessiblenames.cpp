@@ -84,13 +84,13 @@ constexpr ControlName kNames[] = {
 };
 
 /// The widget of `item`, or the first one of its layout, when it takes the focus.
-QWidget* FirstControl(QLayoutItem* item) {
+QWidget* firstControl(QLayoutItem* item) {
     if (item == nullptr)
         return nullptr;
     if (QWidget* w = item->widget())
         return w->focusPolicy() != Qt::NoFocus ? w : nullptr;
     if (QLayout* inner = item->layout())
-        return inner->count() > 0 ? FirstControl(inner->itemAt(0)) : nullptr;
+        return inner->count() > 0 ? firstControl(inner->itemAt(0)) : nullptr;
     return nullptr;
 }
 
@@ -100,7 +100,7 @@ constexpr const char* kMainTabs[] = {"btnBuild", "btnUP", "btnOVER", "btnDOWN", 
 
 } // namespace
 
-void NameControls(QWidget& window) {
+void nameControls(QWidget& window) {
     const QString windowName = window.objectName();
     for (const ControlName& entry : kNames) {
         if (windowName != QLatin1String(entry.window))
@@ -135,7 +135,7 @@ void NameControls(QWidget& window) {
             } else if (qobject_cast<QBoxLayout*>(layout) != nullptr) {
                 next = layout->itemAt(i + 1);
             }
-            if (QWidget* field = FirstControl(next))
+            if (QWidget* field = firstControl(next))
                 label->setBuddy(field);
         }
     }

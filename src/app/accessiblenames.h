@@ -10,6 +10,6 @@ namespace orvelin {
  * the control's objectName, and makes each caption label (`lblX`) the buddy of the
  * field it names. Called once a window has all its controls; a name already set stays.
  */
-void NameControls(QWidget& window);
+void nameControls(QWidget& window);
 
 } // namespace orvelin

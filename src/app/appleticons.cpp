@@ -12,13 +12,13 @@ namespace {
 constexpr int kSide = 24;
 
 // The applet area the pointer glyphs stand on.
-void DrawApplet(QPainter& p, const QColor& fill) {
+void drawApplet(QPainter& p, const QColor& fill) {
     p.setPen(QPen(QColor(70, 90, 120), 1.2));
     p.setBrush(fill);
     p.drawRoundedRect(QRectF(2.5, 4.5, 15, 11), 2, 2);
 }
 
-void DrawPointer(QPainter& p, QPointF tip) {
+void drawPointer(QPainter& p, QPointF tip) {
     QPainterPath arrow;
     arrow.moveTo(tip);
     arrow.lineTo(tip + QPointF(0, 11));
@@ -33,7 +33,7 @@ void DrawPointer(QPainter& p, QPointF tip) {
     p.drawPath(arrow);
 }
 
-void DrawStart(QPainter& p) {
+void drawStart(QPainter& p) {
     p.setPen(QPen(QColor(30, 110, 50), 1.2));
     p.setBrush(QColor(70, 180, 90));
     QPolygonF triangle;
@@ -41,41 +41,41 @@ void DrawStart(QPainter& p) {
     p.drawPolygon(triangle);
 }
 
-void DrawOver(QPainter& p) {
-    DrawApplet(p, QColor(200, 225, 250));
-    DrawPointer(p, QPointF(11, 9));
+void drawOver(QPainter& p) {
+    drawApplet(p, QColor(200, 225, 250));
+    drawPointer(p, QPointF(11, 9));
 }
 
-void DrawDown(QPainter& p) {
-    DrawApplet(p, QColor(250, 215, 190));
+void drawDown(QPainter& p) {
+    drawApplet(p, QColor(250, 215, 190));
     p.setPen(QPen(QColor(200, 80, 30), 1.4));
     p.drawLine(QPointF(10, 4), QPointF(10, 7));
     p.drawLine(QPointF(5, 9), QPointF(8, 9.5));
     p.drawLine(QPointF(6.5, 5), QPointF(8.5, 7.2));
-    DrawPointer(p, QPointF(11, 9));
+    drawPointer(p, QPointF(11, 9));
 }
 
-void DrawOut(QPainter& p) {
-    DrawApplet(p, QColor(225, 225, 225));
+void drawOut(QPainter& p) {
+    drawApplet(p, QColor(225, 225, 225));
     p.setPen(QPen(QColor(150, 40, 40), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.drawLine(QPointF(10, 10), QPointF(21, 18));
     p.drawLine(QPointF(21, 18), QPointF(21, 13));
     p.drawLine(QPointF(21, 18), QPointF(16, 18.5));
 }
 
-void Draw(QPainter& p, AppletMoment moment, bool hasProgram, bool disabled) {
+void draw(QPainter& p, AppletMoment moment, bool hasProgram, bool disabled) {
     switch (moment) {
     case AppletMoment::Start:
-        DrawStart(p);
+        drawStart(p);
         break;
     case AppletMoment::Over:
-        DrawOver(p);
+        drawOver(p);
         break;
     case AppletMoment::Down:
-        DrawDown(p);
+        drawDown(p);
         break;
     case AppletMoment::Out:
-        DrawOut(p);
+        drawOut(p);
         break;
     }
     if (hasProgram) {
@@ -91,11 +91,11 @@ void Draw(QPainter& p, AppletMoment moment, bool hasProgram, bool disabled) {
 
 } // namespace
 
-QIcon AppletMomentIcon(AppletMoment moment, bool hasProgram) {
+QIcon appletMomentIcon(AppletMoment moment, bool hasProgram) {
     QIcon icon;
     for (bool disabled : {false, true})
-        AddPaintedPixmaps(
-            icon, QSize(kSide, kSide), [=](QPainter& p) { Draw(p, moment, hasProgram, disabled); },
+        addPaintedPixmaps(
+            icon, QSize(kSide, kSide), [=](QPainter& p) { draw(p, moment, hasProgram, disabled); },
             disabled ? QIcon::Disabled : QIcon::Normal);
     return icon;
 }

@@ -12,6 +12,6 @@ enum class AppletMoment { Start, Over, Down, Out };
  * program folder needs no image files. `hasProgram` adds the mark that tells a
  * program is attached.
  */
-QIcon AppletMomentIcon(AppletMoment moment, bool hasProgram);
+QIcon appletMomentIcon(AppletMoment moment, bool hasProgram);
 
 } // namespace orvelin

@@ -26,7 +26,7 @@ namespace {
 constexpr std::array<AppletMoment, 4> kMoments = {AppletMoment::Start, AppletMoment::Over,
                                                   AppletMoment::Down, AppletMoment::Out};
 
-const char* MomentName(AppletMoment moment) {
+const char* momentName(AppletMoment moment) {
     switch (moment) {
     case AppletMoment::Start:
         return "picAppletProgramStart";
@@ -40,7 +40,7 @@ const char* MomentName(AppletMoment moment) {
     return "";
 }
 
-const std::string& MomentProgram(const ProjectModel& model, AppletMoment moment) {
+const std::string& momentProgram(const ProjectModel& model, AppletMoment moment) {
     switch (moment) {
     case AppletMoment::Over:
         return model.AppletProgramOVER;
@@ -70,7 +70,7 @@ const char* AppletPanel::ProgramKind(AppletMoment moment) {
     return "";
 }
 
-QString AppletPanel::MomentTitle(AppletMoment moment) {
+QString AppletPanel::momentTitle(AppletMoment moment) {
     switch (moment) {
     case AppletMoment::Start:
         return QStringLiteral("On Applet Start");
@@ -97,10 +97,10 @@ AppletPanel::AppletPanel(PropertyEditor& properties, QWidget* parent)
 }
 
 QWidget* AppletPanel::buildSize() {
-    QGroupBox* group = panel::Group(QStringLiteral("Applet"), this);
+    QGroupBox* group = panel::group(QStringLiteral("Applet"), this);
     auto* grid = new QGridLayout(group);
-    m_width = panel::LineEdit(QStringLiteral("txtAppletWidth"), group, 56);
-    m_height = panel::LineEdit(QStringLiteral("txtAppletHeight"), group, 56);
+    m_width = panel::lineEdit(QStringLiteral("txtAppletWidth"), group, 56);
+    m_height = panel::lineEdit(QStringLiteral("txtAppletHeight"), group, 56);
     m_width->setToolTip(QStringLiteral("The applet's width in pixels"));
     m_height->setToolTip(QStringLiteral("The applet's height in pixels"));
     grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 0);
@@ -108,7 +108,7 @@ QWidget* AppletPanel::buildSize() {
     grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 0, 2);
     grid->addWidget(m_height, 0, 3);
     grid->setColumnStretch(4, 1);
-    m_sizeNote = new QLabel(QString::fromStdString(Messages()[Msg::AppletSizeRange]), group);
+    m_sizeNote = new QLabel(QString::fromStdString(messages()[Msg::AppletSizeRange]), group);
     m_sizeNote->setObjectName(QStringLiteral("lblSizeNote"));
     m_sizeNote->setWordWrap(true);
     m_sizeNote->setStyleSheet(QStringLiteral("color: #a03000;"));
@@ -120,7 +120,7 @@ QWidget* AppletPanel::buildSize() {
     m_radioButtons = new QRadioButton(QStringLiteral("Act like radio buttons"), group);
     m_radioButtons->setObjectName(QStringLiteral("imgRadioBtn"));
     m_downButton =
-        panel::CheckBox(QStringLiteral("chkDOWNBtn"), QStringLiteral("Use Down State"), group);
+        panel::checkBox(QStringLiteral("chkDOWNBtn"), QStringLiteral("Use Down State"), group);
     m_downButton->setToolTip(QStringLiteral("The applet's Down State button option"));
     grid->addWidget(m_pushButtons, 1, 0, 1, 5);
     grid->addWidget(m_radioButtons, 2, 0, 1, 5);
@@ -132,10 +132,10 @@ QWidget* AppletPanel::buildSize() {
         m_sizeNote->setVisible(!accepted && !text.trimmed().isEmpty());
     };
     connect(m_width, &QLineEdit::textChanged, this, [this, sizeTyped](const QString& text) {
-        sizeTyped(m_properties.SetAppletWidth(text.toStdString()), text);
+        sizeTyped(m_properties.setAppletWidth(text.toStdString()), text);
     });
     connect(m_height, &QLineEdit::textChanged, this, [this, sizeTyped](const QString& text) {
-        sizeTyped(m_properties.SetAppletHeight(text.toStdString()), text);
+        sizeTyped(m_properties.setAppletHeight(text.toStdString()), text);
     });
     for (QLineEdit* box : {m_width, m_height})
         connect(box, &QLineEdit::editingFinished, this, [this] {
@@ -144,27 +144,27 @@ QWidget* AppletPanel::buildSize() {
         });
     connect(m_pushButtons, &QRadioButton::toggled, this, [this](bool on) {
         if (on)
-            m_properties.SetBehaviour(0);
+            m_properties.setBehaviour(0);
     });
     connect(m_radioButtons, &QRadioButton::toggled, this, [this](bool on) {
         if (on)
-            m_properties.SetBehaviour(1);
+            m_properties.setBehaviour(1);
     });
     connect(m_downButton, &QCheckBox::toggled, this,
-            [this](bool on) { m_properties.SetDOWNBtn(on); });
+            [this](bool on) { m_properties.setDOWNBtn(on); });
     return group;
 }
 
 QWidget* AppletPanel::buildBackground() {
-    QGroupBox* group = panel::Group(QStringLiteral("Background"), this);
+    QGroupBox* group = panel::group(QStringLiteral("Background"), this);
     auto* grid = new QGridLayout(group);
     grid->setHorizontalSpacing(4);
     m_background = new ColorButton(QStringLiteral("picBackGround"), group);
     m_background->setToolTip(QStringLiteral("Applet background colour"));
-    m_backImg = panel::LineEdit(QStringLiteral("txtBackImg"), group);
-    m_browseBackImg = panel::BrowseButton(QStringLiteral("btnBrowseBackImg"),
+    m_backImg = panel::lineEdit(QStringLiteral("txtBackImg"), group);
+    m_browseBackImg = panel::browseButton(QStringLiteral("btnBrowseBackImg"),
                                           QStringLiteral("Choose a background image"), group);
-    m_backImgStyle = panel::ComboBox(QStringLiteral("cmbBackImgStyle"), false, group);
+    m_backImgStyle = panel::comboBox(QStringLiteral("cmbBackImgStyle"), false, group);
     m_backImgStyle->addItems(
         {QStringLiteral("Center"), QStringLiteral("Tile"), QStringLiteral("Stretch")});
     m_offset = new QPushButton(QStringLiteral("Offset..."), group);
@@ -185,34 +185,34 @@ QWidget* AppletPanel::buildBackground() {
     grid->setColumnStretch(1, 1);
 
     connect(m_background, &ColorButton::colourChosen, this,
-            [this](std::int32_t colour) { m_properties.SetBackGround(colour); });
+            [this](std::int32_t colour) { m_properties.setBackGround(colour); });
     connect(m_backImg, &QLineEdit::textChanged, this,
-            [this](const QString& text) { m_properties.SetBackImg(text.toStdString()); });
-    connect(m_browseBackImg, &QToolButton::clicked, this, [this] { m_properties.BrowseBackImg(); });
+            [this](const QString& text) { m_properties.setBackImg(text.toStdString()); });
+    connect(m_browseBackImg, &QToolButton::clicked, this, [this] { m_properties.browseBackImg(); });
     connect(m_backImgStyle, &QComboBox::currentIndexChanged, this,
-            [this](int index) { m_properties.SetBackImgStyle(index); });
+            [this](int index) { m_properties.setBackImgStyle(index); });
     connect(m_offset, &QPushButton::clicked, this, &AppletPanel::offsetRequested);
     return group;
 }
 
 QWidget* AppletPanel::buildActions() {
-    QGroupBox* group = panel::Group(QStringLiteral(" Set Action:"), this);
+    QGroupBox* group = panel::group(QStringLiteral(" Set Action:"), this);
     group->setObjectName(QStringLiteral("fraAppletActions"));
     auto* row = new QHBoxLayout(group);
     row->setSpacing(2);
     for (std::size_t i = 0; i < kMoments.size(); ++i) {
         const AppletMoment moment = kMoments[i];
         auto* button = new QToolButton(group);
-        button->setObjectName(QString::fromLatin1(MomentName(moment)));
-        button->setToolTip(MomentTitle(moment));
+        button->setObjectName(QString::fromLatin1(momentName(moment)));
+        button->setToolTip(momentTitle(moment));
         button->setAutoRaise(true); // the hover highlight under the pointer
         button->setIconSize(QSize(24, 24));
-        button->setIcon(AppletMomentIcon(moment, false));
+        button->setIcon(appletMomentIcon(moment, false));
         connect(button, &QToolButton::clicked, this, [this, button, moment] {
             // The dialog is modal: drop the hover look before it takes the pointer.
             button->setAttribute(Qt::WA_UnderMouse, false);
             button->update();
-            emit actionRequested(QString::fromLatin1(ProgramKind(moment)), MomentTitle(moment));
+            emit actionRequested(QString::fromLatin1(ProgramKind(moment)), momentTitle(moment));
         });
         row->addWidget(button);
         m_moments[i] = button;
@@ -222,22 +222,22 @@ QWidget* AppletPanel::buildActions() {
 }
 
 void AppletPanel::showApplet(const ProjectModel& model) {
-    panel::SetText(m_width, QString::number(model.AppletWidth));
-    panel::SetText(m_height, QString::number(model.AppletHeight));
+    panel::setText(m_width, QString::number(model.AppletWidth));
+    panel::setText(m_height, QString::number(model.AppletHeight));
     if (model.Behaviour == 1)
         m_radioButtons->setChecked(true);
     else
         m_pushButtons->setChecked(true);
-    panel::SetChecked(m_downButton, model.DOWNBtn != 0);
+    panel::setChecked(m_downButton, model.DOWNBtn != 0);
     m_background->setColour(model.BackGround);
-    panel::SetText(m_backImg, QString::fromStdString(model.BackImg));
+    panel::setText(m_backImg, QString::fromStdString(model.BackImg));
     const int style = model.BackImgStyle;
     m_backImgStyle->setCurrentIndex(style >= 0 && style <= 2 ? style : 0);
     for (std::size_t i = 0; i < kMoments.size(); ++i) {
-        const bool has = !MomentProgram(model, kMoments[i]).empty();
+        const bool has = !momentProgram(model, kMoments[i]).empty();
         if (has != m_hasProgram[i]) {
             m_hasProgram[i] = has;
-            m_moments[i]->setIcon(AppletMomentIcon(kMoments[i], has));
+            m_moments[i]->setIcon(appletMomentIcon(kMoments[i], has));
         }
     }
 }

@@ -36,7 +36,7 @@ public:
 
     /// The program kind ("AppletProgramStart", ...) and title of a moment.
     static const char* ProgramKind(AppletMoment moment);
-    static QString MomentTitle(AppletMoment moment);
+    static QString momentTitle(AppletMoment moment);
 
 signals:
     /// A moment's icon was clicked: edit its program.

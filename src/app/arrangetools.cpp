@@ -28,7 +28,7 @@ struct IconShape {
     std::vector<QRectF> bars;
 };
 
-const std::vector<IconShape>& IconShapes() {
+const std::vector<IconShape>& iconShapes() {
     static const std::vector<IconShape> shapes{
         {"left", 'v', 1.5, {{3, 3, 10, 4}, {3, 9, 6, 4}}},
         {"right", 'v', 14.5, {{3, 3, 10, 4}, {7, 9, 6, 4}}},
@@ -46,15 +46,15 @@ const std::vector<IconShape>& IconShapes() {
 }
 
 /// Drawn for each device pixel ratio, so that the bars stay sharp on dense screens.
-QIcon MakeIcon(const char* name) {
-    const auto& shapes = IconShapes();
+QIcon makeIcon(const char* name) {
+    const auto& shapes = iconShapes();
     const auto it = std::find_if(shapes.begin(), shapes.end(), [name](const IconShape& s) {
         return std::strcmp(s.name, name) == 0;
     });
     QIcon icon;
     if (it == shapes.end())
         return icon;
-    AddPaintedPixmaps(icon, QSize(16, 16), [&shape = *it](QPainter& p) {
+    addPaintedPixmaps(icon, QSize(16, 16), [&shape = *it](QPainter& p) {
         p.setPen(Qt::NoPen);
         p.setBrush(QColor(70, 110, 170));
         for (const QRectF& bar : shape.bars)
@@ -70,7 +70,7 @@ QIcon MakeIcon(const char* name) {
     return icon;
 }
 
-std::int16_t ToRecord(int value) {
+std::int16_t toRecord(int value) {
     return static_cast<std::int16_t>(std::clamp<int>(
         value, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()));
 }
@@ -89,12 +89,12 @@ ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& l
 
     const auto align = [](AlignTo edge) {
         return [edge](std::vector<PixelRect> r, std::size_t ref) {
-            return Align(std::move(r), ref, edge);
+            return orvelin::align(std::move(r), ref, edge);
         };
     };
     const auto same = [](SameSize what) {
         return [what](std::vector<PixelRect> r, std::size_t ref) {
-            return MakeSameSize(std::move(r), ref, what);
+            return makeSameSize(std::move(r), ref, what);
         };
     };
     add("mnuAlignLeft", tr("Align Left"), 2, "left", align(AlignTo::Left));
@@ -108,9 +108,9 @@ ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& l
     m_menu->addSeparator();
     m_toolBar->addSeparator();
     add("mnuDistributeH", tr("Distribute Horizontally"), 3, "dist-h",
-        [](std::vector<PixelRect> r, std::size_t) { return DistributeHorizontally(std::move(r)); });
+        [](std::vector<PixelRect> r, std::size_t) { return distributeHorizontally(std::move(r)); });
     add("mnuDistributeV", tr("Distribute Vertically"), 3, "dist-v",
-        [](std::vector<PixelRect> r, std::size_t) { return DistributeVertically(std::move(r)); });
+        [](std::vector<PixelRect> r, std::size_t) { return distributeVertically(std::move(r)); });
     m_menu->addSeparator();
     m_toolBar->addSeparator();
     add("mnuSameWidth", tr("Same Width"), 2, "width", same(SameSize::Width));
@@ -132,7 +132,7 @@ ArrangeTools::~ArrangeTools() = default;
 
 void ArrangeTools::add(const char* name, const QString& text, int needs, const char* icon,
                        Tool tool) {
-    auto* action = new QAction(MakeIcon(icon), text, m_menu);
+    auto* action = new QAction(makeIcon(icon), text, m_menu);
     action->setObjectName(QString::fromLatin1(name));
     action->setToolTip(needs > 2 ? tr("%1 (at least three selected buttons)").arg(text)
                                  : tr("%1 (on the current button)").arg(text));
@@ -164,13 +164,13 @@ void ArrangeTools::updateEnabled() {
 void ArrangeTools::apply(const Tool& tool, const QString& stepName) {
     std::vector<int> buttons;
     for (int i : m_list.selectedButtons())
-        if (IsButtonNumber(m_model, i))
+        if (isButtonNumber(m_model, i))
             buttons.push_back(i);
     if (buttons.size() < 2)
         return;
     std::vector<PixelRect> rects;
     for (int i : buttons)
-        rects.push_back(ButtonRect(m_model, i));
+        rects.push_back(buttonRect(m_model, i));
     // The others line up on the current button; without one in the group, on the first.
     const auto current = std::find(buttons.begin(), buttons.end(), m_model.CurrentButton);
     const std::size_t reference =
@@ -180,11 +180,11 @@ void ArrangeTools::apply(const Tool& tool, const QString& stepName) {
     for (std::size_t k = 0; k < buttons.size(); ++k) {
         if (placed[k] == rects[k])
             continue;
-        ButtonRecord& b = m_model.Button(buttons[k]);
-        b.x = ToRecord(placed[k].left);
-        b.y = ToRecord(placed[k].top);
-        b.Width = ToRecord(placed[k].width);
-        b.Height = ToRecord(placed[k].height);
+        ButtonRecord& b = m_model.button(buttons[k]);
+        b.x = toRecord(placed[k].left);
+        b.y = toRecord(placed[k].top);
+        b.Width = toRecord(placed[k].width);
+        b.Height = toRecord(placed[k].height);
         m_design.RedrawButton(buttons[k], false, false, false);
         changed = true;
     }
@@ -193,9 +193,9 @@ void ArrangeTools::apply(const Tool& tool, const QString& stepName) {
     m_model.Saved = false;
     // Transparent buttons show what now lies under them.
     m_design.UpdateTransparentBtns();
-    m_design.MoveSizer(m_model.CurrentButton);
-    m_design.MoveLabelPositioner(m_model.CurrentButton);
-    m_editor.ShowGeometry(m_model.CurrentButton);
+    m_design.moveSizer(m_model.CurrentButton);
+    m_design.moveLabelPositioner(m_model.CurrentButton);
+    m_editor.showGeometry(m_model.CurrentButton);
     m_history.capture(stepName);
 }
 

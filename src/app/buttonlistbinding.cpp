@@ -22,7 +22,7 @@ void ButtonListBinding::show(int current) {
     while (m_widget.count() > m_list.count())
         delete m_widget.takeItem(m_widget.count() - 1);
     while (m_widget.count() < m_list.count())
-        m_widget.addItem(QString::fromStdString(ButtonEntryText(m_widget.count() + 1)));
+        m_widget.addItem(QString::fromStdString(buttonEntryText(m_widget.count() + 1)));
     for (int i = 0; i < m_widget.count(); ++i) {
         QListWidgetItem* item = m_widget.item(i);
         if (item->isSelected() != m_list.isSelected(i + 1))
@@ -45,13 +45,13 @@ void ButtonListBinding::selectionChanged() {
         if (m_widget.item(i)->isSelected())
             selected.push_back(i + 1);
     if (selected != m_list.selectedButtons())
-        m_editor.SetListSelection(selected);
+        m_editor.setListSelection(selected);
 }
 
 void ButtonListBinding::currentChanged(int row) {
     if (m_showing || row < 0)
         return;
-    m_editor.ClickList(row + 1);
+    m_editor.clickList(row + 1);
 }
 
 } // namespace orvelin

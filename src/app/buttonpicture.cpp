@@ -26,7 +26,7 @@ bool ButtonPicture::fitPicture() {
     const QSize wanted = (QSizeF(size().expandedTo(QSize(1, 1))) * ratio).toSize();
     if (m_picture.size() == wanted && m_picture.devicePixelRatio() == ratio)
         return false;
-    QImage fitted = NewPicture(wanted);
+    QImage fitted = newPicture(wanted);
     fitted.setDevicePixelRatio(ratio);
     if (!m_picture.isNull()) {
         QPainter painter(&fitted);

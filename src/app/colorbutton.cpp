@@ -24,10 +24,10 @@ void ColorButton::setColour(std::int32_t colour) {
 }
 
 void ColorButton::choose() {
-    const QColor chosen = QColorDialog::getColor(ColorFromRef(m_colour), this, toolTip());
+    const QColor chosen = QColorDialog::getColor(colorFromRef(m_colour), this, toolTip());
     if (!chosen.isValid())
         return;
-    m_colour = ColorToRef(chosen);
+    m_colour = colorToRef(chosen);
     updateSwatch();
     emit colourChosen(m_colour);
 }
@@ -35,8 +35,8 @@ void ColorButton::choose() {
 void ColorButton::updateSwatch() {
     QIcon swatch;
     const QSize size = iconSize();
-    AddPaintedPixmaps(swatch, size, [&](QPainter& painter) {
-        painter.fillRect(QRect(QPoint(0, 0), size), ColorFromRef(m_colour));
+    addPaintedPixmaps(swatch, size, [&](QPainter& painter) {
+        painter.fillRect(QRect(QPoint(0, 0), size), colorFromRef(m_colour));
         painter.setPen(QPen(QColor(0, 0, 0, 110), 0));
         painter.drawRect(QRectF(0.5, 0.5, size.width() - 1, size.height() - 1));
     });

@@ -43,7 +43,7 @@ Designer::Designer(UserInterface* ui)
         const QString project = QString::fromStdString(m_model.ProjectFileName);
         return project.isEmpty() ? std::string() : QFileInfo(project).absolutePath().toStdString();
     });
-    m_design->setNoBackGround(GlobalIni::ForProgram().NoBackGround());
+    m_design->setNoBackGround(GlobalIni::forProgram().noBackGround());
     connectWindows();
 }
 
@@ -59,11 +59,11 @@ void Designer::connectWindows() {
     m_interaction->setSnapping(m_snap.get());
     m_arrange->menu()->addSeparator();
     m_arrange->menu()->addAction(m_snap->snapAction());
-    connect(m_design.get(), &FrmDesign::btnAddBtnClicked, this, [&editor] { editor.AddButton(); });
+    connect(m_design.get(), &FrmDesign::btnAddBtnClicked, this, [&editor] { editor.addButton(); });
     connect(m_design.get(), &FrmDesign::btnDuplicateClicked, this,
-            [&editor] { editor.DuplicateButton(); });
+            [&editor] { editor.duplicateButton(); });
     connect(m_design.get(), &FrmDesign::btnRemoveClicked, this,
-            [&editor] { editor.RemoveButton(); });
+            [&editor] { editor.removeButton(); });
     connect(m_design.get(), &FrmDesign::btnViewHtmlClicked, this, [this] { showHtml(); });
     connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
     // An open HTML window shows the code of the document an undo or redo put back.
@@ -73,11 +73,11 @@ void Designer::connectWindows() {
     });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         TextFileError error;
-        if (!GlobalIni::ForProgram().SetNoBackGround(on, &error))
-            m_ui.showWarning(WithSystemCause(Messages()[Msg::IniWriteFailed], error));
+        if (!GlobalIni::forProgram().setNoBackGround(on, &error))
+            m_ui.showWarning(withSystemCause(messages()[Msg::IniWriteFailed], error));
     });
     connect(m_design.get(), &FrmDesign::unloading, this,
-            [this] { SaveWindowGeometry(*m_design, m_settings, kDesignForm); });
+            [this] { saveWindowGeometry(*m_design, m_settings, kDesignForm); });
 
     connect(m_main.get(), &FrmMain::designWindowRequested, this, [this] {
         m_design->show();
@@ -108,8 +108,8 @@ void Designer::placeWindows() {
     m_main->adjustSize();
     const QRect screen = m_main->screen()->availableGeometry();
     m_main->move(screen.topLeft() + QPoint(16, 16));
-    RestoreWindowGeometry(*m_main, m_settings, QStringLiteral("frmMain"));
-    RestoreWindowGeometry(*m_design, m_settings, kDesignForm);
+    restoreWindowGeometry(*m_main, m_settings, QStringLiteral("frmMain"));
+    restoreWindowGeometry(*m_design, m_settings, kDesignForm);
 }
 
 void Designer::placeDesignWindow() {
@@ -122,8 +122,8 @@ void Designer::placeDesignWindow() {
     };
     const QRect design = frameOf(*m_design);
     const QSize decoration = design.size() - m_design->size();
-    const QRect place = PlaceDesignWindow(screen, frameOf(*m_main), design.size(),
-                                          m_design->minimumSizeHint() + decoration);
+    const QRect place = orvelin::placeDesignWindow(screen, frameOf(*m_main), design.size(),
+                                                   m_design->minimumSizeHint() + decoration);
     m_design->move(place.topLeft());
     m_design->resize(place.size() - decoration);
 }
@@ -145,12 +145,12 @@ StartupResult Designer::start(const QString& commandLine) {
     placeWindows();
     m_main->show();
     m_design->show();
-    const StartupResult result = m_main->editor().Startup(commandLine.toStdString());
+    const StartupResult result = m_main->editor().startup(commandLine.toStdString());
     // The first button is where the history starts (a project named on the command line
     // has started it already; doing it again is harmless).
     m_main->history().clear();
     // Until the user sizes it, the design window is as large as the applet it shows.
-    if (m_settings.StoredGeometry(kDesignForm.toStdString()).width == 0) {
+    if (m_settings.storedGeometry(kDesignForm.toStdString()).width == 0) {
         fitDesignWindow();
         placeDesignWindow();
     }

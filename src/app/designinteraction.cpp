@@ -16,7 +16,7 @@ namespace orvelin {
 
 namespace {
 
-MouseButton ButtonOf(const QMouseEvent* event) {
+MouseButton buttonOf(const QMouseEvent* event) {
     switch (event->button()) {
     case Qt::LeftButton:
         return MouseButton::Left;
@@ -27,12 +27,12 @@ MouseButton ButtonOf(const QMouseEvent* event) {
     }
 }
 
-bool CtrlHeld(const QMouseEvent* event) {
+bool ctrlHeld(const QMouseEvent* event) {
     return event->modifiers().testFlag(Qt::ControlModifier);
 }
 
 /// Alt held while dragging: no snapping for this step.
-bool AltHeld(const QMouseEvent* event) {
+bool altHeld(const QMouseEvent* event) {
     return event->modifiers().testFlag(Qt::AltModifier);
 }
 
@@ -88,7 +88,7 @@ void DesignInteraction::bindKeys() {
             shortcut->setContext(Qt::WindowShortcut);
             const NudgeDirection direction = arrow.direction;
             connect(shortcut, &QShortcut::activated, this,
-                    [this, direction, shift] { Nudge(direction, shift); });
+                    [this, direction, shift] { nudge(direction, shift); });
         }
     }
 }
@@ -103,7 +103,7 @@ std::vector<bool> DesignInteraction::markers() const {
 }
 
 void DesignInteraction::selectionChanged(const std::vector<bool>& markersBefore, int skip) {
-    m_editor.ShowSelection();
+    m_editor.showSelection();
     const std::vector<bool> now = markers();
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         const auto k = static_cast<std::size_t>(i);
@@ -117,8 +117,8 @@ void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
     const std::vector<bool> before = markers();
     const unsigned revision = m_list.revision();
     const QPointF at = event->position();
-    const PressOutcome out = PressOnButton(m_model, m_list, m_drag, index, ButtonOf(event),
-                                           CtrlHeld(event), at.x(), at.y());
+    const PressOutcome out = pressOnButton(m_model, m_list, m_drag, index, buttonOf(event),
+                                           ctrlHeld(event), at.x(), at.y());
     // The markers of the new group: the selection has already changed, so a repaint of
     // the earlier current button and of the added one draws them.
     if (m_list.revision() != revision)
@@ -128,10 +128,10 @@ void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
     // The handles always stand around the current button, which a Ctrl+click changes
     // too: a handle left around another button would resize by the distance between them.
     if (m_model.CurrentButton != 0)
-        m_design.MoveSizer(m_model.CurrentButton);
+        m_design.moveSizer(m_model.CurrentButton);
     if (out.showProp)
         m_editor.ShowProp(m_model.CurrentButton);
-    m_design.MoveLabelPositioner(m_model.CurrentButton);
+    m_design.moveLabelPositioner(m_model.CurrentButton);
     if (out.openMoveMenu) {
         m_mnuBringToFront->setEnabled(out.enableBringToFront);
         m_mnuSendBack->setEnabled(out.enableSendBack);
@@ -146,58 +146,58 @@ void DesignInteraction::showMove(const MoveOutcome& moved, bool repaintTranspare
         ButtonPicture* picture = m_design.pButtons(i);
         if (!picture)
             continue;
-        const ButtonRecord& b = m_model.Button(i);
+        const ButtonRecord& b = m_model.button(i);
         picture->move(b.x, b.y);
         if (repaintTransparent && b.noBackGround == 1)
             m_design.RedrawButton(i, false, false, true);
     }
     const int current = m_model.CurrentButton;
-    m_editor.ShowGeometry(current);
-    m_design.MoveSizer(current);
-    m_design.MoveLabelPositioner(current);
+    m_editor.showGeometry(current);
+    m_design.moveSizer(current);
+    m_design.moveLabelPositioner(current);
 }
 
 void DesignInteraction::pButtons_MouseMove(int, QMouseEvent* event) {
     if (!m_drag.dragging)
         return;
     const QPointF at = event->position();
-    MoveOutcome moved = DragOnButton(m_model, m_list, m_drag, at.x(), at.y());
+    MoveOutcome moved = dragOnButton(m_model, m_list, m_drag, at.x(), at.y());
     if (m_snap)
-        m_snap->afterDrag(moved, AltHeld(event));
+        m_snap->afterDrag(moved, altHeld(event));
     showMove(moved, false);
 }
 
 void DesignInteraction::pButtons_MouseUp(int index, QMouseEvent*) {
     if (m_snap)
         m_snap->finish();
-    const ReleaseOutcome out = ReleaseOnButton(m_model, m_list, m_drag, index);
+    const ReleaseOutcome out = releaseOnButton(m_model, m_list, m_drag, index);
     if (out.placeSizer != 0)
-        m_design.MoveSizer(out.placeSizer);
+        m_design.moveSizer(out.placeSizer);
     if (out.redrawReleased != 0)
         m_design.RedrawButton(out.redrawReleased, true, false, false);
     for (int i : out.redrawMovedTransparent)
         m_design.RedrawButton(i, false, false, false);
 }
 
-void DesignInteraction::Nudge(NudgeDirection direction, bool shift) {
+void DesignInteraction::nudge(NudgeDirection direction, bool shift) {
     if (m_drag.dragging)
         return; // the pointer owns the buttons until it lets go
-    showMove(NudgeSelection(m_model, m_list, direction, shift), true);
+    showMove(nudgeSelection(m_model, m_list, direction, shift), true);
 }
 
 void DesignInteraction::Form_MouseDown(QMouseEvent* event) {
     const std::vector<bool> before = markers();
     const unsigned revision = m_list.revision();
-    const int sizerOn = PressOnSurface(m_model, m_list, ButtonOf(event));
+    const int sizerOn = pressOnSurface(m_model, m_list, buttonOf(event));
     if (m_list.revision() != revision)
         selectionChanged(before);
     if (sizerOn != 0)
-        m_design.MoveSizer(sizerOn);
+        m_design.moveSizer(sizerOn);
 }
 
 void DesignInteraction::picSizer_MouseDown(int handle, QMouseEvent* event) {
     const QPointF at = event->position();
-    PressSizer(m_sizers, handle, at.x(), at.y());
+    pressSizer(m_sizers, handle, at.x(), at.y());
 }
 
 void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
@@ -207,7 +207,7 @@ void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
     // Handles stand on the surface, the records count from the applet area's corner.
     const QPoint at = sizer->pos() - QPoint(FrmDesign::kMargin, FrmDesign::kMargin);
     const QPointF pointer = event->position();
-    const ResizeOutcome out = DragSizer(m_model, m_sizers, handle, {at.x(), at.y()}, sizer->width(),
+    const ResizeOutcome out = dragSizer(m_model, m_sizers, handle, {at.x(), at.y()}, sizer->width(),
                                         sizer->height(), pointer.x(), pointer.y());
     if (!out.changed)
         return;
@@ -216,42 +216,42 @@ void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
     if (ButtonPicture* picture = m_design.pButtons(current))
         picture->setGeometry(out.rect.left, out.rect.top, out.rect.width, out.rect.height);
     if (m_snap)
-        m_snap->afterResize(handle, AltHeld(event));
-    m_design.MoveSizer(current);
-    m_design.MoveLabelPositioner(current);
+        m_snap->afterResize(handle, altHeld(event));
+    m_design.moveSizer(current);
+    m_design.moveLabelPositioner(current);
 }
 
 void DesignInteraction::picSizer_MouseUp(int handle, QMouseEvent*) {
     if (m_snap)
         m_snap->finish();
-    const SizerReleaseOutcome out = ReleaseSizer(m_sizers, handle);
+    const SizerReleaseOutcome out = releaseSizer(m_sizers, handle);
     if (out.updateTransparentButtons)
         m_design.UpdateTransparentBtns();
     if (out.showGeometry)
-        m_editor.ShowGeometry(m_model.CurrentButton);
+        m_editor.showGeometry(m_model.CurrentButton);
 }
 
 void DesignInteraction::picLabelPositioner_MouseDown(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
     const QPointF at = event->position();
-    PressLabelPositioner(m_positioner, at.x(), at.y());
+    pressLabelPositioner(m_positioner, at.x(), at.y());
 }
 
 void DesignInteraction::picLabelPositioner_MouseMove(QMouseEvent* event) {
     const QPointF at = event->position();
-    const LabelMoveOutcome out = DragLabelPositioner(m_model, m_list, m_positioner, at.x(), at.y());
+    const LabelMoveOutcome out = dragLabelPositioner(m_model, m_list, m_positioner, at.x(), at.y());
     if (out.buttons.empty())
         return;
     for (int i : out.buttons)
         m_design.RedrawButton(i, false, false, true);
-    m_design.MoveLabelPositioner(m_model.CurrentButton);
+    m_design.moveLabelPositioner(m_model.CurrentButton);
     // "Center Text" goes off and the position fields show the new place.
     m_editor.ShowProp(m_model.CurrentButton);
 }
 
 void DesignInteraction::picLabelPositioner_MouseUp(QMouseEvent*) {
-    ReleaseLabelPositioner(m_positioner);
+    releaseLabelPositioner(m_positioner);
 }
 
 void DesignInteraction::mnuBringToFront_Click() {

@@ -54,7 +54,7 @@ public:
     void mnuBringToFront_Click();
     void mnuSendBack_Click();
     /// An arrow key: the selection moves one pixel, ten with Shift.
-    void Nudge(NudgeDirection direction, bool shift);
+    void nudge(NudgeDirection direction, bool shift);
 
 private:
     void buildMenu();

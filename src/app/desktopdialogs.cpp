@@ -11,7 +11,7 @@ namespace orvelin {
 namespace {
 
 // The question, then Yes and No (Yes the default), then what `extra` adds.
-QVBoxLayout* BuildQuestion(QDialog& dialog, const QString& text) {
+QVBoxLayout* buildQuestion(QDialog& dialog, const QString& text) {
     dialog.setWindowTitle(QStringLiteral("Orvelin"));
     dialog.setModal(true);
     auto* layout = new QVBoxLayout(&dialog);
@@ -34,7 +34,7 @@ QVBoxLayout* BuildQuestion(QDialog& dialog, const QString& text) {
 
 FrmAskToAssociate::FrmAskToAssociate(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmAskToAssociate"));
-    QVBoxLayout* layout = BuildQuestion(
+    QVBoxLayout* layout = buildQuestion(
         *this, tr("Orvelin is not the program that opens Orvelin project files (.orv).\n\n"
                   "Make Orvelin the program for .orv files?"));
     m_dontAsk = new QCheckBox(QStringLiteral("Don't ask me again"), this);
@@ -48,7 +48,7 @@ bool FrmAskToAssociate::dontAskAgain() const {
 
 FrmShortCut::FrmShortCut(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmShortCut"));
-    BuildQuestion(*this, tr("This copy of Orvelin runs from its build folder and has no entry "
+    buildQuestion(*this, tr("This copy of Orvelin runs from its build folder and has no entry "
                             "in your applications menu.\n\nAdd Orvelin to the applications "
                             "menu?"));
 }

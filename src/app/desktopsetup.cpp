@@ -14,7 +14,7 @@ DesktopSetup::DesktopSetup(Settings& settings, UserInterface& ui, DesktopTools& 
 
 void DesktopSetup::offerAtStartup() {
     const StartupOffers offers =
-        DecideStartupOffers(m_settings, RunFromBuildFolder(), IsAssociated(m_tools));
+        decideStartupOffers(m_settings, runFromBuildFolder(), isAssociated(m_tools));
     if (!offers.shortCut) {
         if (offers.associate)
             askToAssociate();
@@ -25,11 +25,11 @@ void DesktopSetup::offerAtStartup() {
     connect(dialog, &QDialog::finished, this, [this, offers](int result) {
         if (result != QDialog::Accepted) {
             m_settings.setValue(SettingKey::ShortCut, "Canceled");
-        } else if (const std::string error = AddToApplicationsMenu(m_tools, CurrentDesktopPlaces());
+        } else if (const std::string error = addToApplicationsMenu(m_tools, currentDesktopPlaces());
                    error.empty()) {
             m_settings.setValue(SettingKey::ShortCut, "Created");
         } else {
-            m_ui.showMessage(Messages()[Msg::ShortCutFailed] + error + ".");
+            m_ui.showMessage(messages()[Msg::ShortCutFailed] + error + ".");
         }
         if (offers.associate)
             askToAssociate();
@@ -51,13 +51,13 @@ void DesktopSetup::askToAssociate() {
 
 void DesktopSetup::associateNow() {
     if (associate())
-        m_ui.showMessage(Messages()[Msg::AssociateDone]);
+        m_ui.showMessage(messages()[Msg::AssociateDone]);
 }
 
 bool DesktopSetup::associate() {
-    const std::string error = RegisterFileType(m_tools, CurrentDesktopPlaces());
+    const std::string error = registerFileType(m_tools, currentDesktopPlaces());
     if (!error.empty())
-        m_ui.showMessage(Messages()[Msg::AssociateFailed] + error + ".");
+        m_ui.showMessage(messages()[Msg::AssociateFailed] + error + ".");
     return error.empty();
 }
 

@@ -9,13 +9,13 @@ void EditorSurfaceLink::ShowProp(int index) {
     m_editor.ShowProp(index);
 }
 
-void EditorSurfaceLink::ShowGeometry(int index) {
+void EditorSurfaceLink::showGeometry(int index) {
     // The panel is filled as one; its fill sets Updating around the four fields too.
     m_editor.ShowProp(index);
 }
 
-void EditorSurfaceLink::ShowSelection() {
-    m_view.ShowButtonList();
+void EditorSurfaceLink::showSelection() {
+    m_view.showButtonList();
 }
 
 } // namespace orvelin

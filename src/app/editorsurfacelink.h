@@ -13,8 +13,8 @@ public:
     EditorSurfaceLink(Editor& editor, EditorView& view) : m_editor(editor), m_view(view) {}
 
     void ShowProp(int index) override;
-    void ShowGeometry(int index) override;
-    void ShowSelection() override;
+    void showGeometry(int index) override;
+    void showSelection() override;
 
 private:
     Editor& m_editor;

@@ -17,7 +17,7 @@ namespace {
 constexpr int kSubstituteRole = Qt::UserRole + 1;
 
 /// The families a page can count on, offered whether or not they are installed here.
-const QStringList& WebFonts() {
+const QStringList& webFonts() {
     static const QStringList fonts = {
         QStringLiteral("Arial"),       QStringLiteral("Times New Roman"),
         QStringLiteral("Courier New"), QStringLiteral("Verdana"),
@@ -45,11 +45,11 @@ protected:
 
 FontFamilyBox::FontFamilyBox(QWidget* parent) : QComboBox(parent) {}
 
-QStringList FontFamilyBox::Families() {
+QStringList FontFamilyBox::families() {
     // A family installed from several foundries is listed by the database once per
     // foundry ("C059 [urw]", "C059 [UKWN]"); the name a page uses has no foundry.
     static const QRegularExpression foundry(QStringLiteral("\\s*\\[[^\\]]*\\]$"));
-    QStringList families = WebFonts();
+    QStringList families = webFonts();
     for (QString family : QFontDatabase::families())
         families << family.remove(foundry);
     families.removeDuplicates();
@@ -59,7 +59,7 @@ QStringList FontFamilyBox::Families() {
     return families;
 }
 
-QString FontFamilyBox::Substitute(const QString& family) {
+QString FontFamilyBox::substitute(const QString& family) {
     const QString drawn = QFontInfo(QFont(family)).family();
     return drawn.compare(family, Qt::CaseInsensitive) == 0 ? QString() : drawn;
 }
@@ -72,10 +72,10 @@ void FontFamilyBox::fillFamilies() {
     // Filling is no edit: the panel must not take the first family as a chosen font.
     const QSignalBlocker quiet(this);
     setItemDelegate(new SubstituteDelegate(this));
-    addItems(Families());
+    addItems(families());
     int widest = 0;
-    for (const QString& font : WebFonts()) {
-        const QString substitute = Substitute(font);
+    for (const QString& font : webFonts()) {
+        const QString substitute = FontFamilyBox::substitute(font);
         setItemData(findText(font), substitute, kSubstituteRole);
         widest = std::max(widest, fontMetrics().horizontalAdvance(
                                       font + tr("   (drawn here as %1)").arg(substitute)));

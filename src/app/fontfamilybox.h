@@ -25,9 +25,9 @@ public:
 
     /// The families offered: the installed ones without their foundries, and the web
     /// fonts, each once, sorted without regard to case.
-    static QStringList Families();
+    static QStringList families();
     /// The family this machine draws `family` with, or empty when it is the font itself.
-    static QString Substitute(const QString& family);
+    static QString substitute(const QString& family);
 
     void showPopup() override;
 

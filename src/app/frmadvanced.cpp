@@ -75,7 +75,7 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     connect(m_btnRestoreDefaults, &QPushButton::clicked, this,
             &FrmAdvanced::btnRestoreDefaults_Click);
     connect(m_btnOk, &QPushButton::clicked, this, &FrmAdvanced::btnOk_Click);
-    NameControls(*this);
+    nameControls(*this);
 }
 
 void FrmAdvanced::showOptions() {
@@ -96,12 +96,12 @@ void FrmAdvanced::chkAutoTile_Click(bool checked) {
 }
 
 void FrmAdvanced::btnRestoreDefaults_Click() {
-    if (m_ui.askOkCancel(Messages()[Msg::RestoreDefaultsQuestion]) != UserInterface::Answer::Ok)
+    if (m_ui.askOkCancel(messages()[Msg::RestoreDefaultsQuestion]) != UserInterface::Answer::Ok)
         return;
-    m_settings.SetDefaultButton(kFactoryDefaultButton);
+    m_settings.setDefaultButton(kFactoryDefaultButton);
     for (SettingKey option : {SettingKey::AutoTile, SettingKey::Html5Player,
                               SettingKey::SnapToButtons, SettingKey::GridSize})
-        m_settings.setValue(option, SettingDefinition(option).defaultValue);
+        m_settings.setValue(option, settingDefinition(option).defaultValue);
     showOptions();
     emit autoTileChanged(m_settings.flag(SettingKey::AutoTile));
     emit defaultsRestored();

@@ -13,7 +13,7 @@ namespace orvelin {
 
 namespace {
 
-QSpinBox* OffsetBox(const QString& name, int value, QWidget* parent) {
+QSpinBox* offsetBox(const QString& name, int value, QWidget* parent) {
     auto* box = new QSpinBox(parent);
     box->setObjectName(name);
     box->setRange(std::numeric_limits<std::int16_t>::min(),
@@ -32,8 +32,8 @@ FrmBgOffset::FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* pare
     setObjectName(QStringLiteral("frmBgOffset"));
     setWindowTitle(tr("Background Offset"));
 
-    m_x = OffsetBox(QStringLiteral("txtOffsetX"), m_oldX, this);
-    m_y = OffsetBox(QStringLiteral("txtOffsetY"), m_oldY, this);
+    m_x = offsetBox(QStringLiteral("txtOffsetX"), m_oldX, this);
+    m_y = offsetBox(QStringLiteral("txtOffsetY"), m_oldY, this);
     auto* form = new QFormLayout;
     form->addRow(tr("&X:"), m_x);
     form->addRow(tr("&Y:"), m_y);
@@ -50,14 +50,14 @@ FrmBgOffset::FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* pare
 
     connect(m_x, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
     connect(m_y, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
-    NameControls(*this);
+    nameControls(*this);
 }
 
 void FrmBgOffset::preview() {
     m_model.BgOffsetX = static_cast<std::int16_t>(m_x->value());
     m_model.BgOffsetY = static_cast<std::int16_t>(m_y->value());
     if (m_preview)
-        m_preview->AppletChanged();
+        m_preview->appletChanged();
 }
 
 void FrmBgOffset::accept() {
@@ -72,7 +72,7 @@ void FrmBgOffset::reject() {
     m_model.BgOffsetX = m_oldX;
     m_model.BgOffsetY = m_oldY;
     if (changed && m_preview)
-        m_preview->AppletChanged();
+        m_preview->appletChanged();
     QDialog::reject();
 }
 

@@ -96,7 +96,7 @@ FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSear
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showList(0);
-    NameControls(*this);
+    nameControls(*this);
 }
 
 void FrmBrowserSetup::showList(int row) {
@@ -158,7 +158,7 @@ void FrmBrowserSetup::move(int step) {
 }
 
 void FrmBrowserSetup::btnFind_Click() {
-    for (BrowserEntry& found : DetectBrowsers(m_places)) {
+    for (BrowserEntry& found : detectBrowsers(m_places)) {
         const bool listed =
             std::any_of(m_browsers.begin(), m_browsers.end(),
                         [&](const BrowserEntry& entry) { return entry.program == found.program; });

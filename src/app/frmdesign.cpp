@@ -81,8 +81,8 @@ FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, Q
     setObjectName(QStringLiteral("frmDesign"));
     setWindowTitle(tr("Design"));
     buildWindow();
-    AppletChanged();
-    NameControls(*this);
+    appletChanged();
+    nameControls(*this);
 }
 
 FrmDesign::~FrmDesign() = default;
@@ -110,7 +110,7 @@ void FrmDesign::buildWindow() {
     connect(m_btnViewHtml, &QPushButton::clicked, this, &FrmDesign::btnViewHtmlClicked);
     connect(m_chkNoBackGround, &QCheckBox::clicked, this, [this](bool checked) {
         m_noBackGround = checked;
-        AppletChanged();
+        appletChanged();
         emit noBackGroundClicked(checked);
     });
 
@@ -209,7 +209,7 @@ void FrmDesign::LoadButton(int index) {
     RedrawButton(index, current, current, false);
 }
 
-void FrmDesign::HideLastButton(int index) {
+void FrmDesign::hideLastButton(int index) {
     if (index < 1 || index != pictureCount())
         return;
     if (ButtonPicture* picture = m_pictures.back()) {
@@ -220,17 +220,17 @@ void FrmDesign::HideLastButton(int index) {
     m_pictures.pop_back();
 }
 
-void FrmDesign::ClearButtons() {
+void FrmDesign::clearButtons() {
     while (pictureCount() > 0)
-        HideLastButton(pictureCount());
-    HideMarks();
+        hideLastButton(pictureCount());
+    hideMarks();
 }
 
 void FrmDesign::paintPicture(int index) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
-    m_images.setProjectFile(m_model.FileForRelativePaths());
+    m_images.setProjectFile(m_model.fileForRelativePaths());
     ButtonPainter painter(m_model, m_images);
     painter.setState(m_model.CurrentState);
     painter.setBackground(&m_area->background());
@@ -238,7 +238,7 @@ void FrmDesign::paintPicture(int index) {
     painter.setUserInterface(m_ui.get());
     {
         QPainter onPicture(&picture->picture());
-        painter.PaintButton(onPicture, index);
+        painter.paintButton(onPicture, index);
     }
     ++m_paintCount;
     picture->update();
@@ -253,7 +253,7 @@ void FrmDesign::RedrawButton(int index, bool placeHandles, bool placePositioner,
         // A file changed since the last redraw is read again.
         m_images.newPass();
         if (!keepGeometry) {
-            const ButtonRecord& button = m_model.Button(index);
+            const ButtonRecord& button = m_model.button(index);
             m_noRedrawOnResize = true;
             picture->setGeometry(button.x, button.y, std::max<int>(0, button.Width),
                                  std::max<int>(0, button.Height));
@@ -261,37 +261,37 @@ void FrmDesign::RedrawButton(int index, bool placeHandles, bool placePositioner,
         }
         paintPicture(index);
         if (placeHandles)
-            MoveSizer(index);
+            moveSizer(index);
         if (placePositioner)
-            MoveLabelPositioner(index);
+            moveLabelPositioner(index);
     } catch (const std::exception&) {
         m_noRedrawOnResize = false;
     }
 }
 
-void FrmDesign::RedrawAll() {
+void FrmDesign::redrawAll() {
     for (int index = 1; index <= pictureCount(); ++index)
         RedrawButton(index, false, false, false);
     // The handles always belong to the current button: after a load or a click in the
     // button list they come back around it, not only where a drag left them.
     const int current = m_model.CurrentButton;
     if (current >= 1 && current <= pictureCount() && current <= m_model.ButtonCount) {
-        MoveSizer(current);
-        ShowSizers();
-        MoveLabelPositioner(current);
+        moveSizer(current);
+        showSizers();
+        moveLabelPositioner(current);
     }
 }
 
 void FrmDesign::UpdateTransparentBtns() {
     for (int index = 1; index <= pictureCount() && index <= m_model.ButtonCount; ++index)
-        if (m_model.Button(index).noBackGround != 0)
+        if (m_model.button(index).noBackGround != 0)
             RedrawButton(index, false, false, false);
 }
 
-void FrmDesign::AppletChanged() {
-    m_images.setProjectFile(m_model.FileForRelativePaths());
+void FrmDesign::appletChanged() {
+    m_images.setProjectFile(m_model.fileForRelativePaths());
     m_images.newPass();
-    m_area->setBackground(RenderBackground(m_model, m_images, m_noBackGround));
+    m_area->setBackground(renderBackground(m_model, m_images, m_noBackGround));
     resizeSurface();
     UpdateTransparentBtns();
 }
@@ -301,23 +301,23 @@ void FrmDesign::resizeSurface() {
     m_surface->setFixedSize(applet + QSize(2 * kMargin, 2 * kMargin));
 }
 
-void FrmDesign::MoveButton(int index) {
+void FrmDesign::moveButton(int index) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
-    const ButtonRecord& button = m_model.Button(index);
+    const ButtonRecord& button = m_model.button(index);
     picture->move(button.x, button.y);
     // A transparent button shows the background beneath its new place.
     if (button.noBackGround == 1)
         RedrawButton(index, false, false, true);
 }
 
-void FrmDesign::HideMarks() {
-    HideSizers();
+void FrmDesign::hideMarks() {
+    hideSizers();
     m_positioner->hide();
 }
 
-void FrmDesign::SetOnTop(bool onTop) {
+void FrmDesign::setOnTop(bool onTop) {
     const bool wasVisible = isVisible();
     setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
     // Changing a window flag hides the window; bring it back as it was.
@@ -325,7 +325,7 @@ void FrmDesign::SetOnTop(bool onTop) {
         show();
 }
 
-void FrmDesign::MoveSizer(int index) {
+void FrmDesign::moveSizer(int index) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
@@ -340,10 +340,10 @@ void FrmDesign::MoveSizer(int index) {
     m_sizers[1]->move(l + w + 2, t + h / 2 - side / 2);
     m_sizers[2]->move(l + w / 2 - side / 2, t - side - 2);
     m_sizers[3]->move(l - side - 2, t + h / 2 - side / 2);
-    ShowSizers();
+    showSizers();
 }
 
-void FrmDesign::ShowSizers() {
+void FrmDesign::showSizers() {
     for (SizerHandle* sizer : m_sizers) {
         sizer->show();
         sizer->raise();
@@ -351,25 +351,25 @@ void FrmDesign::ShowSizers() {
     m_positioner->raise();
 }
 
-void FrmDesign::HideSizers() {
+void FrmDesign::hideSizers() {
     for (SizerHandle* sizer : m_sizers)
         sizer->hide();
 }
 
-void FrmDesign::MoveLabelPositioner(int index) {
+void FrmDesign::moveLabelPositioner(int index) {
     ButtonPicture* picture = pButtons(index);
     if (!picture || index > m_model.ButtonCount) {
         m_positioner->hide();
         return;
     }
-    const ButtonRecord& button = m_model.Button(index);
+    const ButtonRecord& button = m_model.button(index);
     const ButtonState state = m_model.CurrentState;
-    if (button.PositionText(state) == 0) {
+    if (button.positionText(state) == 0) {
         m_positioner->hide();
         return;
     }
     m_positioner->centreOn(picture->pos() + QPoint(kMargin, kMargin) +
-                           QPoint(button.LabelPosX(state), button.LabelPosY(state)));
+                           QPoint(button.labelPosX(state), button.labelPosY(state)));
     m_positioner->show();
     m_positioner->raise();
 }
@@ -379,7 +379,7 @@ void FrmDesign::setNoBackGround(bool on) {
     if (m_noBackGround == on)
         return;
     m_noBackGround = on;
-    AppletChanged();
+    appletChanged();
 }
 
 void FrmDesign::pButtons_MouseDown(int index, QMouseEvent* event) {

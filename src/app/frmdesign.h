@@ -49,24 +49,24 @@ public:
 
     // DesignView
     void LoadButton(int index) override;
-    void HideLastButton(int index) override;
-    void ClearButtons() override;
+    void hideLastButton(int index) override;
+    void clearButtons() override;
     void RedrawButton(int index, bool placeHandles, bool placePositioner,
                       bool keepGeometry) override;
-    void RedrawAll() override;
+    void redrawAll() override;
     void UpdateTransparentBtns() override;
-    void AppletChanged() override;
-    void HideMarks() override;
-    void MoveButton(int index) override;
-    void SetOnTop(bool onTop) override;
+    void appletChanged() override;
+    void hideMarks() override;
+    void moveButton(int index) override;
+    void setOnTop(bool onTop) override;
 
     /// Places the four handles around button `index` and raises them above the pictures.
-    void MoveSizer(int index);
-    void ShowSizers();
-    void HideSizers();
+    void moveSizer(int index);
+    void showSizers();
+    void hideSizers();
     /// Places the label positioner on the current state's label position of button
     /// `index`; hides it while that state centres its label.
-    void MoveLabelPositioner(int index);
+    void moveLabelPositioner(int index);
 
     /// `pButtons(i)`; null when button `index` has no picture.
     ButtonPicture* pButtons(int index) const;

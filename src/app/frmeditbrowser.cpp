@@ -65,7 +65,7 @@ FrmEditBrowser::FrmEditBrowser(const BrowserEntry& entry, QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     updateOk();
-    NameControls(*this);
+    nameControls(*this);
 }
 
 BrowserEntry FrmEditBrowser::entry() const {
@@ -89,7 +89,7 @@ void FrmEditBrowser::btnBrowse_Click() {
 
 void FrmEditBrowser::accept() {
     const BrowserEntry chosen = entry();
-    if (!IsRunnableProgram(chosen.program)) {
+    if (!isRunnableProgram(chosen.program)) {
         QMessageBox::warning(this, QStringLiteral("Orvelin"),
                              m_texts[NotRunnable].arg(QString::fromStdString(chosen.program)));
         m_txtProgram->setFocus();

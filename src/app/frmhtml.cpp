@@ -36,7 +36,7 @@ QPushButton* Command(const char* name, const QString& text, QWidget* parent) {
 FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, Shell& shell,
                  QWidget* parent)
     : QWidget(parent, Qt::Window), m_model(model), m_ui(ui), m_settings(settings), m_shell(shell),
-      m_places(BrowserSearchPlaces::FromEnvironment()) {
+      m_places(BrowserSearchPlaces::fromEnvironment()) {
     setObjectName(kFormName);
     setWindowTitle(tr("Applet Code"));
 
@@ -93,7 +93,7 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     connect(copy, &QPushButton::clicked, this, [this] { btnCopyToClb_Click(); });
     connect(save, &QPushButton::clicked, this, [this] { btnSave_Click(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
-    NameControls(*this);
+    nameControls(*this);
 }
 
 void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {
@@ -102,9 +102,9 @@ void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {
 }
 
 void FrmHTML::MakeHTML() {
-    const MessageTable& msg = Messages();
+    const MessageTable& msg = messages();
     m_ui.showProgress(msg[Msg::PleaseWait], msg[Msg::GeneratingHtml], -1);
-    const std::string& name = NameTheApplet(m_model);
+    const std::string& name = nameTheApplet(m_model);
     const GeneratedHtml html = orvelin::MakeHTML(m_model, name, GetJSCaller(name));
     m_ui.hideProgress();
     m_code = html.text;
@@ -119,7 +119,7 @@ void FrmHTML::MakeHTML() {
 void FrmHTML::showAndGenerate() {
     if (!m_placed) {
         m_placed = true;
-        RestoreWindowGeometry(*this, m_settings, kFormName);
+        restoreWindowGeometry(*this, m_settings, kFormName);
     }
     if (m_browsers.empty())
         loadBrowsers();
@@ -131,20 +131,20 @@ void FrmHTML::showAndGenerate() {
 
 void FrmHTML::closeEvent(QCloseEvent* event) {
     if (m_placed)
-        SaveWindowGeometry(*this, m_settings, kFormName);
+        saveWindowGeometry(*this, m_settings, kFormName);
     QWidget::closeEvent(event);
 }
 
 void FrmHTML::loadBrowsers() {
-    m_browsers = LoadBrowsers(m_settings, m_places);
+    m_browsers = orvelin::loadBrowsers(m_settings, m_places);
     m_cmbBrowser->clear();
     for (const BrowserEntry& entry : m_browsers)
         m_cmbBrowser->addItem(QString::fromStdString(entry.name));
-    m_cmbBrowser->setCurrentIndex(SelectedBrowser(m_settings, m_browsers.size()));
+    m_cmbBrowser->setCurrentIndex(selectedBrowser(m_settings, m_browsers.size()));
 }
 
 void FrmHTML::txtAppletName_KeyUp() {
-    SetAppletNameFromBox(m_model, m_txtAppletName->text().toStdString());
+    setAppletNameFromBox(m_model, m_txtAppletName->text().toStdString());
 }
 
 void FrmHTML::btnPreview_Click() {
@@ -154,11 +154,11 @@ void FrmHTML::btnPreview_Click() {
     // The first entry is the desktop's default browser, whatever program it lists.
     const std::string program =
         position == 0 ? std::string() : m_browsers[static_cast<std::size_t>(position)].program;
-    PreviewPage(m_model, pageSource(), program, m_ui, m_shell);
+    previewPage(m_model, pageSource(), program, m_ui, m_shell);
 }
 
 void FrmHTML::btnSave_Click() {
-    BuildApplet(m_model, pageSource(), m_ui);
+    buildApplet(m_model, pageSource(), m_ui);
 }
 
 PageSource FrmHTML::pageSource() const {
@@ -172,7 +172,7 @@ void FrmHTML::btnCopyToClb_Click() {
 }
 
 void FrmHTML::cmbBrowser_Click(int position) {
-    SetSelectedBrowser(m_settings, position);
+    setSelectedBrowser(m_settings, position);
 }
 
 void FrmHTML::btnBrowsers_Click() {
@@ -181,7 +181,7 @@ void FrmHTML::btnBrowsers_Click() {
     FrmBrowserSetup dialog(m_browsers, m_places, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    SaveBrowsers(m_settings, dialog.browsers());
+    saveBrowsers(m_settings, dialog.browsers());
     loadBrowsers();
 }
 

@@ -30,7 +30,7 @@ namespace {
 
 const QString kFormName = QStringLiteral("frmMain");
 
-QToolButton* ListCommand(const QString& name, const QString& text, const QString& toolTip,
+QToolButton* listCommand(const QString& name, const QString& text, const QString& toolTip,
                          QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
@@ -51,7 +51,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     m_history = new UndoHistory(m_model, m_list, this);
     m_menus->addUndoActions(m_history->undoAction(), m_history->redoAction());
     connect(m_history, &UndoHistory::restored, this,
-            [this](const DocumentChange& change) { m_editor.ShowRestored(change); });
+            [this](const DocumentChange& change) { m_editor.showRestored(change); });
 
     auto* central = new QWidget(this);
     auto* columns = new QHBoxLayout(central);
@@ -60,7 +60,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     columns->addWidget(buildButtonColumn());
     m_properties = new PropertyPanel(m_editor, central);
     columns->addWidget(m_properties, 1);
-    m_applet = new AppletPanel(m_editor.Properties(), central);
+    m_applet = new AppletPanel(m_editor.properties(), central);
     m_applet->setFixedWidth(250);
     columns->addWidget(m_applet);
     setCentralWidget(central);
@@ -69,7 +69,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     connect(m_menus, &MainMenus::htmlViewRequested, this, &FrmMain::htmlViewRequested);
     connect(m_menus, &MainMenus::aboutRequested, this, &FrmMain::showAbout);
     connect(m_properties, &PropertyPanel::actionRequested, this, [this](const QString& title) {
-        openActionEditor(QString::fromStdString(m_editor.ActionProgramKind()), title);
+        openActionEditor(QString::fromStdString(m_editor.actionProgramKind()), title);
     });
     connect(m_applet, &AppletPanel::actionRequested, this, &FrmMain::openActionEditor);
     connect(m_applet, &AppletPanel::offsetRequested, this, &FrmMain::openOffset);
@@ -85,7 +85,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
                 if (isWindowModified() == m_model.Saved)
                     setWindowModified(!m_model.Saved);
             });
-    NameControls(*this);
+    nameControls(*this);
 }
 
 FrmMain::~FrmMain() {
@@ -110,16 +110,16 @@ QWidget* FrmMain::buildButtonColumn() {
     auto* commands = new QHBoxLayout();
     commands->setSpacing(2);
     Editor& e = m_editor;
-    QToolButton* add = ListCommand(QStringLiteral("btnAdd"), QStringLiteral("Add"),
+    QToolButton* add = listCommand(QStringLiteral("btnAdd"), QStringLiteral("Add"),
                                    QStringLiteral("Add a button"), column);
     QToolButton* duplicate =
-        ListCommand(QStringLiteral("btnDuplicate"), QStringLiteral("Duplicate"),
+        listCommand(QStringLiteral("btnDuplicate"), QStringLiteral("Duplicate"),
                     QStringLiteral("Duplicate the current button"), column);
-    QToolButton* remove = ListCommand(QStringLiteral("btnRemove"), QStringLiteral("Remove"),
+    QToolButton* remove = listCommand(QStringLiteral("btnRemove"), QStringLiteral("Remove"),
                                       QStringLiteral("Remove the current button"), column);
-    connect(add, &QToolButton::clicked, this, [&e] { e.AddButton(); });
-    connect(duplicate, &QToolButton::clicked, this, [&e] { e.DuplicateButton(); });
-    connect(remove, &QToolButton::clicked, this, [&e] { e.RemoveButton(); });
+    connect(add, &QToolButton::clicked, this, [&e] { e.addButton(); });
+    connect(duplicate, &QToolButton::clicked, this, [&e] { e.duplicateButton(); });
+    connect(remove, &QToolButton::clicked, this, [&e] { e.removeButton(); });
     commands->addWidget(add);
     commands->addWidget(remove);
     layout->addWidget(duplicate);
@@ -138,7 +138,7 @@ void FrmMain::openActionEditor(const QString& kind, const QString& title) {
     std::vector<bool> selected(static_cast<std::size_t>(m_list.count()));
     for (int i = 1; i <= m_list.count(); ++i)
         selected[static_cast<std::size_t>(i - 1)] = m_list.isSelected(i);
-    ShowActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind.toStdString(),
+    showActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind.toStdString(),
                      title.toStdString());
     // The dialog may have attached or removed an applet program.
     m_editor.SetMainParams();
@@ -149,7 +149,7 @@ void FrmMain::openLabelEditor() {
         m_labelEditor = new FrmMultiLineEditor(m_properties->labelField(), this);
         m_labelEditor->setAttribute(Qt::WA_DeleteOnClose);
     }
-    KeepAboveOnTopWindows(*m_labelEditor);
+    keepAboveOnTopWindows(*m_labelEditor);
     m_labelEditor->show();
     m_labelEditor->raise();
     m_labelEditor->activateWindow();
@@ -161,35 +161,35 @@ void FrmMain::openAdvanced() {
             [this](bool on) { m_menus->setAutoTileChecked(on); });
     connect(&dialog, &FrmAdvanced::defaultsRestored, this,
             [this] { m_menus->setAutoTileChecked(m_settings.flag(SettingKey::AutoTile)); });
-    KeepAboveOnTopWindows(dialog);
+    keepAboveOnTopWindows(dialog);
     dialog.exec();
 }
 
 void FrmMain::openOffset() {
     FrmBgOffset dialog(m_model, &m_design, this);
-    KeepAboveOnTopWindows(dialog);
+    keepAboveOnTopWindows(dialog);
     dialog.exec();
 }
 
 void FrmMain::ShowProp(int index, const std::string& caption) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
-    m_properties->showButton(m_model.Button(index), m_model.CurrentState,
+    m_properties->showButton(m_model.button(index), m_model.CurrentState,
                              QString::fromStdString(caption));
     // Edits go to the selected buttons: a current button taken out of the selection is
     // shown, but the panel does not pretend to edit it.
     const bool editable = m_list.isSelected(index);
     m_properties->setEditable(editable,
                               editable ? QString()
-                                       : QString::fromStdString(ButtonEntryText(index) +
-                                                                Messages()[Msg::NotSelectedNote]));
+                                       : QString::fromStdString(buttonEntryText(index) +
+                                                                messages()[Msg::NotSelectedNote]));
 }
 
 void FrmMain::SetMainParams() {
     m_applet->showApplet(m_model);
 }
 
-void FrmMain::ShowButtonList() {
+void FrmMain::showButtonList() {
     m_binding->show(m_model.CurrentButton);
     const bool updating = m_model.Updating;
     m_model.Updating = true; // emptied controls are not edits
@@ -197,63 +197,63 @@ void FrmMain::ShowButtonList() {
     m_model.Updating = updating;
 }
 
-void FrmMain::SetCaption(const std::string& caption) {
+void FrmMain::setCaption(const std::string& caption) {
     // "[*]" is where Qt shows the unsaved-changes marker.
     setWindowTitle(QString::fromStdString(caption) + QStringLiteral("[*]"));
 }
 
-void FrmMain::SetRecentEntry(int slot, const std::string& caption, bool visible) {
+void FrmMain::setRecentEntry(int slot, const std::string& caption, bool visible) {
     m_menus->setRecentEntry(slot, QString::fromStdString(caption), visible);
 }
 
-void FrmMain::SetActionTitle(const std::string& title) {
+void FrmMain::setActionTitle(const std::string& title) {
     m_properties->setActionTitle(QString::fromStdString(title));
 }
 
-void FrmMain::ShowState(ButtonState state) {
+void FrmMain::showState(ButtonState state) {
     m_properties->showState(state);
 }
 
-void FrmMain::SetOnTopChecked(bool checked) {
+void FrmMain::setOnTopChecked(bool checked) {
     m_menus->setOnTopChecked(checked);
 }
 
-void FrmMain::SetLanguageChecked(const std::string& language) {
+void FrmMain::setLanguageChecked(const std::string& language) {
     m_menus->setLanguageChecked(QString::fromStdString(language));
 }
 
-void FrmMain::SetAutoTileChecked(bool checked) {
+void FrmMain::setAutoTileChecked(bool checked) {
     m_menus->setAutoTileChecked(checked);
 }
 
-void FrmMain::CloseLabelEditor() {
+void FrmMain::closeLabelEditor() {
     if (m_labelEditor != nullptr)
         m_labelEditor->close();
 }
 
-void FrmMain::QuitProgram() {
+void FrmMain::quitProgram() {
     // The settings were repaired and the user told to restart: no save question.
     m_quitting = true;
     close();
 }
 
-std::optional<ImageSize> FrmMain::ImageSizeOf(const std::string& path) {
-    const QSize size = ImageFileSize(QString::fromStdString(path));
+std::optional<ImageSize> FrmMain::imageSizeOf(const std::string& path) {
+    const QSize size = imageFileSize(QString::fromStdString(path));
     if (!size.isValid())
         return std::nullopt;
     return ImageSize{size.width(), size.height()};
 }
 
-void FrmMain::ProjectReplaced() {
+void FrmMain::projectReplaced() {
     m_history->clear();
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {
-    if (!m_quitting && !m_editor.Close()) {
+    if (!m_quitting && !m_editor.close()) {
         event->ignore();
         return;
     }
-    SaveWindowGeometry(*this, m_settings, kFormName);
+    saveWindowGeometry(*this, m_settings, kFormName);
     event->accept();
     emit closed();
 }
@@ -264,7 +264,7 @@ void FrmMain::showAbout() {
         QStringLiteral("<h3>%1</h3><p>A designer for bars of web-page buttons: lay out the "
                        "buttons, give each its three states, and build the applet code that "
                        "shows them in a page.</p>")
-            .arg(QString::fromStdString(MainTitle()).toHtmlEscaped()));
+            .arg(QString::fromStdString(mainTitle()).toHtmlEscaped()));
 }
 
 } // namespace orvelin

@@ -39,18 +39,18 @@ public:
     // EditorView
     void ShowProp(int index, const std::string& caption) override;
     void SetMainParams() override;
-    void ShowButtonList() override;
-    void SetCaption(const std::string& caption) override;
-    void SetRecentEntry(int slot, const std::string& caption, bool visible) override;
-    void SetActionTitle(const std::string& title) override;
-    void ShowState(ButtonState state) override;
-    void SetOnTopChecked(bool checked) override;
-    void SetLanguageChecked(const std::string& language) override;
-    void SetAutoTileChecked(bool checked) override;
-    void CloseLabelEditor() override;
-    void QuitProgram() override;
-    std::optional<ImageSize> ImageSizeOf(const std::string& path) override;
-    void ProjectReplaced() override;
+    void showButtonList() override;
+    void setCaption(const std::string& caption) override;
+    void setRecentEntry(int slot, const std::string& caption, bool visible) override;
+    void setActionTitle(const std::string& title) override;
+    void showState(ButtonState state) override;
+    void setOnTopChecked(bool checked) override;
+    void setLanguageChecked(const std::string& language) override;
+    void setAutoTileChecked(bool checked) override;
+    void closeLabelEditor() override;
+    void quitProgram() override;
+    std::optional<ImageSize> imageSizeOf(const std::string& path) override;
+    void projectReplaced() override;
 
 signals:
     void designWindowRequested();

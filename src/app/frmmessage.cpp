@@ -24,7 +24,7 @@ FrmMessage::FrmMessage(QWidget* parent)
     layout->setSpacing(10);
     layout->addWidget(m_text);
     layout->addWidget(m_bar);
-    NameControls(*this);
+    nameControls(*this);
 }
 
 FrmMessage::~FrmMessage() {

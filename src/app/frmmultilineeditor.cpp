@@ -16,13 +16,13 @@ const QString kLabelBreak = QStringLiteral("\\n");
 
 } // namespace
 
-QString LabelToEditorText(const QString& label) {
+QString labelToEditorText(const QString& label) {
     QString text = label;
     text.replace(kLabelBreak, QStringLiteral("\n"));
     return text;
 }
 
-QString EditorTextToLabel(const QString& text) {
+QString editorTextToLabel(const QString& text) {
     QString label = text;
     label.replace(QStringLiteral("\r\n"), kLabelBreak);
     label.replace(QLatin1Char('\r'), kLabelBreak);
@@ -54,13 +54,13 @@ FrmMultiLineEditor::FrmMultiLineEditor(QLineEdit* txtLabel, QWidget* parent)
 
     connect(m_txtEditor, &QPlainTextEdit::textChanged, this, &FrmMultiLineEditor::txtEditor_Change);
     connect(m_btnClose, &QPushButton::clicked, this, &QDialog::accept);
-    NameControls(*this);
+    nameControls(*this);
 }
 
 void FrmMultiLineEditor::Form_Activate() {
     if (!m_txtLabel)
         return;
-    const QString text = LabelToEditorText(m_txtLabel->text());
+    const QString text = labelToEditorText(m_txtLabel->text());
     if (text == m_txtEditor->toPlainText())
         return; // keeps the caret where it is
     m_filling = true;
@@ -76,7 +76,7 @@ void FrmMultiLineEditor::showEvent(QShowEvent* event) {
 void FrmMultiLineEditor::txtEditor_Change() {
     if (m_filling || !m_txtLabel)
         return;
-    const QString label = EditorTextToLabel(m_txtEditor->toPlainText());
+    const QString label = editorTextToLabel(m_txtEditor->toPlainText());
     if (label != m_txtLabel->text())
         m_txtLabel->setText(label);
 }

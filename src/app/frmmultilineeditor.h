@@ -10,9 +10,9 @@ class QPushButton;
 namespace orvelin {
 
 /// A label's "\n" pairs as the line breaks of a text box.
-QString LabelToEditorText(const QString& label);
+QString labelToEditorText(const QString& label);
 /// The text box's line breaks (CR LF, LF or a lone CR) as the label's "\n" pairs.
-QString EditorTextToLabel(const QString& text);
+QString editorTextToLabel(const QString& text);
 
 /**
  * frmMultiLineEditor: the main editor's label in a multi-line text box. Every change

@@ -38,21 +38,21 @@ QStringList QList(const std::vector<std::string>& texts) {
     return list;
 }
 
-QWidget* Page(const char* objectName, QStackedWidget* stack) {
+QWidget* page(const char* objectName, QStackedWidget* stack) {
     auto* page = new QWidget(stack);
     page->setObjectName(QString::fromLatin1(objectName));
     stack->addWidget(page);
     return page;
 }
 
-QHBoxLayout* PageRow(QWidget* page) {
+QHBoxLayout* pageRow(QWidget* page) {
     auto* row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(6);
     return row;
 }
 
-QLineEdit* NumberBox(const char* objectName, QWidget* parent) {
+QLineEdit* numberBox(const char* objectName, QWidget* parent) {
     auto* box = new QLineEdit(parent);
     box->setObjectName(QString::fromLatin1(objectName));
     box->setFixedWidth(64);
@@ -60,13 +60,13 @@ QLineEdit* NumberBox(const char* objectName, QWidget* parent) {
 }
 
 // Fills a box only when its text differs, so the caret stays where the user left it.
-void SetText(QLineEdit* box, const std::string& text) {
+void setText(QLineEdit* box, const std::string& text) {
     const QString value = Q(text);
     if (box->text() != value)
         box->setText(value);
 }
 
-QFrame* Separator(QWidget* parent) {
+QFrame* separator(QWidget* parent) {
     auto* line = new QFrame(parent);
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Sunken);
@@ -86,7 +86,7 @@ FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer
     buildControls(texts);
     applyTexts(texts);
     connectControls();
-    NameControls(*this);
+    nameControls(*this);
 }
 
 void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
@@ -150,15 +150,15 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
     m_btnAdd->setMinimumWidth(96);
 
     m_parameters = new QStackedWidget(this);
-    m_noParameters = Page("picNone", m_parameters);
+    m_noParameters = page("picNone", m_parameters);
 
-    m_picActionMove = Page("picActionMove", m_parameters);
+    m_picActionMove = page("picActionMove", m_parameters);
     {
-        QHBoxLayout* row = PageRow(m_picActionMove);
-        m_txtX = NumberBox("txtX", m_picActionMove);
-        m_txtY = NumberBox("txtY", m_picActionMove);
-        m_txtWidth = NumberBox("txtWidth", m_picActionMove);
-        m_txtHeight = NumberBox("txtHeight", m_picActionMove);
+        QHBoxLayout* row = pageRow(m_picActionMove);
+        m_txtX = numberBox("txtX", m_picActionMove);
+        m_txtY = numberBox("txtY", m_picActionMove);
+        m_txtWidth = numberBox("txtWidth", m_picActionMove);
+        m_txtHeight = numberBox("txtHeight", m_picActionMove);
         m_lblWidth = new QLabel(m_picActionMove);
         m_lblWidth->setObjectName(QStringLiteral("lblWidth"));
         m_lblHeight = new QLabel(m_picActionMove);
@@ -178,9 +178,9 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
         row->addStretch(1);
     }
 
-    m_picSetLabel = Page("picSetLabel", m_parameters);
+    m_picSetLabel = page("picSetLabel", m_parameters);
     {
-        QHBoxLayout* row = PageRow(m_picSetLabel);
+        QHBoxLayout* row = pageRow(m_picSetLabel);
         m_cmbStateSelector = new QComboBox(m_picSetLabel);
         m_cmbStateSelector->setObjectName(QStringLiteral("cmbStateSelector"));
         m_cmbStateSelector->setMinimumWidth(120);
@@ -195,9 +195,9 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
         row->addWidget(m_btnGetHexColor);
     }
 
-    m_picSetTimer = Page("picSetTimer", m_parameters);
+    m_picSetTimer = page("picSetTimer", m_parameters);
     {
-        QHBoxLayout* row = PageRow(m_picSetTimer);
+        QHBoxLayout* row = pageRow(m_picSetTimer);
         m_lblMiliseconds = new QLabel(m_picSetTimer);
         m_lblMiliseconds->setObjectName(QStringLiteral("lblMiliseconds"));
         m_lsMiliseconds = new QComboBox(m_picSetTimer);
@@ -213,9 +213,9 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
         row->addStretch(1);
     }
 
-    m_javaScriptPage = Page("picJavaScript", m_parameters);
+    m_javaScriptPage = page("picJavaScript", m_parameters);
     {
-        QHBoxLayout* row = PageRow(m_javaScriptPage);
+        QHBoxLayout* row = pageRow(m_javaScriptPage);
         m_txtJavaScript = new QLineEdit(m_javaScriptPage);
         m_txtJavaScript->setObjectName(QStringLiteral("txtJavaScript"));
         row->addWidget(m_txtJavaScript);
@@ -240,8 +240,8 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
         m_lblInputNote->setText(text);
         m_lblInputNote->setVisible(!text.isEmpty());
     };
-    TypedFieldValidator::Guard(m_txtLabel, TypedField::Label, note);
-    TypedFieldValidator::Guard(m_txtJavaScript, TypedField::Text, note);
+    TypedFieldValidator::guard(m_txtLabel, TypedField::Label, note);
+    TypedFieldValidator::guard(m_txtJavaScript, TypedField::Text, note);
     composer->setColumnStretch(2, 1);
 
     // Closing.
@@ -267,9 +267,9 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
     root->setContentsMargins(12, 12, 12, 12);
     root->setSpacing(10);
     root->addLayout(programRow, 1);
-    root->addWidget(Separator(this));
+    root->addWidget(separator(this));
     root->addLayout(composer);
-    root->addWidget(Separator(this));
+    root->addWidget(separator(this));
     root->addLayout(closing);
 
     m_cmbAction->addItems(QList(texts.commandList()));
@@ -328,7 +328,7 @@ void FrmSetAction::load(const std::string& kind, const std::string& title) {
     setWindowTitle(Q(title));
     m_editor.open(kind);
     const auto targets = static_cast<int>(m_editor.targetButtons(m_selected).size());
-    m_lblTargets->setText(Q(Messages()[Msg::ProgramForButtons]).arg(targets));
+    m_lblTargets->setText(Q(messages()[Msg::ProgramForButtons]).arg(targets));
     m_lblTargets->setVisible(targets > 1);
     showCombos();
     showInputs();
@@ -338,7 +338,7 @@ void FrmSetAction::load(const std::string& kind, const std::string& title) {
 
 void FrmSetAction::myShow(const std::string& kind, const std::string& title) {
     load(kind, title);
-    KeepAboveOnTopWindows(*this);
+    keepAboveOnTopWindows(*this);
     exec();
 }
 
@@ -392,7 +392,7 @@ void FrmSetAction::btnGetHexColor_Click() {
     const QColor colour = QColorDialog::getColor(initial, this);
     if (!colour.isValid())
         return;
-    m_editor.takeColor(ColorToRef(colour));
+    m_editor.takeColor(colorToRef(colour));
     showInputs();
 }
 
@@ -421,12 +421,12 @@ void FrmSetAction::takeInputs() {
 
 void FrmSetAction::showInputs() {
     const ActionInputs& in = m_editor.inputs();
-    SetText(m_txtX, in.x);
-    SetText(m_txtY, in.y);
-    SetText(m_txtWidth, in.width);
-    SetText(m_txtHeight, in.height);
-    SetText(m_txtLabel, in.label);
-    SetText(m_txtJavaScript, in.javaScript);
+    setText(m_txtX, in.x);
+    setText(m_txtY, in.y);
+    setText(m_txtWidth, in.width);
+    setText(m_txtHeight, in.height);
+    setText(m_txtLabel, in.label);
+    setText(m_txtJavaScript, in.javaScript);
     if (m_lsMiliseconds->currentText() != Q(in.milliseconds))
         m_lsMiliseconds->setCurrentText(Q(in.milliseconds));
 }
@@ -476,7 +476,7 @@ void FrmSetAction::showPanels() {
     m_btnGetHexColor->setVisible(p.colorButton);
 }
 
-void ShowActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
+void showActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
                       UserInterface& ui, ProgramBuffer& buffer, const std::string& kind,
                       const std::string& title, const ActionEditorTexts& texts,
                       const std::array<std::string, 3>& stateCaptions) {

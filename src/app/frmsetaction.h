@@ -36,7 +36,7 @@ public:
     FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
                  std::vector<bool> selected, QWidget* parent = nullptr,
                  const ActionEditorTexts& texts = {},
-                 const std::array<std::string, 3>& stateCaptions = DefaultStateCaptions());
+                 const std::array<std::string, 3>& stateCaptions = defaultStateCaptions());
 
     /// Loads the program of `kind` and titles the window, without showing it.
     void load(const std::string& kind, const std::string& title);
@@ -110,9 +110,9 @@ private:
  * returns when it is closed. OK writes the program into every selected button
  * (button kinds) or the applet's slot and clears Saved; Cancel writes nothing.
  */
-void ShowActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
+void showActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
                       UserInterface& ui, ProgramBuffer& buffer, const std::string& kind,
                       const std::string& title, const ActionEditorTexts& texts = {},
-                      const std::array<std::string, 3>& stateCaptions = DefaultStateCaptions());
+                      const std::array<std::string, 3>& stateCaptions = defaultStateCaptions());
 
 } // namespace orvelin

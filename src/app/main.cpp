@@ -30,7 +30,7 @@ QString CommandLine(const QStringList& arguments) {
     return arguments.mid(1).join(QLatin1Char(' '));
 }
 
-void SaveScreenshots(orvelin::Designer& designer, const QString& folder) {
+void saveScreenshots(orvelin::Designer& designer, const QString& folder) {
     QDir().mkpath(folder);
     const QDir dir(folder);
     designer.mainWindow().grab().save(dir.filePath(QStringLiteral("frmmain.png")));
@@ -38,7 +38,7 @@ void SaveScreenshots(orvelin::Designer& designer, const QString& folder) {
 }
 
 // Answers --help and --version; false for anything else (a project path).
-bool AnswerWithoutDisplay(int argc, char** argv) {
+bool answerWithoutDisplay(int argc, char** argv) {
     if (argc != 2)
         return false;
     if (std::strcmp(argv[1], "--version") == 0) {
@@ -61,7 +61,7 @@ QtMessageHandler g_defaultHandler = nullptr;
 
 // While the application connects to the display, Qt's complaints about a missing one
 // (and its abort) become one sentence that says what to do.
-void DisplayMessageHandler(QtMsgType type, const QMessageLogContext& context,
+void displayMessageHandler(QtMsgType type, const QMessageLogContext& context,
                            const QString& message) {
     if (type != QtFatalMsg && !QByteArray(context.category).startsWith("qt.qpa")) {
         if (g_defaultHandler != nullptr)
@@ -92,9 +92,9 @@ void DisplayMessageHandler(QtMsgType type, const QMessageLogContext& context,
 } // namespace
 
 int main(int argc, char** argv) {
-    if (AnswerWithoutDisplay(argc, argv))
+    if (answerWithoutDisplay(argc, argv))
         return 0;
-    g_defaultHandler = qInstallMessageHandler(DisplayMessageHandler);
+    g_defaultHandler = qInstallMessageHandler(displayMessageHandler);
     QApplication app(argc, argv);
     qInstallMessageHandler(g_defaultHandler);
     QApplication::setWindowIcon(orvelin::AppIcon());
@@ -120,14 +120,14 @@ int main(int argc, char** argv) {
     QObject::connect(&designer.mainWindow().menus(), &orvelin::MainMenus::associateRequested,
                      &desktop, &orvelin::DesktopSetup::associateNow);
     // The prompts come once the windows are up; a timed start-up run has none.
-    if (!orvelin::StartupProbe::QuitAfterStartupRequested())
+    if (!orvelin::StartupProbe::quitAfterStartupRequested())
         QObject::connect(&probe, &orvelin::StartupProbe::idle, &desktop,
                          &orvelin::DesktopSetup::offerAtStartup);
 
     const QString screenshots = qEnvironmentVariable("ORVELIN_SCREENSHOT_DIR");
     if (!screenshots.isEmpty())
         QObject::connect(&probe, &orvelin::StartupProbe::idle, &designer,
-                         [&designer, screenshots] { SaveScreenshots(designer, screenshots); });
+                         [&designer, screenshots] { saveScreenshots(designer, screenshots); });
     probe.start();
     return QApplication::exec();
 }

@@ -34,25 +34,25 @@ void MainMenus::buildFile(QMenu* menu) {
     Editor& e = m_editor;
     QAction* newProject = add(menu, "mnuNew", QStringLiteral("&New"));
     newProject->setShortcut(QKeySequence::New);
-    connect(newProject, &QAction::triggered, this, [&e] { e.New(); });
+    connect(newProject, &QAction::triggered, this, [&e] { e.newProject(); });
     QAction* open = add(menu, "mnuOpen", QStringLiteral("&Open..."));
     open->setShortcut(QKeySequence::Open);
-    connect(open, &QAction::triggered, this, [&e] { e.Open(); });
+    connect(open, &QAction::triggered, this, [&e] { e.open(); });
     QAction* save = add(menu, "mnuSave", QStringLiteral("&Save"));
     save->setShortcut(QKeySequence::Save);
-    connect(save, &QAction::triggered, this, [&e] { e.Save(); });
+    connect(save, &QAction::triggered, this, [&e] { e.save(); });
     QAction* saveAs = add(menu, "mnuSaveAs", QStringLiteral("Save &As..."));
     saveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    connect(saveAs, &QAction::triggered, this, [&e] { e.SaveAs(); });
+    connect(saveAs, &QAction::triggered, this, [&e] { e.saveAs(); });
     menu->addSeparator();
     QAction* import = add(menu, "mnuImport", QStringLiteral("&Import Legacy Project..."));
-    connect(import, &QAction::triggered, this, [&e] { e.ImportLegacy(); });
+    connect(import, &QAction::triggered, this, [&e] { e.importLegacy(); });
     menu->addSeparator();
     for (int slot = 1; slot <= 4; ++slot) {
         QAction* recent = menu->addAction(QString());
         recent->setObjectName(QStringLiteral("mnuFile%1").arg(slot));
         recent->setVisible(false);
-        connect(recent, &QAction::triggered, this, [&e, slot] { e.OpenRecent(slot); });
+        connect(recent, &QAction::triggered, this, [&e, slot] { e.openRecent(slot); });
         m_recent[static_cast<std::size_t>(slot - 1)] = recent;
     }
     menu->addSeparator();
@@ -69,13 +69,13 @@ void MainMenus::buildEdit(QMenu* menu) {
     Editor& e = m_editor;
     QAction* addButton = add(menu, "mnuAdd", QStringLiteral("&Add Button"));
     addButton->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Plus));
-    connect(addButton, &QAction::triggered, this, [&e] { e.AddButton(); });
+    connect(addButton, &QAction::triggered, this, [&e] { e.addButton(); });
     QAction* duplicate = add(menu, "mnuDuplicate", QStringLiteral("&Duplicate Button"));
     duplicate->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
-    connect(duplicate, &QAction::triggered, this, [&e] { e.DuplicateButton(); });
+    connect(duplicate, &QAction::triggered, this, [&e] { e.duplicateButton(); });
     m_remove = add(menu, "mnuRemove", QStringLiteral("&Remove Button"));
     m_remove->setShortcut(QKeySequence::Delete);
-    connect(m_remove, &QAction::triggered, this, [&e] { e.RemoveButton(); });
+    connect(m_remove, &QAction::triggered, this, [&e] { e.removeButton(); });
     menu->addSeparator();
     // The selected buttons as text, so that they paste into another running designer.
     const auto toClipboard = [](const std::string& text) {
@@ -84,18 +84,18 @@ void MainMenus::buildEdit(QMenu* menu) {
     };
     QAction* cut = add(menu, "mnuCut", QStringLiteral("Cu&t Buttons"));
     cut->setShortcut(QKeySequence::Cut);
-    connect(cut, &QAction::triggered, this, [&e, toClipboard] { toClipboard(e.CutButtons()); });
+    connect(cut, &QAction::triggered, this, [&e, toClipboard] { toClipboard(e.cutButtons()); });
     QAction* copy = add(menu, "mnuCopy", QStringLiteral("&Copy Buttons"));
     copy->setShortcut(QKeySequence::Copy);
-    connect(copy, &QAction::triggered, this, [&e, toClipboard] { toClipboard(e.CopyButtons()); });
+    connect(copy, &QAction::triggered, this, [&e, toClipboard] { toClipboard(e.copyButtons()); });
     QAction* paste = add(menu, "mnuPaste", QStringLiteral("&Paste Buttons"));
     paste->setShortcut(QKeySequence::Paste);
     connect(paste, &QAction::triggered, this,
-            [&e] { e.PasteButtons(QGuiApplication::clipboard()->text().toStdString()); });
+            [&e] { e.pasteButtons(QGuiApplication::clipboard()->text().toStdString()); });
     menu->addSeparator();
     QAction* makeDefault = add(menu, "mnuMakeDefault", QStringLiteral("Make &Default"));
     makeDefault->setToolTip(QStringLiteral("New buttons take the properties of this one"));
-    connect(makeDefault, &QAction::triggered, this, [&e] { e.MakeDefault(); });
+    connect(makeDefault, &QAction::triggered, this, [&e] { e.makeDefault(); });
     m_shared << addButton << duplicate << m_remove << cut << copy << paste;
 }
 
@@ -105,8 +105,8 @@ void MainMenus::buildView(QMenu* menu) {
     m_onTop->setCheckable(true);
     // The core decides the new state and reports it back through setOnTopChecked.
     connect(m_onTop, &QAction::triggered, this, [this] {
-        m_onTop->setChecked(m_editor.KeepOnTop());
-        m_editor.ToggleKeepOnTop();
+        m_onTop->setChecked(m_editor.keepOnTop());
+        m_editor.toggleKeepOnTop();
     });
     m_html = add(menu, "mnuBuildHtml", QStringLiteral("Build &HTML"));
     m_html->setShortcut(QKeySequence(Qt::Key_F5));
@@ -135,13 +135,13 @@ void MainMenus::buildOptions(QMenu* menu) {
         action->setData(QString::fromLatin1(l.code));
         m_languages->addAction(action);
         const std::string code = l.code;
-        connect(action, &QAction::triggered, this, [this, code] { m_editor.SetLanguage(code); });
+        connect(action, &QAction::triggered, this, [this, code] { m_editor.setLanguage(code); });
     }
     m_autoTile = add(menu, "mnuAutoTile", QStringLiteral("&Tile Small Background Images"));
     m_autoTile->setCheckable(true);
     m_autoTile->setToolTip(
         QStringLiteral("A background image smaller than the applet both ways is tiled"));
-    connect(m_autoTile, &QAction::triggered, this, [this](bool on) { m_editor.SetAutoTile(on); });
+    connect(m_autoTile, &QAction::triggered, this, [this](bool on) { m_editor.setAutoTile(on); });
     menu->addSeparator();
     QAction* advanced = add(menu, "mnuAdvanced", QStringLiteral("&Advanced..."));
     connect(advanced, &QAction::triggered, this, &MainMenus::advancedRequested);
@@ -152,14 +152,14 @@ void MainMenus::buildOptions(QMenu* menu) {
 void MainMenus::buildTools(QMenu* menu) {
     menu->setObjectName(QStringLiteral("mnuTools"));
     QAction* sound = add(menu, "mnuSoundConv", QStringLiteral("&Sound Converter..."));
-    connect(sound, &QAction::triggered, this, [this] { m_editor.SoundConverter(); });
+    connect(sound, &QAction::triggered, this, [this] { m_editor.soundConverter(); });
 }
 
 void MainMenus::buildHelp(QMenu* menu) {
     menu->setObjectName(QStringLiteral("mnuHelp"));
     QAction* help = add(menu, "mnuHelpContents", QStringLiteral("&Help"));
     help->setShortcut(QKeySequence::HelpContents);
-    connect(help, &QAction::triggered, this, [this] { m_editor.Help(); });
+    connect(help, &QAction::triggered, this, [this] { m_editor.help(); });
     QAction* about = add(menu, "mnuAbout", QStringLiteral("&About Orvelin"));
     about->setMenuRole(QAction::AboutRole);
     connect(about, &QAction::triggered, this, &MainMenus::aboutRequested);

@@ -5,7 +5,7 @@
 
 namespace orvelin {
 
-void AddPaintedPixmaps(QIcon& icon, QSize size, const std::function<void(QPainter&)>& paint,
+void addPaintedPixmaps(QIcon& icon, QSize size, const std::function<void(QPainter&)>& paint,
                        QIcon::Mode mode) {
     for (int ratio : {1, 2, 3}) {
         QPixmap pixmap(size * ratio);

@@ -13,7 +13,7 @@ namespace orvelin {
  * for each common device pixel ratio, so that a dense screen shows a sharp picture
  * rather than a doubled one.
  */
-void AddPaintedPixmaps(QIcon& icon, QSize size, const std::function<void(QPainter&)>& paint,
+void addPaintedPixmaps(QIcon& icon, QSize size, const std::function<void(QPainter&)>& paint,
                        QIcon::Mode mode = QIcon::Normal);
 
 } // namespace orvelin

@@ -8,7 +8,7 @@
 
 namespace orvelin::panel {
 
-QLineEdit* LineEdit(const QString& name, QWidget* parent, int width) {
+QLineEdit* lineEdit(const QString& name, QWidget* parent, int width) {
     auto* edit = new QLineEdit(parent);
     edit->setObjectName(name);
     if (width > 0)
@@ -16,13 +16,13 @@ QLineEdit* LineEdit(const QString& name, QWidget* parent, int width) {
     return edit;
 }
 
-QCheckBox* CheckBox(const QString& name, const QString& text, QWidget* parent) {
+QCheckBox* checkBox(const QString& name, const QString& text, QWidget* parent) {
     auto* box = new QCheckBox(text, parent);
     box->setObjectName(name);
     return box;
 }
 
-QComboBox* ComboBox(const QString& name, bool editable, QWidget* parent) {
+QComboBox* comboBox(const QString& name, bool editable, QWidget* parent) {
     auto* combo = new QComboBox(parent);
     combo->setObjectName(name);
     combo->setEditable(editable);
@@ -31,7 +31,7 @@ QComboBox* ComboBox(const QString& name, bool editable, QWidget* parent) {
     return combo;
 }
 
-QToolButton* BrowseButton(const QString& name, const QString& toolTip, QWidget* parent) {
+QToolButton* browseButton(const QString& name, const QString& toolTip, QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
     button->setText(QStringLiteral("..."));
@@ -39,12 +39,12 @@ QToolButton* BrowseButton(const QString& name, const QString& toolTip, QWidget* 
     return button;
 }
 
-QGroupBox* Group(const QString& title, QWidget* parent) {
+QGroupBox* group(const QString& title, QWidget* parent) {
     auto* group = new QGroupBox(title, parent);
     return group;
 }
 
-void SetText(QLineEdit* edit, const QString& text) {
+void setText(QLineEdit* edit, const QString& text) {
     if (edit->text() == text)
         return;
     edit->setText(text);
@@ -53,7 +53,7 @@ void SetText(QLineEdit* edit, const QString& text) {
         edit->setCursorPosition(0);
 }
 
-void SetText(QComboBox* combo, const QString& text) {
+void setText(QComboBox* combo, const QString& text) {
     if (combo->currentText() == text)
         return;
     const int index = combo->findText(text);
@@ -63,7 +63,7 @@ void SetText(QComboBox* combo, const QString& text) {
         combo->setEditText(text);
 }
 
-void SetChecked(QCheckBox* box, bool checked) {
+void setChecked(QCheckBox* box, bool checked) {
     if (box->isChecked() != checked)
         box->setChecked(checked);
 }

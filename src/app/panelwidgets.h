@@ -17,16 +17,16 @@ class QWidget;
 namespace orvelin::panel {
 
 /// A line edit named `name`; `width` 0 lets it stretch.
-QLineEdit* LineEdit(const QString& name, QWidget* parent, int width = 0);
-QCheckBox* CheckBox(const QString& name, const QString& text, QWidget* parent);
+QLineEdit* lineEdit(const QString& name, QWidget* parent, int width = 0);
+QCheckBox* checkBox(const QString& name, const QString& text, QWidget* parent);
 /// A combo box; `editable` ones accept any typed text.
-QComboBox* ComboBox(const QString& name, bool editable, QWidget* parent);
+QComboBox* comboBox(const QString& name, bool editable, QWidget* parent);
 /// The "..." button beside a field.
-QToolButton* BrowseButton(const QString& name, const QString& toolTip, QWidget* parent);
-QGroupBox* Group(const QString& title, QWidget* parent);
+QToolButton* browseButton(const QString& name, const QString& toolTip, QWidget* parent);
+QGroupBox* group(const QString& title, QWidget* parent);
 
-void SetText(QLineEdit* edit, const QString& text);
-void SetText(QComboBox* combo, const QString& text);
-void SetChecked(QCheckBox* box, bool checked);
+void setText(QLineEdit* edit, const QString& text);
+void setText(QComboBox* combo, const QString& text);
+void setChecked(QCheckBox* box, bool checked);
 
 } // namespace orvelin::panel

@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kNumberWidth = 56;
 
-QString Number(int value) {
+QString number(int value) {
     return QString::number(value);
 }
 
@@ -34,7 +34,7 @@ std::string Std(const QString& text) {
     return text.toStdString();
 }
 
-QToolButton* StyleToggle(const QString& name, const QString& text, const QString& toolTip,
+QToolButton* styleToggle(const QString& name, const QString& text, const QString& toolTip,
                          QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
@@ -54,7 +54,7 @@ QToolButton* StyleToggle(const QString& name, const QString& text, const QString
 } // namespace
 
 PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
-    : QWidget(parent), m_editor(editor), m_properties(editor.Properties()) {
+    : QWidget(parent), m_editor(editor), m_properties(editor.properties()) {
     setObjectName(QStringLiteral("propertyPanel"));
     m_caption = new QLabel(this);
     m_caption->setObjectName(QStringLiteral("lblProperties"));
@@ -117,7 +117,7 @@ PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
                                                        {m_image, TypedField::File},
                                                        {m_sound, TypedField::File}};
     for (const auto& [edit, field] : typed)
-        TypedFieldValidator::Guard(edit, field, note);
+        TypedFieldValidator::guard(edit, field, note);
     connect(m_setAction, &QPushButton::clicked, this,
             [this] { emit actionRequested(m_setAction->text()); });
     connect(m_labelEditor, &QToolButton::clicked, this, &PropertyPanel::labelEditorRequested);
@@ -146,17 +146,17 @@ QWidget* PropertyPanel::buildStateSwitch() {
         row->addWidget(button);
     }
     connect(m_states, &QButtonGroup::idClicked, this,
-            [this](int id) { m_editor.SwitchState(StateName(static_cast<ButtonState>(id))); });
+            [this](int id) { m_editor.switchState(stateName(static_cast<ButtonState>(id))); });
     return box;
 }
 
 QWidget* PropertyPanel::buildGeometry() {
-    QGroupBox* group = panel::Group(QStringLiteral("Position and Size"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("Position and Size"), m_body);
     auto* grid = new QGridLayout(group);
-    m_x = panel::LineEdit(QStringLiteral("txtX"), group, kNumberWidth);
-    m_y = panel::LineEdit(QStringLiteral("txtY"), group, kNumberWidth);
-    m_width = panel::LineEdit(QStringLiteral("txtWidth"), group, kNumberWidth);
-    m_height = panel::LineEdit(QStringLiteral("txtHeight"), group, kNumberWidth);
+    m_x = panel::lineEdit(QStringLiteral("txtX"), group, kNumberWidth);
+    m_y = panel::lineEdit(QStringLiteral("txtY"), group, kNumberWidth);
+    m_width = panel::lineEdit(QStringLiteral("txtWidth"), group, kNumberWidth);
+    m_height = panel::lineEdit(QStringLiteral("txtHeight"), group, kNumberWidth);
     grid->addWidget(new QLabel(QStringLiteral("X:"), group), 0, 0);
     grid->addWidget(m_x, 0, 1);
     grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 2);
@@ -170,11 +170,11 @@ QWidget* PropertyPanel::buildGeometry() {
 }
 
 QWidget* PropertyPanel::buildLabel() {
-    QGroupBox* group = panel::Group(QStringLiteral("Label"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("Label"), m_body);
     auto* grid = new QGridLayout(group);
 
-    m_label = panel::LineEdit(QStringLiteral("txtLabel"), group);
-    m_labelEditor = panel::BrowseButton(QStringLiteral("btnMultiLine"),
+    m_label = panel::lineEdit(QStringLiteral("txtLabel"), group);
+    m_labelEditor = panel::browseButton(QStringLiteral("btnMultiLine"),
                                         QStringLiteral("Edit a label of several lines"), group);
     auto* text = new QHBoxLayout();
     text->setSpacing(2);
@@ -184,12 +184,12 @@ QWidget* PropertyPanel::buildLabel() {
     grid->addLayout(text, 0, 1, 1, 4);
 
     m_centerText =
-        panel::CheckBox(QStringLiteral("chkCenterText"), QStringLiteral("Center Text"), group);
+        panel::checkBox(QStringLiteral("chkCenterText"), QStringLiteral("Center Text"), group);
     m_positionText =
-        panel::CheckBox(QStringLiteral("chkPositionText"), QStringLiteral("At:"), group);
+        panel::checkBox(QStringLiteral("chkPositionText"), QStringLiteral("At:"), group);
     m_positionText->setToolTip(QStringLiteral("Draw the label at a position in the button"));
-    m_labelPosX = panel::LineEdit(QStringLiteral("txtLabelPosX"), group, 44);
-    m_labelPosY = panel::LineEdit(QStringLiteral("txtLabelPosY"), group, 44);
+    m_labelPosX = panel::lineEdit(QStringLiteral("txtLabelPosX"), group, 44);
+    m_labelPosY = panel::lineEdit(QStringLiteral("txtLabelPosY"), group, 44);
     m_labelPosX->setToolTip(QStringLiteral("Label position X"));
     m_labelPosY->setToolTip(QStringLiteral("Label position Y"));
     auto* place = new QHBoxLayout();
@@ -207,13 +207,13 @@ QWidget* PropertyPanel::buildLabel() {
     m_font->setInsertPolicy(QComboBox::NoInsert);
     m_font->setMinimumContentsLength(12);
     m_font->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_fontSize = panel::ComboBox(QStringLiteral("lsFontSize"), true, group);
+    m_fontSize = panel::comboBox(QStringLiteral("lsFontSize"), true, group);
     for (int size : {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72})
-        m_fontSize->addItem(Number(size));
+        m_fontSize->addItem(number(size));
     m_fontSize->setFixedWidth(58);
     m_bold =
-        StyleToggle(QStringLiteral("btnBold"), QStringLiteral("B"), QStringLiteral("Bold"), group);
-    m_italic = StyleToggle(QStringLiteral("btnItalic"), QStringLiteral("I"),
+        styleToggle(QStringLiteral("btnBold"), QStringLiteral("B"), QStringLiteral("Bold"), group);
+    m_italic = styleToggle(QStringLiteral("btnItalic"), QStringLiteral("I"),
                            QStringLiteral("Italic"), group);
     auto* font = new QHBoxLayout();
     font->setSpacing(3);
@@ -241,17 +241,17 @@ QWidget* PropertyPanel::buildLabel() {
 }
 
 QWidget* PropertyPanel::buildImageAndSound() {
-    QGroupBox* group = panel::Group(QStringLiteral("Image and Sound"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("Image and Sound"), m_body);
     auto* grid = new QGridLayout(group);
-    m_image = panel::LineEdit(QStringLiteral("txtImage"), group);
+    m_image = panel::lineEdit(QStringLiteral("txtImage"), group);
     m_image->setMinimumWidth(150);
-    m_browseImage = panel::BrowseButton(QStringLiteral("btnBrowseImage"),
+    m_browseImage = panel::browseButton(QStringLiteral("btnBrowseImage"),
                                         QStringLiteral("Choose an image"), group);
-    m_imgStyle = panel::ComboBox(QStringLiteral("cmbImgStyle"), false, group);
+    m_imgStyle = panel::comboBox(QStringLiteral("cmbImgStyle"), false, group);
     m_imgStyle->addItems(
         {QStringLiteral("Center"), QStringLiteral("Tile"), QStringLiteral("Stretch")});
-    m_sound = panel::LineEdit(QStringLiteral("txtSound"), group);
-    m_browseSound = panel::BrowseButton(QStringLiteral("btnBrowseSound"),
+    m_sound = panel::lineEdit(QStringLiteral("txtSound"), group);
+    m_browseSound = panel::browseButton(QStringLiteral("btnBrowseSound"),
                                         QStringLiteral("Choose a sound"), group);
     grid->addWidget(new QLabel(QStringLiteral("Image:"), group), 0, 0);
     grid->addWidget(m_image, 0, 1);
@@ -267,11 +267,11 @@ QWidget* PropertyPanel::buildImageAndSound() {
 }
 
 QWidget* PropertyPanel::buildLink() {
-    QGroupBox* group = panel::Group(QStringLiteral("Link"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("Link"), m_body);
     auto* form = new QFormLayout(group);
-    m_url = panel::LineEdit(QStringLiteral("txtURL"), group);
-    m_status = panel::LineEdit(QStringLiteral("txtStatus"), group);
-    m_target = panel::ComboBox(QStringLiteral("lsTarget"), true, group);
+    m_url = panel::lineEdit(QStringLiteral("txtURL"), group);
+    m_status = panel::lineEdit(QStringLiteral("txtStatus"), group);
+    m_target = panel::comboBox(QStringLiteral("lsTarget"), true, group);
     m_target->addItems({QStringLiteral("_self"), QStringLiteral("_parent"), QStringLiteral("_top"),
                         QStringLiteral("_blank")});
     form->addRow(QStringLiteral("URL:"), m_url);
@@ -282,14 +282,14 @@ QWidget* PropertyPanel::buildLink() {
 }
 
 QWidget* PropertyPanel::buildFlags() {
-    QGroupBox* group = panel::Group(QStringLiteral("Options"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("Options"), m_body);
     auto* grid = new QGridLayout(group);
-    m_border = panel::CheckBox(QStringLiteral("chkBorder"), QStringLiteral("Border"), group);
+    m_border = panel::checkBox(QStringLiteral("chkBorder"), QStringLiteral("Border"), group);
     m_transparent =
-        panel::CheckBox(QStringLiteral("chkTransparent"), QStringLiteral("Transparent"), group);
+        panel::checkBox(QStringLiteral("chkTransparent"), QStringLiteral("Transparent"), group);
     m_showHand =
-        panel::CheckBox(QStringLiteral("chkShowHand"), QStringLiteral("Hand cursor"), group);
-    m_hidden = panel::CheckBox(QStringLiteral("chkHidden"), QStringLiteral("Hidden"), group);
+        panel::checkBox(QStringLiteral("chkShowHand"), QStringLiteral("Hand cursor"), group);
+    m_hidden = panel::checkBox(QStringLiteral("chkHidden"), QStringLiteral("Hidden"), group);
     m_transparent->setToolTip(QStringLiteral("No background: the applet shows through"));
     m_hidden->setToolTip(QStringLiteral("Hidden when the applet starts"));
     grid->addWidget(m_border, 0, 0);
@@ -308,62 +308,62 @@ void PropertyPanel::bindText(QLineEdit* edit, TextSetter setter) {
 void PropertyPanel::bindTexts() {
     PropertyEditor& p = m_properties;
     const auto bind = [this](QLineEdit* edit, TextSetter setter) { bindText(edit, setter); };
-    bind(m_x, &PropertyEditor::SetX);
-    bind(m_y, &PropertyEditor::SetY);
-    bind(m_width, &PropertyEditor::SetWidth);
-    bind(m_height, &PropertyEditor::SetHeight);
-    bind(m_label, &PropertyEditor::SetLabel);
-    bind(m_labelPosX, &PropertyEditor::SetLabelPosX);
-    bind(m_labelPosY, &PropertyEditor::SetLabelPosY);
-    bind(m_image, &PropertyEditor::SetImage);
-    bind(m_sound, &PropertyEditor::SetSound);
-    bind(m_url, &PropertyEditor::SetURL);
-    bind(m_status, &PropertyEditor::SetStatus);
+    bind(m_x, &PropertyEditor::setX);
+    bind(m_y, &PropertyEditor::setY);
+    bind(m_width, &PropertyEditor::setWidth);
+    bind(m_height, &PropertyEditor::setHeight);
+    bind(m_label, &PropertyEditor::setLabel);
+    bind(m_labelPosX, &PropertyEditor::setLabelPosX);
+    bind(m_labelPosY, &PropertyEditor::setLabelPosY);
+    bind(m_image, &PropertyEditor::setImage);
+    bind(m_sound, &PropertyEditor::setSound);
+    bind(m_url, &PropertyEditor::setURL);
+    bind(m_status, &PropertyEditor::setStatus);
     connect(m_font, &QComboBox::currentTextChanged, this,
-            [&p](const QString& text) { p.SetFont(Std(text)); });
+            [&p](const QString& text) { p.setFont(Std(text)); });
     connect(m_target, &QComboBox::currentTextChanged, this,
-            [&p](const QString& text) { p.SetTarget(Std(text)); });
-    connect(m_browseImage, &QToolButton::clicked, this, [&p] { p.BrowseImage(); });
-    connect(m_browseSound, &QToolButton::clicked, this, [&p] { p.BrowseSound(); });
+            [&p](const QString& text) { p.setTarget(Std(text)); });
+    connect(m_browseImage, &QToolButton::clicked, this, [&p] { p.browseImage(); });
+    connect(m_browseSound, &QToolButton::clicked, this, [&p] { p.browseSound(); });
 }
 
 void PropertyPanel::bindFontSize() {
     PropertyEditor& p = m_properties;
     connect(m_fontSize, &QComboBox::currentTextChanged, this,
-            [&p](const QString& text) { p.SetFontSize(Std(text)); });
+            [&p](const QString& text) { p.setFontSize(Std(text)); });
     // An empty box while a size is typed is no value and says nothing; a size the labels
     // cannot be drawn with is named here, beside the box, instead of in a message per
     // button; leaving the box puts the button's size back.
     QLineEdit* edit = m_fontSize->lineEdit();
     connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-        const bool refused = !text.trimmed().isEmpty() && !IsUsableFontSize(Std(text));
-        showNote(refused ? QString::fromStdString(Messages()[Msg::FontSizeRange]) : QString());
+        const bool refused = !text.trimmed().isEmpty() && !isUsableFontSize(Std(text));
+        showNote(refused ? QString::fromStdString(messages()[Msg::FontSizeRange]) : QString());
     });
     connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
-        if (!IsUsableFontSize(Std(edit->text())))
+        if (!isUsableFontSize(Std(edit->text())))
             emit refreshRequested();
     });
 }
 
 void PropertyPanel::bindChoices() {
     PropertyEditor& p = m_properties;
-    connect(m_centerText, &QCheckBox::toggled, this, [&p](bool on) { p.SetCenterText(on); });
-    connect(m_positionText, &QCheckBox::toggled, this, [&p](bool on) { p.SetPositionText(on); });
+    connect(m_centerText, &QCheckBox::toggled, this, [&p](bool on) { p.setCenterText(on); });
+    connect(m_positionText, &QCheckBox::toggled, this, [&p](bool on) { p.setPositionText(on); });
     const auto style = [this] {
-        m_properties.SetFontStyle(m_bold->isChecked(), m_italic->isChecked());
+        m_properties.setFontStyle(m_bold->isChecked(), m_italic->isChecked());
     };
     connect(m_bold, &QToolButton::toggled, this, style);
     connect(m_italic, &QToolButton::toggled, this, style);
     connect(m_fontColor, &ColorButton::colourChosen, this,
-            [&p](std::int32_t colour) { p.SetFontColor(colour); });
+            [&p](std::int32_t colour) { p.setFontColor(colour); });
     connect(m_backColor, &ColorButton::colourChosen, this,
-            [&p](std::int32_t colour) { p.SetBackColor(colour); });
+            [&p](std::int32_t colour) { p.setBackColor(colour); });
     connect(m_imgStyle, &QComboBox::currentIndexChanged, this,
-            [&p](int index) { p.SetImgStyle(index); });
-    connect(m_border, &QCheckBox::toggled, this, [&p](bool on) { p.SetBorder(on); });
-    connect(m_transparent, &QCheckBox::toggled, this, [&p](bool on) { p.SetTransparent(on); });
-    connect(m_showHand, &QCheckBox::toggled, this, [&p](bool on) { p.SetShowHand(on); });
-    connect(m_hidden, &QCheckBox::toggled, this, [&p](bool on) { p.SetHidden(on); });
+            [&p](int index) { p.setImgStyle(index); });
+    connect(m_border, &QCheckBox::toggled, this, [&p](bool on) { p.setBorder(on); });
+    connect(m_transparent, &QCheckBox::toggled, this, [&p](bool on) { p.setTransparent(on); });
+    connect(m_showHand, &QCheckBox::toggled, this, [&p](bool on) { p.setShowHand(on); });
+    connect(m_hidden, &QCheckBox::toggled, this, [&p](bool on) { p.setHidden(on); });
 }
 
 void PropertyPanel::showButton(const ButtonRecord& record, ButtonState state,
@@ -371,42 +371,42 @@ void PropertyPanel::showButton(const ButtonRecord& record, ButtonState state,
     if (caption != m_caption->text())
         showNote({});
     m_caption->setText(caption);
-    panel::SetText(m_x, Number(record.x));
-    panel::SetText(m_y, Number(record.y));
-    panel::SetText(m_width, Number(record.Width));
-    panel::SetText(m_height, Number(record.Height));
-    panel::SetText(m_label, QString::fromStdString(record.Label(state)));
+    panel::setText(m_x, number(record.x));
+    panel::setText(m_y, number(record.y));
+    panel::setText(m_width, number(record.Width));
+    panel::setText(m_height, number(record.Height));
+    panel::setText(m_label, QString::fromStdString(record.label(state)));
 
-    const bool positioned = record.PositionText(state) != 0;
-    panel::SetChecked(m_positionText, positioned);
-    panel::SetChecked(m_centerText, !positioned);
-    panel::SetText(m_labelPosX, Number(record.LabelPosX(state)));
-    panel::SetText(m_labelPosY, Number(record.LabelPosY(state)));
+    const bool positioned = record.positionText(state) != 0;
+    panel::setChecked(m_positionText, positioned);
+    panel::setChecked(m_centerText, !positioned);
+    panel::setText(m_labelPosX, number(record.labelPosX(state)));
+    panel::setText(m_labelPosY, number(record.labelPosY(state)));
     m_labelPosX->setEnabled(positioned);
     m_labelPosY->setEnabled(positioned);
 
-    panel::SetText(m_font, QString::fromStdString(record.Font(state)));
-    panel::SetText(m_fontSize, Number(record.FontSize(state)));
+    panel::setText(m_font, QString::fromStdString(record.font(state)));
+    panel::setText(m_fontSize, number(record.fontSize(state)));
     bool bold = false;
     bool italic = false;
-    FontStyleFlags(record.FontStyle(state), bold, italic);
+    fontStyleFlags(record.fontStyle(state), bold, italic);
     m_bold->setChecked(bold);
     m_italic->setChecked(italic);
-    m_fontColor->setColour(record.FontColor(state));
-    m_backColor->setColour(record.BackColor(state));
+    m_fontColor->setColour(record.fontColor(state));
+    m_backColor->setColour(record.backColor(state));
 
-    panel::SetText(m_image, QString::fromStdString(record.Image(state)));
+    panel::setText(m_image, QString::fromStdString(record.image(state)));
     const int style = record.ImgStyle(state);
     m_imgStyle->setCurrentIndex(style >= 0 && style <= 2 ? style : 0);
-    panel::SetText(m_sound, QString::fromStdString(record.Sound(state)));
+    panel::setText(m_sound, QString::fromStdString(record.sound(state)));
 
-    panel::SetText(m_url, QString::fromStdString(record.URL));
-    panel::SetText(m_status, QString::fromStdString(record.Status));
-    panel::SetText(m_target, QString::fromStdString(record.Target));
-    panel::SetChecked(m_border, record.Border != 0);
-    panel::SetChecked(m_transparent, record.noBackGround != 0);
-    panel::SetChecked(m_showHand, record.ShowHand != 0);
-    panel::SetChecked(m_hidden, record.Hidden != 0);
+    panel::setText(m_url, QString::fromStdString(record.URL));
+    panel::setText(m_status, QString::fromStdString(record.Status));
+    panel::setText(m_target, QString::fromStdString(record.Target));
+    panel::setChecked(m_border, record.Border != 0);
+    panel::setChecked(m_transparent, record.noBackGround != 0);
+    panel::setChecked(m_showHand, record.ShowHand != 0);
+    panel::setChecked(m_hidden, record.Hidden != 0);
 }
 
 void PropertyPanel::showState(ButtonState state) {

@@ -14,15 +14,15 @@ QSettingsBackend::QSettingsBackend(const std::string& filePath)
     : m_settings(
           std::make_unique<QSettings>(QString::fromStdString(filePath), QSettings::IniFormat)) {}
 
-QString SettingsKeyPath(const std::string& section, const std::string& key) {
-    QString group = QString::fromStdString(NormalizeSection(section));
+QString settingsKeyPath(const std::string& section, const std::string& key) {
+    QString group = QString::fromStdString(normalizeSection(section));
     group.replace(QLatin1Char('\\'), QLatin1Char('/'));
     return group + QLatin1Char('/') + QString::fromStdString(key);
 }
 
 std::string QSettingsBackend::get(const std::string& section, const std::string& key,
                                   const std::string& defaultValue) const {
-    const QString path = SettingsKeyPath(section, key);
+    const QString path = settingsKeyPath(section, key);
     if (!m_settings->contains(path))
         return defaultValue;
     const QVariant value = m_settings->value(path);
@@ -35,7 +35,7 @@ std::string QSettingsBackend::get(const std::string& section, const std::string&
 
 void QSettingsBackend::set(const std::string& section, const std::string& key,
                            const std::string& value) {
-    m_settings->setValue(SettingsKeyPath(section, key), QString::fromStdString(value));
+    m_settings->setValue(settingsKeyPath(section, key), QString::fromStdString(value));
     m_settings->sync();
 }
 

@@ -32,6 +32,6 @@ private:
 };
 
 /// The QSettings key of `key` in `section`: the section's "\" become "/".
-QString SettingsKeyPath(const std::string& section, const std::string& key);
+QString settingsKeyPath(const std::string& section, const std::string& key);
 
 } // namespace orvelin

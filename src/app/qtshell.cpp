@@ -17,7 +17,7 @@ namespace {
 // openUrl only starts xdg-open, so it reports success even when xdg-open then finds
 // nothing to open the file with: no default program for its type, no $BROWSER and
 // none of the browsers xdg-open falls back to.
-bool SomeProgramOpens(const QString& file) {
+bool someProgramOpens(const QString& file) {
     QtDesktopTools tools;
     const DesktopTools::Result query =
         tools.run("xdg-mime",
@@ -34,16 +34,16 @@ bool SomeProgramOpens(const QString& file) {
 
 } // namespace
 
-bool QtShell::OpenDocument(const std::string& path) {
+bool QtShell::openDocument(const std::string& path) {
     const QString file = QString::fromStdString(path);
     // openUrl reports success for a file that is not there on some desktops; the
     // caller's message must still appear.
-    if (!QFileInfo::exists(file) || !SomeProgramOpens(file))
+    if (!QFileInfo::exists(file) || !someProgramOpens(file))
         return false;
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
-bool QtShell::StartProgram(const std::string& program, const std::vector<std::string>& arguments) {
+bool QtShell::startProgram(const std::string& program, const std::vector<std::string>& arguments) {
     QStringList args;
     for (const std::string& argument : arguments)
         args << QString::fromStdString(argument);

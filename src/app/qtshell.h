@@ -8,8 +8,8 @@ namespace orvelin {
 /// detached process for a chosen program.
 class QtShell : public Shell {
 public:
-    bool OpenDocument(const std::string& path) override;
-    bool StartProgram(const std::string& program,
+    bool openDocument(const std::string& path) override;
+    bool startProgram(const std::string& program,
                       const std::vector<std::string>& arguments) override;
 };
 

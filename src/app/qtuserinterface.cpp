@@ -18,11 +18,11 @@ void QtUserInterface::setOwner(QWidget* owner) {
     m_owner = owner;
 }
 
-QString QtUserInterface::MessageTitle(const std::string& title) {
+QString QtUserInterface::messageTitle(const std::string& title) {
     return title.empty() ? QStringLiteral("Orvelin") : QString::fromStdString(title);
 }
 
-QString QtUserInterface::DisplayText(const std::string& text) {
+QString QtUserInterface::displayText(const std::string& text) {
     QString shown = QString::fromStdString(text);
     shown.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     return shown;
@@ -31,12 +31,12 @@ QString QtUserInterface::DisplayText(const std::string& text) {
 int QtUserInterface::ask(QMessageBox::Icon icon, const std::string& text, const std::string& title,
                          QMessageBox::StandardButtons buttons,
                          QMessageBox::StandardButton defaultButton) {
-    QMessageBox box(icon, MessageTitle(title), DisplayText(text), buttons, m_owner);
+    QMessageBox box(icon, messageTitle(title), displayText(text), buttons, m_owner);
     box.setDefaultButton(defaultButton);
     // A short text under a long title: the box is made wide enough to show the title.
     box.setStyleSheet(QStringLiteral("QLabel { min-width: %1px; }")
                           .arg(box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40));
-    KeepAboveOnTopWindows(box);
+    keepAboveOnTopWindows(box);
     return box.exec();
 }
 
@@ -98,7 +98,7 @@ std::optional<std::string> QtUserInterface::chooseFile(QFileDialog::AcceptMode m
             dialog.setDirectory(file.dir());
         dialog.selectFile(file.fileName());
     }
-    KeepAboveOnTopWindows(dialog);
+    keepAboveOnTopWindows(dialog);
     const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
     if (chosenFilter != nullptr)
         *chosenFilter = dialog.selectedNameFilter().toStdString();

@@ -57,9 +57,9 @@ public:
     void setProgressDelay(std::chrono::milliseconds delay);
 
     /// The title a message box gets for `title` ("Orvelin" for an empty one).
-    static QString MessageTitle(const std::string& title);
+    static QString messageTitle(const std::string& title);
     /// The core's CR LF line breaks as the single breaks a label shows.
-    static QString DisplayText(const std::string& text);
+    static QString displayText(const std::string& text);
 
 private:
     int ask(QMessageBox::Icon icon, const std::string& text, const std::string& title,

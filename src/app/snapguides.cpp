@@ -19,7 +19,7 @@ namespace {
 /// Never closer than this to a line without snapping to it, in applet pixels.
 constexpr int kSnapDistance = 5;
 
-int GridFrom(const std::string& text) {
+int gridFrom(const std::string& text) {
     try {
         return std::clamp(std::stoi(text), 0, 1000);
     } catch (const std::exception&) {
@@ -83,7 +83,7 @@ SnapOptions SnapGuides::options(bool suspended) const {
     SnapOptions out;
     out.threshold = kSnapDistance;
     out.toButtons = !suspended && m_settings.flag(SettingKey::SnapToButtons);
-    out.grid = suspended ? 0 : GridFrom(m_settings.value(SettingKey::GridSize));
+    out.grid = suspended ? 0 : gridFrom(m_settings.value(SettingKey::GridSize));
     return out;
 }
 
@@ -92,7 +92,7 @@ std::vector<PixelRect> SnapGuides::others(bool skipSelected) const {
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         const bool moving = skipSelected ? m_list.isSelected(i) : i == m_model.CurrentButton;
         if (!moving)
-            out.push_back(ButtonRect(m_model, i));
+            out.push_back(buttonRect(m_model, i));
     }
     return out;
 }
@@ -111,16 +111,16 @@ void SnapGuides::afterDrag(MoveOutcome& moved, bool suspended) {
     // The selection snaps as one block: its bounding box.
     int left = INT_MAX, top = INT_MAX, right = INT_MIN, bottom = INT_MIN;
     for (int i : moved.buttons) {
-        const PixelRect r = ButtonRect(m_model, i);
+        const PixelRect r = buttonRect(m_model, i);
         left = std::min(left, r.left);
         top = std::min(top, r.top);
         right = std::max(right, r.left + r.width);
         bottom = std::max(bottom, r.top + r.height);
     }
-    const SnapResult snap =
-        Snap({left, top, right - left, bottom - top}, SnapAll, SnapAll, others(true), area(), opts);
+    const SnapResult snap = orvelin::snap({left, top, right - left, bottom - top}, SnapAll, SnapAll,
+                                          others(true), area(), opts);
     if (snap.dx != 0 || snap.dy != 0) {
-        const MoveOutcome more = MoveSelection(m_model, m_list, snap.dx, snap.dy);
+        const MoveOutcome more = moveSelection(m_model, m_list, snap.dx, snap.dy);
         moved.dx += more.dx;
         moved.dy += more.dy;
     }
@@ -130,15 +130,15 @@ void SnapGuides::afterDrag(MoveOutcome& moved, bool suspended) {
 bool SnapGuides::afterResize(int handle, bool suspended) {
     const SnapOptions opts = options(suspended);
     const int current = m_model.CurrentButton;
-    if (!IsButtonNumber(m_model, current) || (!opts.toButtons && opts.grid == 0)) {
+    if (!isButtonNumber(m_model, current) || (!opts.toButtons && opts.grid == 0)) {
         show({});
         return false;
     }
-    PixelRect r = ButtonRect(m_model, current);
+    PixelRect r = buttonRect(m_model, current);
     const bool horizontal = handle == SizerLeft || handle == SizerRight;
     const unsigned line = handle == SizerLeft || handle == SizerTop ? SnapStart : SnapEnd;
-    const SnapResult snap =
-        Snap(r, horizontal ? line : 0U, horizontal ? 0U : line, others(false), area(), opts);
+    const SnapResult snap = orvelin::snap(r, horizontal ? line : 0U, horizontal ? 0U : line,
+                                          others(false), area(), opts);
     const int delta = horizontal ? snap.dx : snap.dy;
     int& start = horizontal ? r.left : r.top;
     int& length = horizontal ? r.width : r.height;
@@ -151,7 +151,7 @@ bool SnapGuides::afterResize(int handle, bool suspended) {
     if (line == SnapStart)
         start += delta;
     length = newLength;
-    ButtonRecord& b = m_model.Button(current);
+    ButtonRecord& b = m_model.button(current);
     b.x = static_cast<std::int16_t>(r.left);
     b.y = static_cast<std::int16_t>(r.top);
     b.Width = static_cast<std::int16_t>(r.width);

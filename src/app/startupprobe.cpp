@@ -11,7 +11,7 @@ namespace orvelin {
 
 namespace {
 
-bool EnvironmentSwitchOn(const char* name) {
+bool environmentSwitchOn(const char* name) {
     return qEnvironmentVariable(name) == QLatin1String("1");
 }
 
@@ -23,12 +23,12 @@ constexpr int kExposeTimeoutMs = 30000;
 
 StartupProbe::StartupProbe(QObject* parent) : QObject(parent) {}
 
-bool StartupProbe::QuitAfterStartupRequested() {
-    return EnvironmentSwitchOn("ORVELIN_QUIT_AFTER_STARTUP");
+bool StartupProbe::quitAfterStartupRequested() {
+    return environmentSwitchOn("ORVELIN_QUIT_AFTER_STARTUP");
 }
 
-bool StartupProbe::ReportWindowsRequested() {
-    return EnvironmentSwitchOn("ORVELIN_REPORT_WINDOWS");
+bool StartupProbe::reportWindowsRequested() {
+    return environmentSwitchOn("ORVELIN_REPORT_WINDOWS");
 }
 
 void StartupProbe::watch(QWidget* window) {
@@ -71,7 +71,7 @@ bool StartupProbe::eventFilter(QObject* watched, QEvent* event) {
             if (m_report)
                 std::fprintf(stderr, "orvelin: window shown: %s \"%s\"\n",
                              qPrintable(entry.widget->objectName()),
-                             qPrintable(ShownTitle(*entry.widget)));
+                             qPrintable(shownTitle(*entry.widget)));
         }
     }
     if (m_started)
@@ -79,7 +79,7 @@ bool StartupProbe::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-QString StartupProbe::ShownTitle(const QWidget& window) {
+QString StartupProbe::shownTitle(const QWidget& window) {
     // The title bar shows Qt's "[*]" as "*" while the window is modified, else nothing.
     QString title = window.windowTitle();
     return title.replace(QStringLiteral("[*]"),
@@ -99,16 +99,16 @@ void StartupProbe::checkAllExposed() {
 }
 
 void StartupProbe::applyEnvironment() {
-    m_report = ReportWindowsRequested();
+    m_report = reportWindowsRequested();
     if (m_report) {
         for (const Watched& entry : m_windows)
             if (entry.exposed && entry.widget != nullptr)
                 std::fprintf(stderr, "orvelin: window shown: %s \"%s\"\n",
                              qPrintable(entry.widget->objectName()),
-                             qPrintable(ShownTitle(*entry.widget)));
+                             qPrintable(shownTitle(*entry.widget)));
         connect(this, &StartupProbe::idle, this, [] { std::fprintf(stderr, "orvelin: idle\n"); });
     }
-    if (QuitAfterStartupRequested()) {
+    if (quitAfterStartupRequested()) {
         connect(this, &StartupProbe::idle, qApp, [] { QCoreApplication::exit(0); });
         QTimer::singleShot(kExposeTimeoutMs, this, [this] {
             if (m_idleSent)

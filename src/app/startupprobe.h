@@ -20,7 +20,7 @@ class StartupProbe : public QObject {
 
 public:
     /// A window's title as its title bar shows it.
-    static QString ShownTitle(const QWidget& window);
+    static QString shownTitle(const QWidget& window);
     explicit StartupProbe(QObject* parent = nullptr);
 
     /// Waits for `window` (a top-level widget) to be exposed. Call before the event loop.
@@ -33,9 +33,9 @@ public:
     const QStringList& exposed() const { return m_exposed; }
 
     /// ORVELIN_QUIT_AFTER_STARTUP=1.
-    static bool QuitAfterStartupRequested();
+    static bool quitAfterStartupRequested();
     /// ORVELIN_REPORT_WINDOWS=1.
-    static bool ReportWindowsRequested();
+    static bool reportWindowsRequested();
 
     /**
      * Wires the two environment switches: reports shown windows when asked, and

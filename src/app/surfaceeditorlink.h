@@ -13,9 +13,9 @@ public:
     /// ShowProp: the property panel shows button `index` for the current state.
     virtual void ShowProp(int index) = 0;
     /// txtX, txtY, txtWidth and txtHeight show the record of button `index`.
-    virtual void ShowGeometry(int index) = 0;
+    virtual void showGeometry(int index) = 0;
     /// The button list's selection changed: lstButtons shows it.
-    virtual void ShowSelection() = 0;
+    virtual void showSelection() = 0;
 };
 
 } // namespace orvelin

@@ -8,13 +8,13 @@ TypedFieldValidator::TypedFieldValidator(TypedField field, Note note, QObject* p
     : QValidator(parent), m_field(field), m_note(std::move(note)) {}
 
 QValidator::State TypedFieldValidator::validate(QString& input, int& pos) const {
-    const TypedText kept = AcceptTyped(m_field, input.toStdString());
+    const TypedText kept = acceptTyped(m_field, input.toStdString());
     const QString text = QString::fromStdString(kept.text);
     const bool changed = text != input;
     if (changed) {
         // The caret stays after what was typed before it, converted the same way.
         pos = static_cast<int>(
-            QString::fromStdString(AcceptTyped(m_field, input.left(pos).toStdString()).text)
+            QString::fromStdString(acceptTyped(m_field, input.left(pos).toStdString()).text)
                 .size());
         input = text;
     }
@@ -25,7 +25,7 @@ QValidator::State TypedFieldValidator::validate(QString& input, int& pos) const 
     return Acceptable;
 }
 
-void TypedFieldValidator::Guard(QLineEdit* edit, TypedField field, Note note) {
+void TypedFieldValidator::guard(QLineEdit* edit, TypedField field, Note note) {
     edit->setValidator(new TypedFieldValidator(field, std::move(note), edit));
 }
 

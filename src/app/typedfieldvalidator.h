@@ -25,7 +25,7 @@ public:
     State validate(QString& input, int& pos) const override;
 
     /// Puts a validator of `field` on `edit`.
-    static void Guard(QLineEdit* edit, TypedField field, Note note);
+    static void guard(QLineEdit* edit, TypedField field, Note note);
 
 private:
     TypedField m_field;

@@ -17,14 +17,14 @@ constexpr int kUndoLimit = 500;
 // The id of steps that may absorb the next one (typing in one field).
 constexpr int kTypingId = 1;
 
-bool IsTextField(const QWidget* widget) {
+bool isTextField(const QWidget* widget) {
     return qobject_cast<const QLineEdit*>(widget) != nullptr ||
            qobject_cast<const QAbstractSpinBox*>(widget) != nullptr ||
            qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
            qobject_cast<const QTextEdit*>(widget) != nullptr;
 }
 
-bool IsUndoKey(const QKeyEvent& key) {
+bool isUndoKey(const QKeyEvent& key) {
     const QKeySequence pressed(key.keyCombination());
     return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo) ||
            pressed == QKeySequence(Qt::CTRL | Qt::Key_Y) ||
@@ -39,7 +39,7 @@ public:
          const QString& name)
         : m_history(history), m_before(std::move(before)), m_after(std::move(after)),
           m_field(std::move(field)), m_burst(burst) {
-        setText(name.isEmpty() ? QString::fromStdString(DescribeChange(*m_before, *m_after))
+        setText(name.isEmpty() ? QString::fromStdString(describeChange(*m_before, *m_after))
                                : name);
     }
 
@@ -50,9 +50,9 @@ public:
         if (next->m_field != m_field || next->m_burst != m_burst)
             return false;
         m_after = next->m_after;
-        setText(QString::fromStdString(DescribeChange(*m_before, *m_after)));
+        setText(QString::fromStdString(describeChange(*m_before, *m_after)));
         // Typed back to what it was: no step at all.
-        setObsolete(SameDocument(*m_before, *m_after));
+        setObsolete(sameDocument(*m_before, *m_after));
         return true;
     }
 
@@ -117,7 +117,7 @@ void UndoHistory::clear() {
     // An imported project is unsaved from the start: no undo reaches a saved state.
     if (!saved)
         m_stack.resetClean();
-    m_baseline = std::make_shared<const ProjectSnapshot>(MakeSnapshot(m_model, m_list));
+    m_baseline = std::make_shared<const ProjectSnapshot>(makeSnapshot(m_model, m_list));
     m_lastField.clear();
     m_model.Saved = saved;
     m_active = true;
@@ -126,7 +126,7 @@ void UndoHistory::clear() {
 void UndoHistory::capture(const QString& name) {
     if (!m_active || m_restoring)
         return;
-    if (SameDocument(*m_baseline, m_model)) {
+    if (sameDocument(*m_baseline, m_model)) {
         // The next step, undone, comes back to the selection its edit started from.
         if (m_baseline->currentButton != m_model.CurrentButton ||
             m_baseline->selection != m_list.selectedButtons()) {
@@ -141,7 +141,7 @@ void UndoHistory::capture(const QString& name) {
             QApplication::activeModalWidget() != nullptr)
             return;
         const bool saved = m_model.Saved;
-        auto after = std::make_shared<const ProjectSnapshot>(MakeSnapshot(m_model, m_list));
+        auto after = std::make_shared<const ProjectSnapshot>(makeSnapshot(m_model, m_list));
         const QString field = name.isEmpty() ? typingField() : QString();
         if (field.isEmpty() || field != m_lastField)
             ++m_burst;
@@ -159,28 +159,28 @@ void UndoHistory::capture(const QString& name) {
 void UndoHistory::undo() {
     capture();
     // A gesture still under way is finished before anything is undone.
-    if (m_active && SameDocument(*m_baseline, m_model))
+    if (m_active && sameDocument(*m_baseline, m_model))
         m_stack.undo();
 }
 
 void UndoHistory::redo() {
     capture();
-    if (m_active && SameDocument(*m_baseline, m_model))
+    if (m_active && sameDocument(*m_baseline, m_model))
         m_stack.redo();
 }
 
 void UndoHistory::restore(const ProjectSnapshot& from, const Snapshot& to) {
     m_restoring = true;
-    RestoreSnapshot(*to, m_model, m_list);
+    restoreSnapshot(*to, m_model, m_list);
     m_baseline = to;
     m_lastField.clear();
-    emit restored(ChangeBetween(from, *to));
+    emit restored(changeBetween(from, *to));
     m_restoring = false;
 }
 
 QString UndoHistory::typingField() const {
     const QWidget* focus = m_keyTarget.data();
-    if (!m_lastInputWasKey || !IsTextField(focus))
+    if (!m_lastInputWasKey || !isTextField(focus))
         return {};
     // An editable combo box's line edit has no name of its own.
     const QWidget* named = focus->objectName().isEmpty() && focus->parentWidget() != nullptr
@@ -205,8 +205,8 @@ bool UndoHistory::eventFilter(QObject* watched, QEvent* event) {
         // In the two windows that hold the undo keys they undo the document, not the text
         // of one field; other windows and dialogs keep their fields' own undo.
         auto* widget = qobject_cast<QWidget*>(watched);
-        if (m_active && IsTextField(widget) && QApplication::activeModalWidget() == nullptr &&
-            IsUndoKey(*static_cast<QKeyEvent*>(event))) {
+        if (m_active && isTextField(widget) && QApplication::activeModalWidget() == nullptr &&
+            isUndoKey(*static_cast<QKeyEvent*>(event))) {
             const QString window = widget->window()->objectName();
             if (window == QLatin1String("frmMain") || window == QLatin1String("frmDesign"))
                 return true;

@@ -10,7 +10,7 @@
 
 namespace orvelin {
 
-void RestoreWindowGeometry(QWidget& window, const Settings& settings, const QString& form) {
+void restoreWindowGeometry(QWidget& window, const Settings& settings, const QString& form) {
     const QScreen* screen =
         window.screen() != nullptr ? window.screen() : QGuiApplication::primaryScreen();
     if (screen == nullptr)
@@ -19,7 +19,7 @@ void RestoreWindowGeometry(QWidget& window, const Settings& settings, const QStr
     const WindowGeometry designed{designedFrame.x(), designedFrame.y(), designedFrame.width(),
                                   designedFrame.height()};
     const QRect available = screen->availableGeometry();
-    const WindowGeometry restored = settings.RestoreGeometry(form.toStdString(), designed,
+    const WindowGeometry restored = settings.restoreGeometry(form.toStdString(), designed,
                                                              available.width(), available.height());
     if (restored == designed)
         return;
@@ -27,14 +27,14 @@ void RestoreWindowGeometry(QWidget& window, const Settings& settings, const QStr
     window.resize(restored.width, restored.height);
 }
 
-void SaveWindowGeometry(const QWidget& window, Settings& settings, const QString& form) {
+void saveWindowGeometry(const QWidget& window, Settings& settings, const QString& form) {
     const QPoint position = window.pos();
     const QSize size = window.size();
-    settings.SaveGeometry(form.toStdString(),
+    settings.saveGeometry(form.toStdString(),
                           {position.x(), position.y(), size.width(), size.height()});
 }
 
-void KeepAboveOnTopWindows(QWidget& dialog) {
+void keepAboveOnTopWindows(QWidget& dialog) {
     for (const QWidget* window : QApplication::topLevelWidgets()) {
         if (window != &dialog && window->isVisible() &&
             window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
@@ -44,7 +44,7 @@ void KeepAboveOnTopWindows(QWidget& dialog) {
     }
 }
 
-QRect PlaceDesignWindow(const QRect& screen, const QRect& main, const QSize& wanted,
+QRect placeDesignWindow(const QRect& screen, const QRect& main, const QSize& wanted,
                         const QSize& minimum) {
     constexpr int gap = 8;
     const int below = main.bottom() + 1 + gap;

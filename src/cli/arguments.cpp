@@ -13,7 +13,7 @@ std::optional<std::string> Arguments::value(const std::string& name) const {
     return it->second;
 }
 
-Arguments ParseArguments(const std::vector<std::string>& words,
+Arguments parseArguments(const std::vector<std::string>& words,
                          const std::set<std::string>& valueOptions,
                          const std::set<std::string>& flagOptions) {
     Arguments parsed;
@@ -49,7 +49,7 @@ Arguments ParseArguments(const std::vector<std::string>& words,
     return parsed;
 }
 
-std::optional<std::string> ExtractOption(std::vector<std::string>& words, const std::string& name,
+std::optional<std::string> extractOption(std::vector<std::string>& words, const std::string& name,
                                          std::string& error) {
     std::optional<std::string> found;
     std::vector<std::string> rest;
@@ -76,21 +76,21 @@ std::optional<std::string> ExtractOption(std::vector<std::string>& words, const 
     return found;
 }
 
-int UsageError(std::ostream& err, const char* command, const std::string& problem,
+int usageError(std::ostream& err, const char* command, const std::string& problem,
                const char* usage) {
     err << "orvelin-cli " << command << ": " << problem << "\nUsage:\n" << usage;
     return kExitUsage;
 }
 
-std::optional<Arguments> ParseCommandLine(const CommandLine& line,
+std::optional<Arguments> parseCommandLine(const CommandLine& line,
                                           const std::vector<std::string>& args, std::ostream& err) {
-    Arguments parsed = ParseArguments(args, line.valueOptions, line.flagOptions);
+    Arguments parsed = parseArguments(args, line.valueOptions, line.flagOptions);
     if (!parsed.error.empty()) {
-        UsageError(err, line.command, parsed.error, line.usage);
+        usageError(err, line.command, parsed.error, line.usage);
         return std::nullopt;
     }
     if (parsed.positional.size() != line.positionalCount) {
-        UsageError(err, line.command, line.positionalProblem, line.usage);
+        usageError(err, line.command, line.positionalProblem, line.usage);
         return std::nullopt;
     }
     return parsed;

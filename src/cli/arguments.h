@@ -21,7 +21,7 @@ struct Arguments {
     bool has(const std::string& flag) const { return flags.count(flag) != 0; }
 };
 
-Arguments ParseArguments(const std::vector<std::string>& words,
+Arguments parseArguments(const std::vector<std::string>& words,
                          const std::set<std::string>& valueOptions,
                          const std::set<std::string>& flagOptions = {});
 
@@ -29,7 +29,7 @@ Arguments ParseArguments(const std::vector<std::string>& words,
  * Takes every "--name VALUE" / "--name=VALUE" out of `words` (before a "--") and
  * returns the last value. Sets `error` when the option has no value.
  */
-std::optional<std::string> ExtractOption(std::vector<std::string>& words, const std::string& name,
+std::optional<std::string> extractOption(std::vector<std::string>& words, const std::string& name,
                                          std::string& error);
 
 } // namespace orvelin::cli

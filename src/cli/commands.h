@@ -21,17 +21,17 @@ inline constexpr int kExitOk = 0;
 inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
 
-int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
-int RunPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
-int RunBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
-int RunResave(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runResave(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #ifdef ORVELIN_CLI_RENDER
-int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #endif
 
 /// Writes "orvelin-cli COMMAND: PROBLEM" and the command's usage text to `err`; gives
 /// the exit status of a wrong command line.
-int UsageError(std::ostream& err, const char* command, const std::string& problem,
+int usageError(std::ostream& err, const char* command, const std::string& problem,
                const char* usage);
 
 /// What a command accepts: its options and how many positional words it needs, with
@@ -46,7 +46,7 @@ struct CommandLine {
 };
 
 /// `args` read as `line` describes; none, after a UsageError, when they do not fit.
-std::optional<Arguments> ParseCommandLine(const CommandLine& line,
+std::optional<Arguments> parseCommandLine(const CommandLine& line,
                                           const std::vector<std::string>& args, std::ostream& err);
 
 /// One paragraph per command for --help and usage errors.

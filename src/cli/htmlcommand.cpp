@@ -61,7 +61,7 @@ struct LoadedCode {
 std::optional<int> loadCode(const char* command, const char* usage, std::size_t count,
                             bool writesPage, const std::vector<std::string>& args,
                             std::ostream& err, ConsoleUserInterface& ui, LoadedCode& loaded) {
-    const std::optional<Arguments> parsed = ParseCommandLine(
+    const std::optional<Arguments> parsed = parseCommandLine(
         {command,
          usage,
          count,
@@ -72,11 +72,11 @@ std::optional<int> loadCode(const char* command, const char* usage, std::size_t 
         args, err);
     if (!parsed)
         return kExitUsage;
-    if (!ShowLoadResult(LoadProject(loaded.model, parsed->positional.front(), &ui), ui))
+    if (!showLoadResult(LoadProject(loaded.model, parsed->positional.front(), &ui), ui))
         return kExitFailed;
     if (const auto name = parsed->value("--applet-name"))
-        SetAppletNameFromBox(loaded.model, *name);
-    const std::string& name = NameTheApplet(loaded.model);
+        setAppletNameFromBox(loaded.model, *name);
+    const std::string& name = nameTheApplet(loaded.model);
     loaded.html = MakeHTML(loaded.model, name, GetJSCaller(name));
     loaded.positional = parsed->positional;
     loaded.withPlayer = writesPage && !parsed->has("--no-player");
@@ -95,7 +95,7 @@ int writeOut(const std::string& text, const char* command, std::ostream& out, st
 
 } // namespace
 
-int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int runHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
     if (const auto status = loadCode("html", kHtmlUsage, 1, false, args, err, ui, loaded))
@@ -103,21 +103,21 @@ int RunHtml(const std::vector<std::string>& args, std::ostream& out, std::ostrea
     return writeOut(loaded.html.text, "html", out, err);
 }
 
-int RunPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int runPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
     if (const auto status = loadCode("page", kPageUsage, 1, true, args, err, ui, loaded))
         return *status;
-    return writeOut(PageText(loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer),
+    return writeOut(pageText(loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer),
                     "page", out, err);
 }
 
-int RunBuild(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
+int runBuild(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
     if (const auto status = loadCode("build", kBuildUsage, 2, true, args, err, ui, loaded))
         return *status;
-    BuildPage(loaded.model, {loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer},
+    buildPage(loaded.model, {loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer},
               loaded.positional[1], ui);
     return ui.messageCount() == 0 ? kExitOk : kExitFailed;
 }

@@ -53,13 +53,13 @@ int main(int argc, char** argv) {
     std::vector<std::string> words(argv + 1, argv + argc);
 
     std::string problem;
-    const auto programDir = ExtractOption(words, "--program-dir", problem);
+    const auto programDir = extractOption(words, "--program-dir", problem);
     if (!problem.empty())
         return usageError(problem);
     if (programDir) {
         if (programDir->empty())
             return usageError("--program-dir needs a folder");
-        orvelin::SetProgramFolderOverride(*programDir);
+        orvelin::setProgramFolderOverride(*programDir);
     }
 
     if (words.empty())
@@ -72,18 +72,18 @@ int main(int argc, char** argv) {
         return kExitOk;
     }
     if (command == "html")
-        return RunHtml(args, std::cout, std::cerr);
+        return runHtml(args, std::cout, std::cerr);
     if (command == "page")
-        return RunPage(args, std::cout, std::cerr);
+        return runPage(args, std::cout, std::cerr);
     if (command == "build")
-        return RunBuild(args, std::cout, std::cerr);
+        return runBuild(args, std::cout, std::cerr);
     if (command == "resave")
-        return RunResave(args, std::cout, std::cerr);
+        return runResave(args, std::cout, std::cerr);
 #ifdef ORVELIN_CLI_RENDER
     // Rendering needs the painting library; the build defines ORVELIN_CLI_RENDER
     // only when it is there (rendercommand.cpp).
     if (command == "render")
-        return RunRender(args, std::cout, std::cerr);
+        return runRender(args, std::cout, std::cerr);
 #endif
     return usageError("unknown command \"" + command + "\"");
 }

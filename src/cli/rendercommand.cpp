@@ -28,7 +28,7 @@ namespace {
 
 /// Fonts and image readers need a QGuiApplication; without a display, the offscreen
 /// platform gives one. A platform the caller chose is kept.
-std::unique_ptr<QGuiApplication> StartGui() {
+std::unique_ptr<QGuiApplication> startGui() {
     if (QCoreApplication::instance())
         return nullptr;
     // Qt's own notes about the session (no runtime folder, no display settings) would
@@ -47,9 +47,9 @@ std::unique_ptr<QGuiApplication> StartGui() {
 
 } // namespace
 
-int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int runRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     (void)out;
-    const std::optional<Arguments> parsed = ParseCommandLine({"render",
+    const std::optional<Arguments> parsed = parseCommandLine({"render",
                                                               kRenderUsage,
                                                               1,
                                                               "give exactly one project file",
@@ -62,25 +62,25 @@ int RunRender(const std::vector<std::string>& args, std::ostream& out, std::ostr
     if (!output)
         output = parsed->value("--output");
     if (!output || output->empty())
-        return UsageError(err, "render", "name the image to write with -o FILE.png", kRenderUsage);
+        return usageError(err, "render", "name the image to write with -o FILE.png", kRenderUsage);
     const std::string state = parsed->value("--state").value_or("UP");
     ButtonState known = ButtonState::UP;
-    if (!StateFromName(state, known))
-        return UsageError(err, "render", "--state is UP, OVER or DOWN, not \"" + state + "\"",
+    if (!stateFromName(state, known))
+        return usageError(err, "render", "--state is UP, OVER or DOWN, not \"" + state + "\"",
                           kRenderUsage);
 
-    const std::unique_ptr<QGuiApplication> app = StartGui();
+    const std::unique_ptr<QGuiApplication> app = startGui();
 
     ConsoleUserInterface ui(err);
     ProjectModel model;
-    if (!ShowLoadResult(LoadProject(model, parsed->positional.front(), &ui), ui))
+    if (!showLoadResult(LoadProject(model, parsed->positional.front(), &ui), ui))
         return kExitFailed;
     model.CurrentState = known;
 
     RenderOptions options;
     options.noBackGround = parsed->has("--no-background");
     options.ui = &ui;
-    const QImage surface = RenderSurface(model, known, options);
+    const QImage surface = renderSurface(model, known, options);
 
     const QString path = QString::fromStdString(*output);
     QSaveFile file(path);

@@ -17,9 +17,9 @@ const char* const kResaveUsage =
     "      as an old INI-style project. A failed save leaves an existing OUT as it\n"
     "      was.\n";
 
-int RunResave(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
+int runResave(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
     const std::optional<Arguments> parsed =
-        ParseCommandLine({"resave",
+        parseCommandLine({"resave",
                           kResaveUsage,
                           2,
                           "give the project file to read and the one to write",
@@ -32,8 +32,8 @@ int RunResave(const std::vector<std::string>& args, std::ostream& /*out*/, std::
     ConsoleUserInterface ui(err);
     ProjectModel model;
     const std::string& in = parsed->positional[0];
-    if (!ShowLoadResult(parsed->has("--legacy") ? LoadProject_OLD(model, in, &ui)
-                                               : LoadProject(model, in, &ui),
+    if (!showLoadResult(parsed->has("--legacy") ? LoadProject_OLD(model, in, &ui)
+                                                : LoadProject(model, in, &ui),
                         ui))
         return kExitFailed;
     return SaveProject(model, parsed->positional[1], ui) ? kExitOk : kExitFailed;

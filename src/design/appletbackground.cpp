@@ -16,14 +16,14 @@ constexpr int kCheckerSquare = 8;
 
 void DrawBackGround(QPainter& painter, const ProjectModel& model, ImageCache& images) {
     const QRect area(0, 0, model.AppletWidth, model.AppletHeight);
-    painter.fillRect(area, ColorFromRef(model.BackGround));
+    painter.fillRect(area, colorFromRef(model.BackGround));
     if (model.BackImg.empty())
         return;
-    DrawPlacedImage(painter, images.image(model.BackImg), area, model.BackImgStyle,
+    drawPlacedImage(painter, images.image(model.BackImg), area, model.BackImgStyle,
                     QPoint(model.BgOffsetX, model.BgOffsetY));
 }
 
-void DrawPlainSurface(QPainter& painter, QSize size) {
+void drawPlainSurface(QPainter& painter, QSize size) {
     const QColor light(0xF4, 0xF4, 0xF4);
     const QColor dark(0xDC, 0xDC, 0xDC);
     painter.fillRect(QRect(QPoint(), size), light);
@@ -33,12 +33,12 @@ void DrawPlainSurface(QPainter& painter, QSize size) {
             painter.fillRect(x, y, kCheckerSquare, kCheckerSquare, dark);
 }
 
-QImage RenderBackground(const ProjectModel& model, ImageCache& images, bool switchedOff) {
+QImage renderBackground(const ProjectModel& model, ImageCache& images, bool switchedOff) {
     const QSize size(model.AppletWidth, model.AppletHeight);
-    QImage background = NewPicture(size);
+    QImage background = newPicture(size);
     QPainter painter(&background);
     if (switchedOff)
-        DrawPlainSurface(painter, size);
+        drawPlainSurface(painter, size);
     else
         DrawBackGround(painter, model, images);
     return background;

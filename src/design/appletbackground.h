@@ -21,10 +21,10 @@ void DrawBackGround(QPainter& painter, const ProjectModel& model, ImageCache& im
 
 /// What the surface shows when the applet background is switched off: a light neutral
 /// checkerboard, the usual sign of "nothing here", which no button colour is mistaken for.
-void DrawPlainSurface(QPainter& painter, QSize size);
+void drawPlainSurface(QPainter& painter, QSize size);
 
 /// The applet area's background as the design surface shows it (AppletWidth by
 /// AppletHeight, 96 dpi): DrawBackGround, or the plain surface when `switchedOff`.
-QImage RenderBackground(const ProjectModel& model, ImageCache& images, bool switchedOff);
+QImage renderBackground(const ProjectModel& model, ImageCache& images, bool switchedOff);
 
 } // namespace orvelin

@@ -24,17 +24,17 @@ public:
 };
 
 /// Rounds halves to the even number, as the designer's integer conversions do.
-int RoundEven(double value) {
+int roundEven(double value) {
     return static_cast<int>(std::nearbyint(value));
 }
 
-int FloorHalf(int difference) {
+int floorHalf(int difference) {
     return static_cast<int>(std::floor(difference / 2.0));
 }
 
 } // namespace
 
-void DrawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, int style,
+void drawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, int style,
                      QPoint origin) {
     if (image.isNull() || area.isEmpty())
         return;
@@ -52,8 +52,8 @@ void DrawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, 
         break;
     default:
         painter.drawImage(area.topLeft() + origin +
-                              QPoint(FloorHalf(area.width() - image.width()),
-                                     FloorHalf(area.height() - image.height())),
+                              QPoint(floorHalf(area.width() - image.width()),
+                                     floorHalf(area.height() - image.height())),
                           image);
         break;
     }
@@ -62,16 +62,16 @@ void DrawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, 
 ButtonPainter::ButtonPainter(const ProjectModel& model, ImageCache& images)
     : m_model(model), m_images(images) {}
 
-bool ButtonPainter::ShowsMultiSelector(int index) const {
+bool ButtonPainter::showsMultiSelector(int index) const {
     return m_selection && m_selection->selectedCount() >= 2 && m_selection->isSelected(index);
 }
 
-void ButtonPainter::PaintButton(QPainter& painter, int index) {
+void ButtonPainter::paintButton(QPainter& painter, int index) {
     try {
         DrawPix(painter, index);
         DrawLabel(painter, index);
         DrawBorder(painter, index);
-        if (ShowsMultiSelector(index))
+        if (showsMultiSelector(index))
             DrawMultiSelector(painter, index);
     } catch (const std::exception&) {
         // The picture may stay partly painted; the next redraw paints it whole.
@@ -79,46 +79,46 @@ void ButtonPainter::PaintButton(QPainter& painter, int index) {
 }
 
 void ButtonPainter::DrawPix(QPainter& painter, int index) {
-    const ButtonRecord& button = m_model.Button(index);
+    const ButtonRecord& button = m_model.button(index);
     const QRect area(0, 0, button.Width, button.Height);
     if (button.noBackGround != 0)
         MakeTransparent(painter, index);
     else
-        painter.fillRect(area, ColorFromRef(button.BackColor(m_state)));
+        painter.fillRect(area, colorFromRef(button.backColor(m_state)));
 
-    const std::string& file = button.Image(m_state);
+    const std::string& file = button.image(m_state);
     if (file.empty())
         return;
     // A missing or unreadable image leaves the background alone: the user sees the colour
     // and the label, and the image field still names the file.
     const QImage image = m_images.image(file);
-    DrawPlacedImage(painter, image, area, button.ImgStyle(m_state));
+    drawPlacedImage(painter, image, area, button.ImgStyle(m_state));
 }
 
 bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
     try {
-        const ButtonRecord& button = m_model.Button(index);
+        const ButtonRecord& button = m_model.button(index);
         const ButtonState s = m_state;
         bool bold = false;
         bool italic = false;
-        FontStyleFlags(button.FontStyle(s), bold, italic);
-        const QString font = QString::fromStdString(button.Font(s));
-        const int size = button.FontSize(s);
-        const std::int32_t colour = button.FontColor(s);
+        fontStyleFlags(button.fontStyle(s), bold, italic);
+        const QString font = QString::fromStdString(button.font(s));
+        const int size = button.fontSize(s);
+        const std::int32_t colour = button.fontColor(s);
 
         // The record keeps a line break as the two characters backslash and n.
         const QStringList lines =
-            QString::fromStdString(button.Label(s)).split(QStringLiteral("\\n"));
+            QString::fromStdString(button.label(s)).split(QStringLiteral("\\n"));
         const int count = static_cast<int>(lines.size());
 
         drawString(painter, QString(), font, size, colour, bold, italic, 0, 0);
         const QFontMetrics metrics = painter.fontMetrics();
         const int step = metrics.lineSpacing();
 
-        if (button.PositionText(s) != 0) {
+        if (button.positionText(s) != 0) {
             for (int k = 0; k < count; ++k)
-                drawString(painter, lines[k], font, size, colour, bold, italic, button.LabelPosX(s),
-                           button.LabelPosY(s) + k * step);
+                drawString(painter, lines[k], font, size, colour, bold, italic, button.labelPosX(s),
+                           button.labelPosY(s) + k * step);
             return true;
         }
         // One line: its baseline is Height/2 + TextHeight/3, which centres capitals. More
@@ -126,8 +126,8 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
         const double reference = button.Height / 2.0 + metrics.height() / 3.0;
         for (int k = 0; k < count; ++k) {
             const double width = metrics.horizontalAdvance(lines[k]);
-            const int left = RoundEven(button.Width / 2.0 - width / 2.0);
-            const int baseline = RoundEven(reference + (k - (count - 1) / 2.0) * step);
+            const int left = roundEven(button.Width / 2.0 - width / 2.0);
+            const int baseline = roundEven(reference + (k - (count - 1) / 2.0) * step);
             drawString(painter, lines[k], font, size, colour, bold, italic, left, baseline);
         }
         return true;
@@ -136,7 +136,7 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
             const std::string description = dynamic_cast<const std::out_of_range*>(&error)
                                                 ? std::string("Subscript out of range")
                                                 : std::string(error.what());
-            const MessageTable& texts = Messages();
+            const MessageTable& texts = messages();
             m_ui->showWarning(texts[Msg::SomethingWrong] + std::string(kCrLf) +
                               texts[Msg::OnDrawLabel] + std::to_string(index) + ") " +
                               std::string(kCrLf) + description);
@@ -156,24 +156,24 @@ void ButtonPainter::drawString(QPainter& painter, const QString& StringToDraw,
     font.setBold(bBold);
     font.setItalic(bItalic);
     painter.setFont(font);
-    painter.setPen(ColorFromRef(lFontColor));
+    painter.setPen(colorFromRef(lFontColor));
     if (!StringToDraw.isEmpty())
         painter.drawText(QPoint(x, y), StringToDraw);
 }
 
 void ButtonPainter::DrawBorder(QPainter& painter, int index) {
-    const ButtonRecord& button = m_model.Button(index);
+    const ButtonRecord& button = m_model.button(index);
     if (button.Border == 0)
         return;
     const int w = button.Width;
     const int h = button.Height;
     if (w < 2 || h < 2)
         return;
-    const QColor back = ColorFromRef(button.BackColor(m_state));
-    const QColor lightOuter = ShadeColor(back, 0.65);
-    const QColor lightInner = ShadeColor(back, 0.35);
-    const QColor darkOuter = ShadeColor(back, -0.6);
-    const QColor darkInner = ShadeColor(back, -0.3);
+    const QColor back = colorFromRef(button.backColor(m_state));
+    const QColor lightOuter = shadeColor(back, 0.65);
+    const QColor lightInner = shadeColor(back, 0.35);
+    const QColor darkOuter = shadeColor(back, -0.6);
+    const QColor darkInner = shadeColor(back, -0.3);
 
     // Two rings; the dark sides are drawn last so they own the bottom-left and top-right
     // corner pixels, as a raised edge does.
@@ -190,7 +190,7 @@ void ButtonPainter::DrawBorder(QPainter& painter, int index) {
 }
 
 void ButtonPainter::DrawMultiSelector(QPainter& painter, int index) {
-    const ButtonRecord& button = m_model.Button(index);
+    const ButtonRecord& button = m_model.button(index);
     const int w = button.Width;
     const int h = button.Height;
     const int side = std::min(7, std::max(3, std::min(w, h) / 3));
@@ -202,7 +202,7 @@ void ButtonPainter::DrawMultiSelector(QPainter& painter, int index) {
 }
 
 bool ButtonPainter::MakeTransparent(QPainter& painter, int index) {
-    const ButtonRecord& button = m_model.Button(index);
+    const ButtonRecord& button = m_model.button(index);
     if (!m_background)
         return false;
     const QRect under(button.x, button.y, button.Width, button.Height);

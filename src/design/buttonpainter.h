@@ -41,7 +41,7 @@ public:
 
     /// DrawPix, DrawLabel, DrawBorder, then DrawMultiSelector when two or more buttons are
     /// selected and this is one of them. A failure ends the painting silently.
-    void PaintButton(QPainter& painter, int index);
+    void paintButton(QPainter& painter, int index);
 
     /// The background (own colour, or the applet background under a transparent button)
     /// and the state's image in its placement.
@@ -66,7 +66,7 @@ public:
     bool MakeTransparent(QPainter& painter, int index);
 
     /// Whether PaintButton draws the multi-selection marker on `index`.
-    bool ShowsMultiSelector(int index) const;
+    bool showsMultiSelector(int index) const;
 
 private:
     const ProjectModel& m_model;
@@ -80,7 +80,7 @@ private:
 /// Draws `image` into `area` of the painter in a placement: 0 centred (clipped evenly when it
 /// is larger), 1 tiled from the area's top left plus `origin`, 2 stretched to the area;
 /// any other value is taken as centred.
-void DrawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, int style,
+void drawPlacedImage(QPainter& painter, const QImage& image, const QRect& area, int style,
                      QPoint origin = {});
 
 } // namespace orvelin

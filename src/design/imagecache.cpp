@@ -9,7 +9,7 @@
 namespace orvelin {
 
 void ImageCache::setProjectFile(const std::string& projectFileName) {
-    const QString folder = QString::fromStdString(ProjectFolderOf(projectFileName));
+    const QString folder = QString::fromStdString(projectFolderOf(projectFileName));
     if (folder == m_projectFolder)
         return;
     m_projectFolder = folder;
@@ -22,7 +22,7 @@ void ImageCache::clear() {
 }
 
 QString ImageCache::resolve(const std::string& path) const {
-    return QString::fromStdString(ResolveStoredPath(path, m_projectFolder.toStdString()));
+    return QString::fromStdString(resolveStoredPath(path, m_projectFolder.toStdString()));
 }
 
 QImage ImageCache::image(const std::string& path) {
@@ -42,7 +42,7 @@ QImage ImageCache::image(const std::string& path) {
     Entry& entry = m_entries[lookup.file];
     if (entry.size != info.size() || entry.modified != info.lastModified()) {
         // A GIF or JPEG saved under another extension is still read by its content.
-        const QImage read = ReadImageFile(lookup.file);
+        const QImage read = readImageFile(lookup.file);
         // Indexed GIFs would be converted on every paint; convert them once here.
         entry.image = read.convertToFormat(
             read.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);

@@ -16,13 +16,13 @@ bool StartsWith(const QByteArray& head, const char* signature, qsizetype length)
 // Reads with the reader the first bytes name, and with every reader Qt has when they
 // name none or that one fails (damaged behind a known signature).
 template <typename Read, typename Good>
-auto WithReader(const QString& file, Read read, Good good)
+auto withReader(const QString& file, Read read, Good good)
     -> decltype(read(std::declval<QImageReader&>())) {
     using Result = decltype(read(std::declval<QImageReader&>()));
     QFile device(file);
     if (!device.open(QIODevice::ReadOnly))
         return Result();
-    const QByteArray format = ImageFormatOf(device.peek(8));
+    const QByteArray format = imageFormatOf(device.peek(8));
     if (!format.isEmpty()) {
         QImageReader reader(&device, format);
         reader.setAutoDetectImageFormat(false);
@@ -38,7 +38,7 @@ auto WithReader(const QString& file, Read read, Good good)
 
 } // namespace
 
-QByteArray ImageFormatOf(const QByteArray& head) {
+QByteArray imageFormatOf(const QByteArray& head) {
     if (StartsWith(head, "GIF87a", 6) || StartsWith(head, "GIF89a", 6))
         return QByteArrayLiteral("gif");
     if (StartsWith(head, "\xFF\xD8\xFF", 3))
@@ -50,14 +50,14 @@ QByteArray ImageFormatOf(const QByteArray& head) {
     return {};
 }
 
-QImage ReadImageFile(const QString& file) {
-    return WithReader(
+QImage readImageFile(const QString& file) {
+    return withReader(
         file, [](QImageReader& reader) { return reader.read(); },
         [](const QImage& image) { return !image.isNull(); });
 }
 
-QSize ImageFileSize(const QString& file) {
-    return WithReader(
+QSize imageFileSize(const QString& file) {
+    return withReader(
         file, [](QImageReader& reader) { return reader.size(); },
         [](const QSize& size) { return size.isValid(); });
 }

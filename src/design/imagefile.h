@@ -12,7 +12,7 @@ namespace orvelin {
  * empty text for anything else. Named from the content, as the applet reads it, whatever
  * the file's extension says.
  */
-QByteArray ImageFormatOf(const QByteArray& head);
+QByteArray imageFormatOf(const QByteArray& head);
 
 /**
  * Reads the image in `file`, by its content. A file whose first bytes name a format goes
@@ -20,9 +20,9 @@ QByteArray ImageFormatOf(const QByteArray& head);
  * since asking them all loads every image-format plugin. A null image when the file is
  * missing or unreadable.
  */
-QImage ReadImageFile(const QString& file);
+QImage readImageFile(const QString& file);
 
 /// The size of the image in `file` without reading its pixels; invalid when unreadable.
-QSize ImageFileSize(const QString& file);
+QSize imageFileSize(const QString& file);
 
 } // namespace orvelin

@@ -12,7 +12,7 @@ namespace {
 
 /// Division that rounds toward minus infinity, so that half pixels left of the applet
 /// area go the same way as those inside it.
-int FloorDiv(long long a, long long b) {
+int floorDiv(long long a, long long b) {
     long long q = a / b;
     if ((a % b != 0) && ((a < 0) != (b < 0)))
         --q;
@@ -25,44 +25,44 @@ struct Span {
     int length = 0;
 };
 
-Span AxisOf(const PixelRect& r, bool horizontal) {
+Span axisOf(const PixelRect& r, bool horizontal) {
     return horizontal ? Span{r.left, r.width} : Span{r.top, r.height};
 }
 
-void SetStart(PixelRect& r, bool horizontal, int start) {
+void setStart(PixelRect& r, bool horizontal, int start) {
     (horizontal ? r.left : r.top) = start;
 }
 
-std::vector<PixelRect> Distribute(std::vector<PixelRect> rects, bool horizontal) {
+std::vector<PixelRect> distribute(std::vector<PixelRect> rects, bool horizontal) {
     const std::size_t n = rects.size();
     if (n < 3)
         return rects;
     std::vector<std::size_t> order(n);
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return AxisOf(rects[a], horizontal).start < AxisOf(rects[b], horizontal).start;
+        return axisOf(rects[a], horizontal).start < axisOf(rects[b], horizontal).start;
     });
-    const Span first = AxisOf(rects[order.front()], horizontal);
-    const Span last = AxisOf(rects[order.back()], horizontal);
+    const Span first = axisOf(rects[order.front()], horizontal);
+    const Span last = axisOf(rects[order.back()], horizontal);
     long long lengths = 0;
     for (const PixelRect& r : rects)
-        lengths += AxisOf(r, horizontal).length;
+        lengths += axisOf(r, horizontal).length;
     // Negative when the buttons overlap more than they leave free: they overlap evenly.
     const long long free = static_cast<long long>(last.start) + last.length - first.start - lengths;
     const auto gaps = static_cast<long long>(n - 1);
     int cursor = first.start + first.length;
     for (std::size_t k = 1; k + 1 < n; ++k) {
         const auto i = static_cast<long long>(k);
-        const int gap = FloorDiv(free * i, gaps) - FloorDiv(free * (i - 1), gaps);
+        const int gap = floorDiv(free * i, gaps) - floorDiv(free * (i - 1), gaps);
         PixelRect& r = rects[order[k]];
-        SetStart(r, horizontal, cursor + gap);
-        cursor += gap + AxisOf(r, horizontal).length;
+        setStart(r, horizontal, cursor + gap);
+        cursor += gap + axisOf(r, horizontal).length;
     }
     return rects;
 }
 
 /// Positions in half pixels, so that centres are whole numbers.
-std::array<long long, 3> Lines2(const Span& s) {
+std::array<long long, 3> lines2(const Span& s) {
     const long long start = 2LL * s.start;
     return {start, start + s.length, start + 2LL * s.length};
 }
@@ -73,20 +73,20 @@ struct AxisSnap {
     bool snapped = false;
 };
 
-AxisSnap SnapAxis(const PixelRect& rect, bool horizontal, unsigned lines,
+AxisSnap snapAxis(const PixelRect& rect, bool horizontal, unsigned lines,
                   const std::vector<PixelRect>& others, const PixelRect& area,
                   const SnapOptions& options) {
     AxisSnap out;
     if (lines == 0)
         return out;
-    const auto own = Lines2(AxisOf(rect, horizontal));
+    const auto own = lines2(axisOf(rect, horizontal));
     const long long limit = 2LL * options.threshold;
     if (options.toButtons) {
         long long best = limit + 1;
         long long bestTarget = 0;
         const PixelRect* bestRect = nullptr;
         const auto consider = [&](const PixelRect& target) {
-            const auto theirs = Lines2(AxisOf(target, horizontal));
+            const auto theirs = lines2(axisOf(target, horizontal));
             for (std::size_t i = 0; i < own.size(); ++i) {
                 if ((lines & (1U << i)) == 0)
                     continue;
@@ -104,9 +104,9 @@ AxisSnap SnapAxis(const PixelRect& rect, bool horizontal, unsigned lines,
         consider(area);
         if (bestRect != nullptr && std::llabs(best) <= limit) {
             out.snapped = true;
-            out.delta = FloorDiv(best, 2);
-            // Along the line it snapped to; Snap() adds the moving rectangle's span.
-            const Span theirs = AxisOf(*bestRect, !horizontal);
+            out.delta = floorDiv(best, 2);
+            // Along the line it snapped to; snap() adds the moving rectangle's span.
+            const Span theirs = axisOf(*bestRect, !horizontal);
             out.guide = SnapGuide{horizontal, static_cast<double>(bestTarget) / 2.0, theirs.start,
                                   theirs.start + theirs.length};
             return out;
@@ -117,10 +117,10 @@ AxisSnap SnapAxis(const PixelRect& rect, bool horizontal, unsigned lines,
         // resize.
         const std::size_t i = (lines & SnapStart) != 0 ? 0 : (lines & SnapEnd) != 0 ? 2 : 1;
         const long long grid2 = 2LL * options.grid;
-        const long long nearest = FloorDiv(own[i] + options.grid, grid2) * grid2;
+        const long long nearest = floorDiv(own[i] + options.grid, grid2) * grid2;
         if (std::llabs(nearest - own[i]) <= limit) {
             out.snapped = true;
-            out.delta = FloorDiv(nearest - own[i], 2);
+            out.delta = floorDiv(nearest - own[i], 2);
         }
     }
     return out;
@@ -128,7 +128,7 @@ AxisSnap SnapAxis(const PixelRect& rect, bool horizontal, unsigned lines,
 
 } // namespace
 
-std::vector<PixelRect> Align(std::vector<PixelRect> rects, std::size_t reference, AlignTo edge) {
+std::vector<PixelRect> align(std::vector<PixelRect> rects, std::size_t reference, AlignTo edge) {
     if (reference >= rects.size())
         return rects;
     const PixelRect ref = rects[reference];
@@ -141,7 +141,7 @@ std::vector<PixelRect> Align(std::vector<PixelRect> rects, std::size_t reference
             r.left = ref.left + ref.width - r.width;
             break;
         case AlignTo::HorizontalCentre:
-            r.left = FloorDiv(2LL * ref.left + ref.width - r.width, 2);
+            r.left = floorDiv(2LL * ref.left + ref.width - r.width, 2);
             break;
         case AlignTo::Top:
             r.top = ref.top;
@@ -150,22 +150,22 @@ std::vector<PixelRect> Align(std::vector<PixelRect> rects, std::size_t reference
             r.top = ref.top + ref.height - r.height;
             break;
         case AlignTo::VerticalCentre:
-            r.top = FloorDiv(2LL * ref.top + ref.height - r.height, 2);
+            r.top = floorDiv(2LL * ref.top + ref.height - r.height, 2);
             break;
         }
     }
     return rects;
 }
 
-std::vector<PixelRect> DistributeHorizontally(std::vector<PixelRect> rects) {
-    return Distribute(std::move(rects), true);
+std::vector<PixelRect> distributeHorizontally(std::vector<PixelRect> rects) {
+    return distribute(std::move(rects), true);
 }
 
-std::vector<PixelRect> DistributeVertically(std::vector<PixelRect> rects) {
-    return Distribute(std::move(rects), false);
+std::vector<PixelRect> distributeVertically(std::vector<PixelRect> rects) {
+    return distribute(std::move(rects), false);
 }
 
-std::vector<PixelRect> MakeSameSize(std::vector<PixelRect> rects, std::size_t reference,
+std::vector<PixelRect> makeSameSize(std::vector<PixelRect> rects, std::size_t reference,
                                     SameSize what) {
     if (reference >= rects.size())
         return rects;
@@ -179,12 +179,12 @@ std::vector<PixelRect> MakeSameSize(std::vector<PixelRect> rects, std::size_t re
     return rects;
 }
 
-SnapResult Snap(const PixelRect& rect, unsigned xLines, unsigned yLines,
+SnapResult snap(const PixelRect& rect, unsigned xLines, unsigned yLines,
                 const std::vector<PixelRect>& others, const PixelRect& area,
                 const SnapOptions& options) {
     SnapResult out;
-    const AxisSnap x = SnapAxis(rect, true, xLines, others, area, options);
-    const AxisSnap y = SnapAxis(rect, false, yLines, others, area, options);
+    const AxisSnap x = snapAxis(rect, true, xLines, others, area, options);
+    const AxisSnap y = snapAxis(rect, false, yLines, others, area, options);
     out.dx = x.delta;
     out.dy = y.delta;
     // The guides span the rectangle where it lands.
@@ -193,7 +193,7 @@ SnapResult Snap(const PixelRect& rect, unsigned xLines, unsigned yLines,
             continue;
         SnapGuide g = *axis->guide;
         const int shift = g.vertical ? out.dy : out.dx;
-        const Span across = AxisOf(rect, !g.vertical);
+        const Span across = axisOf(rect, !g.vertical);
         g.from = std::min(g.from, across.start + shift);
         g.to = std::max(g.to, across.start + across.length + shift);
         out.guides.push_back(g);

@@ -18,7 +18,7 @@ namespace orvelin {
 enum class AlignTo { Left, Right, Top, Bottom, HorizontalCentre, VerticalCentre };
 
 /// Every rectangle lined up on the one at `reference` (the current button), which stays.
-std::vector<PixelRect> Align(std::vector<PixelRect> rects, std::size_t reference, AlignTo edge);
+std::vector<PixelRect> align(std::vector<PixelRect> rects, std::size_t reference, AlignTo edge);
 
 /**
  * Equal gaps between neighbours, left to right (top to bottom). The outermost two stay
@@ -26,13 +26,13 @@ std::vector<PixelRect> Align(std::vector<PixelRect> rects, std::size_t reference
  * divide evenly the gaps differ by one pixel at most, and the last button still ends
  * where it did. Fewer than three rectangles stay as they are.
  */
-std::vector<PixelRect> DistributeHorizontally(std::vector<PixelRect> rects);
-std::vector<PixelRect> DistributeVertically(std::vector<PixelRect> rects);
+std::vector<PixelRect> distributeHorizontally(std::vector<PixelRect> rects);
+std::vector<PixelRect> distributeVertically(std::vector<PixelRect> rects);
 
 enum class SameSize { Width, Height, Both };
 
 /// The size of the one at `reference` for every rectangle; top left corners stay.
-std::vector<PixelRect> MakeSameSize(std::vector<PixelRect> rects, std::size_t reference,
+std::vector<PixelRect> makeSameSize(std::vector<PixelRect> rects, std::size_t reference,
                                     SameSize what);
 
 // ---- Snapping -----------------------------------------------------------------------
@@ -70,7 +70,7 @@ struct SnapOptions {
  * such a line and with a grid, the first of its lines snaps to the nearest grid line
  * within the threshold (grid lines show no guide).
  */
-SnapResult Snap(const PixelRect& rect, unsigned xLines, unsigned yLines,
+SnapResult snap(const PixelRect& rect, unsigned xLines, unsigned yLines,
                 const std::vector<PixelRect>& others, const PixelRect& area,
                 const SnapOptions& options);
 

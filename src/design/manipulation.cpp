@@ -13,39 +13,39 @@ namespace {
 constexpr int kInt16Min = std::numeric_limits<std::int16_t>::min();
 constexpr int kInt16Max = std::numeric_limits<std::int16_t>::max();
 
-std::int16_t ToInt16(long long value) {
+std::int16_t toInt16(long long value) {
     return static_cast<std::int16_t>(std::clamp<long long>(value, kInt16Min, kInt16Max));
 }
 
-void StoreRect(ButtonRecord& record, const PixelRect& rect) {
-    record.x = ToInt16(rect.left);
-    record.y = ToInt16(rect.top);
-    record.Width = ToInt16(rect.width);
-    record.Height = ToInt16(rect.height);
+void storeRect(ButtonRecord& record, const PixelRect& rect) {
+    record.x = toInt16(rect.left);
+    record.y = toInt16(rect.top);
+    record.Width = toInt16(rect.width);
+    record.Height = toInt16(rect.height);
 }
 
 } // namespace
 
-PixelRect ButtonRect(const ProjectModel& model, int index) {
-    const ButtonRecord& b = model.Button(index);
+PixelRect buttonRect(const ProjectModel& model, int index) {
+    const ButtonRecord& b = model.button(index);
     return {b.x, b.y, b.Width, b.Height};
 }
 
-bool IsButtonNumber(const ProjectModel& model, int index) {
+bool isButtonNumber(const ProjectModel& model, int index) {
     return index >= 1 && index <= model.ButtonCount;
 }
 
-int RoundPixel(double value) {
+int roundPixel(double value) {
     if (!std::isfinite(value))
         return 0;
     const double r = std::nearbyint(value);
     return static_cast<int>(std::clamp(r, double(INT_MIN), double(INT_MAX)));
 }
 
-PressOutcome PressOnButton(ProjectModel& model, ButtonList& list, DragState& drag, int number,
+PressOutcome pressOnButton(ProjectModel& model, ButtonList& list, DragState& drag, int number,
                            MouseButton button, bool ctrl, double x, double y) {
     PressOutcome out;
-    if (!IsButtonNumber(model, number))
+    if (!isButtonNumber(model, number))
         return out;
 
     if (button != MouseButton::Left) {
@@ -53,7 +53,7 @@ PressOutcome PressOnButton(ProjectModel& model, ButtonList& list, DragState& dra
         list.selectOnly(number);
         out.showProp = true;
         out.placeSizer = number;
-        const MoveMenuEnabling menu = MoveMenuFor(model);
+        const MoveMenuEnabling menu = moveMenuFor(model);
         out.openMoveMenu = true;
         out.enableBringToFront = menu.bringToFront;
         out.enableSendBack = menu.sendBack;
@@ -63,7 +63,7 @@ PressOutcome PressOnButton(ProjectModel& model, ButtonList& list, DragState& dra
     // The first Ctrl+click while one button is selected starts a group: the button
     // that was current is part of it and must show the marker as well.
     const int previous = model.CurrentButton;
-    if (ctrl && list.selectedCount() < 2 && previous != number && IsButtonNumber(model, previous) &&
+    if (ctrl && list.selectedCount() < 2 && previous != number && isButtonNumber(model, previous) &&
         list.isSelected(previous))
         out.markPrevious = previous;
     model.CurrentButton = static_cast<std::int16_t>(number);
@@ -87,15 +87,15 @@ PressOutcome PressOnButton(ProjectModel& model, ButtonList& list, DragState& dra
     drag.dragging = true;
     drag.moved = false;
     drag.grabX = x;
-    drag.grabY = RoundPixel(y);
+    drag.grabY = roundPixel(y);
     out.showProp = true;
     return out;
 }
 
-MoveOutcome MoveSelection(ProjectModel& model, const ButtonList& list, int dx, int dy) {
+MoveOutcome moveSelection(ProjectModel& model, const ButtonList& list, int dx, int dy) {
     MoveOutcome out;
     const int current = model.CurrentButton;
-    if (!IsButtonNumber(model, current))
+    if (!isButtonNumber(model, current))
         return out;
 
     out.buttons.reserve(static_cast<std::size_t>(list.selectedCount()) + 1);
@@ -109,7 +109,7 @@ MoveOutcome MoveSelection(ProjectModel& model, const ButtonList& list, int dx, i
     long long ddx = dx;
     long long ddy = dy;
     for (int i : out.buttons) {
-        const ButtonRecord& b = model.Button(i);
+        const ButtonRecord& b = model.button(i);
         ddx = std::clamp<long long>(ddx, kInt16Min - b.x, kInt16Max - b.x);
         ddy = std::clamp<long long>(ddy, kInt16Min - b.y, kInt16Max - b.y);
     }
@@ -117,7 +117,7 @@ MoveOutcome MoveSelection(ProjectModel& model, const ButtonList& list, int dx, i
     out.dy = static_cast<int>(ddy);
 
     for (int i : out.buttons) {
-        ButtonRecord& b = model.Button(i);
+        ButtonRecord& b = model.button(i);
         b.x = static_cast<std::int16_t>(b.x + out.dx);
         b.y = static_cast<std::int16_t>(b.y + out.dy);
     }
@@ -126,73 +126,73 @@ MoveOutcome MoveSelection(ProjectModel& model, const ButtonList& list, int dx, i
     return out;
 }
 
-MoveOutcome DragOnButton(ProjectModel& model, const ButtonList& list, DragState& drag, double x,
+MoveOutcome dragOnButton(ProjectModel& model, const ButtonList& list, DragState& drag, double x,
                          double y) {
     if (!drag.dragging)
         return {};
     // One offset for the whole group, rounded once, so that every button moves alike.
-    const int dx = RoundPixel(x - drag.grabX);
-    const int dy = RoundPixel(y - drag.grabY);
-    MoveOutcome out = MoveSelection(model, list, dx, dy);
+    const int dx = roundPixel(x - drag.grabX);
+    const int dy = roundPixel(y - drag.grabY);
+    MoveOutcome out = moveSelection(model, list, dx, dy);
     if (out.moved && (out.dx != 0 || out.dy != 0))
         drag.moved = true;
     return out;
 }
 
-MoveOutcome NudgeSelection(ProjectModel& model, const ButtonList& list, NudgeDirection direction,
+MoveOutcome nudgeSelection(ProjectModel& model, const ButtonList& list, NudgeDirection direction,
                            bool shift) {
     const int step = shift ? 10 : 1;
     switch (direction) {
     case NudgeDirection::Left:
-        return MoveSelection(model, list, -step, 0);
+        return moveSelection(model, list, -step, 0);
     case NudgeDirection::Right:
-        return MoveSelection(model, list, step, 0);
+        return moveSelection(model, list, step, 0);
     case NudgeDirection::Up:
-        return MoveSelection(model, list, 0, -step);
+        return moveSelection(model, list, 0, -step);
     case NudgeDirection::Down:
-        return MoveSelection(model, list, 0, step);
+        return moveSelection(model, list, 0, step);
     }
     return {};
 }
 
-ReleaseOutcome ReleaseOnButton(const ProjectModel& model, const ButtonList& list, DragState& drag,
+ReleaseOutcome releaseOnButton(const ProjectModel& model, const ButtonList& list, DragState& drag,
                                int number) {
     ReleaseOutcome out;
     const bool moved = drag.dragging && drag.moved;
     drag.dragging = false;
     drag.moved = false;
-    if (!IsButtonNumber(model, number))
+    if (!isButtonNumber(model, number))
         return out;
     if (list.selectedCount() < 2)
         out.placeSizer = number;
-    if (model.Button(number).noBackGround == 1)
+    if (model.button(number).noBackGround == 1)
         out.redrawReleased = number;
     if (moved) {
         for (int i = 1; i <= model.ButtonCount; ++i)
-            if (i != number && list.isSelected(i) && model.Button(i).noBackGround == 1)
+            if (i != number && list.isSelected(i) && model.button(i).noBackGround == 1)
                 out.redrawMovedTransparent.push_back(i);
     }
     return out;
 }
 
-int PressOnSurface(const ProjectModel& model, ButtonList& list, MouseButton button) {
+int pressOnSurface(const ProjectModel& model, ButtonList& list, MouseButton button) {
     if (model.ButtonCount < 1 || button == MouseButton::Right)
         return 0;
     list.selectOnly(model.CurrentButton);
-    return IsButtonNumber(model, model.CurrentButton) ? model.CurrentButton : 0;
+    return isButtonNumber(model, model.CurrentButton) ? model.CurrentButton : 0;
 }
 
-MoveMenuEnabling MoveMenuFor(const ProjectModel& model) {
+MoveMenuEnabling moveMenuFor(const ProjectModel& model) {
     return {model.CurrentButton != model.ButtonCount, model.CurrentButton != 1};
 }
 
 namespace {
 
-int SwapCurrentWith(ProjectModel& model, ButtonList& list, int other) {
+int swapCurrentWith(ProjectModel& model, ButtonList& list, int other) {
     const int current = model.CurrentButton;
-    if (!IsButtonNumber(model, current) || !IsButtonNumber(model, other))
+    if (!isButtonNumber(model, current) || !isButtonNumber(model, other))
         return 0;
-    std::swap(model.Button(current), model.Button(other));
+    std::swap(model.button(current), model.button(other));
     model.CurrentButton = static_cast<std::int16_t>(other);
     // The selection follows the button, or the editor would go on editing the one
     // that now lies in its old place.
@@ -204,18 +204,18 @@ int SwapCurrentWith(ProjectModel& model, ButtonList& list, int other) {
 } // namespace
 
 int BringToFront(ProjectModel& model, ButtonList& list) {
-    if (!MoveMenuFor(model).bringToFront)
+    if (!moveMenuFor(model).bringToFront)
         return 0;
-    return SwapCurrentWith(model, list, model.CurrentButton + 1);
+    return swapCurrentWith(model, list, model.CurrentButton + 1);
 }
 
 int SendBack(ProjectModel& model, ButtonList& list) {
-    if (!MoveMenuFor(model).sendBack)
+    if (!moveMenuFor(model).sendBack)
         return 0;
-    return SwapCurrentWith(model, list, model.CurrentButton - 1);
+    return swapCurrentWith(model, list, model.CurrentButton - 1);
 }
 
-PixelPoint SizerPosition(int handle, const PixelRect& b, int w, int h) {
+PixelPoint sizerPosition(int handle, const PixelRect& b, int w, int h) {
     // Centred on the edge: L + W/2 - w/2, each half in whole pixels as the surface has them.
     const int centreLeft = b.left + b.width / 2 - w / 2;
     const int centreTop = b.top + b.height / 2 - h / 2;
@@ -233,36 +233,36 @@ PixelPoint SizerPosition(int handle, const PixelRect& b, int w, int h) {
     }
 }
 
-void PressSizer(SizerState& sizers, int handle, double x, double y) {
+void pressSizer(SizerState& sizers, int handle, double x, double y) {
     if (handle < 0 || handle >= kSizerCount)
         return;
     sizers.tag[static_cast<std::size_t>(handle)] = kSizerTagDown;
     sizers.grabX = x;
-    sizers.grabY = RoundPixel(y);
+    sizers.grabY = roundPixel(y);
 }
 
-ResizeOutcome DragSizer(ProjectModel& model, SizerState& sizers, int handle, PixelPoint handleAt,
+ResizeOutcome dragSizer(ProjectModel& model, SizerState& sizers, int handle, PixelPoint handleAt,
                         int w, int h, double x, double y) {
     ResizeOutcome out;
     if (handle < 0 || handle >= kSizerCount ||
         sizers.tag[static_cast<std::size_t>(handle)] != kSizerTagDown)
         return out;
     const int current = model.CurrentButton;
-    if (!IsButtonNumber(model, current))
+    if (!isButtonNumber(model, current))
         return out;
 
-    PixelRect r = ButtonRect(model, current);
+    PixelRect r = buttonRect(model, current);
     const double dx = x - sizers.grabX;
     const double dy = y - sizers.grabY;
     switch (handle) {
     case SizerBottom:
-        r.height = std::max(kSmallestSize, RoundPixel(handleAt.y + dy - r.top + 2));
+        r.height = std::max(kSmallestSize, roundPixel(handleAt.y + dy - r.top + 2));
         break;
     case SizerRight:
-        r.width = std::max(kSmallestSize, RoundPixel(handleAt.x + dx - r.left + 2));
+        r.width = std::max(kSmallestSize, roundPixel(handleAt.x + dx - r.left + 2));
         break;
     case SizerTop: {
-        const int newTop = RoundPixel(handleAt.y + dy) + h + 2;
+        const int newTop = roundPixel(handleAt.y + dy) + h + 2;
         const int newHeight = r.top + r.height - newTop;
         if (newHeight < kSmallestSize)
             return out;
@@ -271,7 +271,7 @@ ResizeOutcome DragSizer(ProjectModel& model, SizerState& sizers, int handle, Pix
         break;
     }
     case SizerLeft: {
-        const int handleLeft = RoundPixel(handleAt.x + dx);
+        const int handleLeft = roundPixel(handleAt.x + dx);
         const int newWidth = r.left + r.width - (handleLeft + w + 2);
         if (newWidth < kSmallestSize || handleLeft <= 0)
             return out;
@@ -283,14 +283,14 @@ ResizeOutcome DragSizer(ProjectModel& model, SizerState& sizers, int handle, Pix
         return out;
     }
 
-    StoreRect(model.Button(current), r);
-    out.rect = ButtonRect(model, current);
+    storeRect(model.button(current), r);
+    out.rect = buttonRect(model, current);
     out.changed = true;
     model.Saved = false;
     return out;
 }
 
-SizerReleaseOutcome ReleaseSizer(SizerState& sizers, int handle) {
+SizerReleaseOutcome releaseSizer(SizerState& sizers, int handle) {
     SizerReleaseOutcome out;
     if (handle < 0 || handle >= kSizerCount)
         return out;
@@ -299,42 +299,42 @@ SizerReleaseOutcome ReleaseSizer(SizerState& sizers, int handle) {
     return out;
 }
 
-PixelPoint LabelAnchor(const ProjectModel& model, int index) {
-    const ButtonRecord& b = model.Button(index);
+PixelPoint labelAnchor(const ProjectModel& model, int index) {
+    const ButtonRecord& b = model.button(index);
     const ButtonState s = model.CurrentState;
-    return {b.x + b.LabelPosX(s), b.y + b.LabelPosY(s)};
+    return {b.x + b.labelPosX(s), b.y + b.labelPosY(s)};
 }
 
-void PressLabelPositioner(PositionerState& positioner, double x, double y) {
+void pressLabelPositioner(PositionerState& positioner, double x, double y) {
     positioner.dragging = true;
     positioner.grabX = x;
-    positioner.grabY = RoundPixel(y);
+    positioner.grabY = roundPixel(y);
 }
 
-LabelMoveOutcome DragLabelPositioner(ProjectModel& model, const ButtonList& list,
+LabelMoveOutcome dragLabelPositioner(ProjectModel& model, const ButtonList& list,
                                      PositionerState& positioner, double x, double y) {
     LabelMoveOutcome out;
     const int current = model.CurrentButton;
-    if (!positioner.dragging || !IsButtonNumber(model, current))
+    if (!positioner.dragging || !isButtonNumber(model, current))
         return out;
     const ButtonState s = model.CurrentState;
-    const ButtonRecord& b = model.Button(current);
+    const ButtonRecord& b = model.button(current);
     // Inside the button, so that the positioner never gets lost under another one.
     const int px =
-        std::clamp(b.LabelPosX(s) + RoundPixel(x - positioner.grabX), 0, std::max(0, int(b.Width)));
-    const int py = std::clamp(b.LabelPosY(s) + RoundPixel(y - positioner.grabY), 0,
+        std::clamp(b.labelPosX(s) + roundPixel(x - positioner.grabX), 0, std::max(0, int(b.Width)));
+    const int py = std::clamp(b.labelPosY(s) + roundPixel(y - positioner.grabY), 0,
                               std::max(0, int(b.Height)));
     out.position = {px, py};
-    if (px == b.LabelPosX(s) && py == b.LabelPosY(s) && b.PositionText(s) == 1)
+    if (px == b.labelPosX(s) && py == b.labelPosY(s) && b.positionText(s) == 1)
         return out;
 
     for (int i = 1; i <= model.ButtonCount; ++i) {
         if (i != current && !list.isSelected(i))
             continue;
-        ButtonRecord& r = model.Button(i);
-        r.LabelPosX(s) = static_cast<std::int16_t>(px);
-        r.LabelPosY(s) = static_cast<std::int16_t>(py);
-        r.PositionText(s) = 1;
+        ButtonRecord& r = model.button(i);
+        r.labelPosX(s) = static_cast<std::int16_t>(px);
+        r.labelPosY(s) = static_cast<std::int16_t>(py);
+        r.positionText(s) = 1;
         if (i == current)
             out.buttons.insert(out.buttons.begin(), i);
         else
@@ -344,7 +344,7 @@ LabelMoveOutcome DragLabelPositioner(ProjectModel& model, const ButtonList& list
     return out;
 }
 
-void ReleaseLabelPositioner(PositionerState& positioner) {
+void releaseLabelPositioner(PositionerState& positioner) {
     positioner.dragging = false;
 }
 

@@ -40,13 +40,13 @@ struct PixelRect {
 };
 
 /// The picture geometry of button `index`, from its record.
-PixelRect ButtonRect(const ProjectModel& model, int index);
+PixelRect buttonRect(const ProjectModel& model, int index);
 
 /// True for 1 to ButtonCount.
-bool IsButtonNumber(const ProjectModel& model, int index);
+bool isButtonNumber(const ProjectModel& model, int index);
 
 /// Half-way values go to the even neighbour, as every other conversion of the program.
-int RoundPixel(double value);
+int roundPixel(double value);
 
 // ---- Buttons: select, drag, release ---------------------------------------------
 
@@ -63,7 +63,7 @@ struct PressOutcome {
     int markPrevious = 0;      ///< DrawMultiSelector on the button current until now, first
     int markPressed = 0;       ///< Ctrl added the pressed button: DrawMultiSelector on it
     int redrawPressed = 0;     ///< Ctrl removed it: RedrawButton(n, true, false, false)
-    int placeSizer = 0;        ///< MoveSizer(n)
+    int placeSizer = 0;        ///< moveSizer(n)
     bool showProp = false;     ///< ShowProp for the new current button
     bool openMoveMenu = false; ///< the pop-up menu mnuMove at the pointer
     bool enableBringToFront = false;
@@ -76,7 +76,7 @@ struct PressOutcome {
  * The left one selects (Ctrl adds or removes) and starts a drag; a press on a button
  * that is already part of a group keeps the group, so that the group can be dragged.
  */
-PressOutcome PressOnButton(ProjectModel& model, ButtonList& list, DragState& drag, int number,
+PressOutcome pressOnButton(ProjectModel& model, ButtonList& list, DragState& drag, int number,
                            MouseButton button, bool ctrl, double x, double y);
 
 /// Buttons whose records moved, the current one first, and the offset they moved by.
@@ -94,37 +94,37 @@ struct MoveOutcome {
  * only shortened where a record would leave the 16-bit range, so that the group keeps
  * its shape.
  */
-MoveOutcome MoveSelection(ProjectModel& model, const ButtonList& list, int dx, int dy);
+MoveOutcome moveSelection(ProjectModel& model, const ButtonList& list, int dx, int dy);
 
 /**
  * pButtons_MouseMove: nothing unless a drag is under way; otherwise the pointer keeps
  * its place on the pressed picture, which takes the whole selection along.
  */
-MoveOutcome DragOnButton(ProjectModel& model, const ButtonList& list, DragState& drag, double x,
+MoveOutcome dragOnButton(ProjectModel& model, const ButtonList& list, DragState& drag, double x,
                          double y);
 
 enum class NudgeDirection { Left, Right, Up, Down };
 
 /// An arrow key: one pixel, ten with Shift, through the same path as a drag step.
-MoveOutcome NudgeSelection(ProjectModel& model, const ButtonList& list, NudgeDirection direction,
+MoveOutcome nudgeSelection(ProjectModel& model, const ButtonList& list, NudgeDirection direction,
                            bool shift);
 
 struct ReleaseOutcome {
-    int placeSizer = 0;     ///< MoveSizer(n) when fewer than two buttons are selected
+    int placeSizer = 0;     ///< moveSizer(n) when fewer than two buttons are selected
     int redrawReleased = 0; ///< a transparent released button: RedrawButton(n, true, false, false)
     /// Other transparent buttons the drag moved: they show the background of the new place.
     std::vector<int> redrawMovedTransparent;
 };
 
 /// pButtons_MouseUp on button `number`: ends the drag.
-ReleaseOutcome ReleaseOnButton(const ProjectModel& model, const ButtonList& list, DragState& drag,
+ReleaseOutcome releaseOnButton(const ProjectModel& model, const ButtonList& list, DragState& drag,
                                int number);
 
 /**
  * Form_MouseDown on the empty surface: any button but the right one collapses a group
  * to the current button. Returns the button to place the handles on (0: nothing).
  */
-int PressOnSurface(const ProjectModel& model, ButtonList& list, MouseButton button);
+int pressOnSurface(const ProjectModel& model, ButtonList& list, MouseButton button);
 
 // ---- Stacking order ---------------------------------------------------------------
 
@@ -134,7 +134,7 @@ struct MoveMenuEnabling {
 };
 
 /// "bring to front" unless the current button is the last, "send back" unless the first.
-MoveMenuEnabling MoveMenuFor(const ProjectModel& model);
+MoveMenuEnabling moveMenuFor(const ProjectModel& model);
 
 /**
  * mnuBringToFront / mnuSendBack: the current button's record changes places with the
@@ -156,7 +156,7 @@ inline constexpr const char* kSizerTagDown = "Down";
 
 /// MoveSizer: the top left corner of handle `handle` (w by h) around `button`; every
 /// handle stands 2 pixels outside its edge, centred on it.
-PixelPoint SizerPosition(int handle, const PixelRect& button, int w, int h);
+PixelPoint sizerPosition(int handle, const PixelRect& button, int w, int h);
 
 struct SizerState {
     std::array<std::string, kSizerCount> tag{kSizerTagUp, kSizerTagUp, kSizerTagUp, kSizerTagUp};
@@ -165,7 +165,7 @@ struct SizerState {
 };
 
 /// picSizer_MouseDown: the handle's tag becomes "Down", the grab point is kept.
-void PressSizer(SizerState& sizers, int handle, double x, double y);
+void pressSizer(SizerState& sizers, int handle, double x, double y);
 
 struct ResizeOutcome {
     bool changed = false; ///< false: the move was ignored (tag "Up", or refused)
@@ -180,7 +180,7 @@ struct ResizeOutcome {
  * the first movement of those handles adds 4 pixels, since the handle already stands
  * 2 pixels outside its edge.
  */
-ResizeOutcome DragSizer(ProjectModel& model, SizerState& sizers, int handle, PixelPoint handleAt,
+ResizeOutcome dragSizer(ProjectModel& model, SizerState& sizers, int handle, PixelPoint handleAt,
                         int w, int h, double x, double y);
 
 struct SizerReleaseOutcome {
@@ -189,12 +189,12 @@ struct SizerReleaseOutcome {
 };
 
 /// picSizer_MouseUp: the tag goes back to "Up".
-SizerReleaseOutcome ReleaseSizer(SizerState& sizers, int handle);
+SizerReleaseOutcome releaseSizer(SizerState& sizers, int handle);
 
 // ---- Label positioner -------------------------------------------------------------
 
 /// The label position of the edited state of button `index`, in surface pixels.
-PixelPoint LabelAnchor(const ProjectModel& model, int index);
+PixelPoint labelAnchor(const ProjectModel& model, int index);
 
 struct PositionerState {
     bool dragging = false;
@@ -202,7 +202,7 @@ struct PositionerState {
     int grabY = 0;
 };
 
-void PressLabelPositioner(PositionerState& positioner, double x, double y);
+void pressLabelPositioner(PositionerState& positioner, double x, double y);
 
 /// Buttons whose label position changed (current one first); empty when nothing did.
 struct LabelMoveOutcome {
@@ -215,9 +215,9 @@ struct LabelMoveOutcome {
  * kept inside the current button, and "Center Text" goes off (PositionText 1). Like
  * the editor's label position fields it writes into every selected button.
  */
-LabelMoveOutcome DragLabelPositioner(ProjectModel& model, const ButtonList& list,
+LabelMoveOutcome dragLabelPositioner(ProjectModel& model, const ButtonList& list,
                                      PositionerState& positioner, double x, double y);
 
-void ReleaseLabelPositioner(PositionerState& positioner);
+void releaseLabelPositioner(PositionerState& positioner);
 
 } // namespace orvelin

@@ -5,20 +5,20 @@
 
 namespace orvelin {
 
-QColor ColorFromRef(std::int32_t colour) {
+QColor colorFromRef(std::int32_t colour) {
     const auto value = static_cast<std::uint32_t>(colour);
     return QColor(static_cast<int>(value & 0xFFu), static_cast<int>((value >> 8) & 0xFFu),
                   static_cast<int>((value >> 16) & 0xFFu));
 }
 
-std::int32_t ColorToRef(const QColor& colour) {
+std::int32_t colorToRef(const QColor& colour) {
     const auto value = static_cast<std::uint32_t>(colour.red()) |
                        (static_cast<std::uint32_t>(colour.green()) << 8) |
                        (static_cast<std::uint32_t>(colour.blue()) << 16);
     return static_cast<std::int32_t>(value);
 }
 
-QImage NewPicture(QSize size) {
+QImage newPicture(QSize size) {
     QImage picture(size.expandedTo(QSize(1, 1)), QImage::Format_ARGB32_Premultiplied);
     picture.setDotsPerMeterX(kPictureDotsPerMeter);
     picture.setDotsPerMeterY(kPictureDotsPerMeter);
@@ -26,7 +26,7 @@ QImage NewPicture(QSize size) {
     return picture;
 }
 
-QColor ShadeColor(const QColor& colour, double amount) {
+QColor shadeColor(const QColor& colour, double amount) {
     const double a = std::clamp(amount, -1.0, 1.0);
     auto shade = [a](int component) {
         const double target = a > 0 ? 255.0 : 0.0;

@@ -12,15 +12,15 @@ namespace orvelin {
 inline constexpr int kPictureDotsPerMeter = 3780;
 
 /// A colour value of the project (0x00BBGGRR, red in the low byte); the high byte is ignored.
-QColor ColorFromRef(std::int32_t colour);
+QColor colorFromRef(std::int32_t colour);
 /// The project's colour value of `colour`.
-std::int32_t ColorToRef(const QColor& colour);
+std::int32_t colorToRef(const QColor& colour);
 
 /// A transparent picture of `size` at 96 dpi, ready for the painting routines.
-QImage NewPicture(QSize size);
+QImage newPicture(QSize size);
 
 /// `colour` moved towards white (amount > 0) or black (amount < 0) by |amount| (0 to 1),
 /// each of red, green and blue on its own.
-QColor ShadeColor(const QColor& colour, double amount);
+QColor shadeColor(const QColor& colour, double amount);
 
 } // namespace orvelin

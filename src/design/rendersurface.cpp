@@ -9,18 +9,18 @@
 
 namespace orvelin {
 
-QImage RenderSurface(const ProjectModel& model, ButtonState state, const RenderOptions& options) {
+QImage renderSurface(const ProjectModel& model, ButtonState state, const RenderOptions& options) {
     ImageCache ownImages;
     ImageCache& images = options.images ? *options.images : ownImages;
-    images.setProjectFile(model.FileForRelativePaths());
+    images.setProjectFile(model.fileForRelativePaths());
     images.newPass();
 
-    QImage surface = RenderBackground(model, images, options.noBackGround);
+    QImage surface = renderBackground(model, images, options.noBackGround);
     // Transparent buttons copy the background alone, never the buttons below them; the
     // copy is made only when some button needs it.
     QImage background;
     for (int index = 1; index <= model.ButtonCount; ++index)
-        if (model.Button(index).noBackGround != 0) {
+        if (model.button(index).noBackGround != 0) {
             background = surface.copy();
             break;
         }
@@ -34,7 +34,7 @@ QImage RenderSurface(const ProjectModel& model, ButtonState state, const RenderO
     QPainter onSurface(&surface);
     QImage picture;
     for (int index = 1; index <= model.ButtonCount; ++index) {
-        const ButtonRecord& button = model.Button(index);
+        const ButtonRecord& button = model.button(index);
         if (button.Width <= 0 || button.Height <= 0)
             continue;
         const QRect area(button.x, button.y, button.Width, button.Height);
@@ -44,19 +44,19 @@ QImage RenderSurface(const ProjectModel& model, ButtonState state, const RenderO
             onSurface.save();
             onSurface.setClipRect(area);
             onSurface.translate(area.topLeft());
-            painter.PaintButton(onSurface, index);
+            painter.paintButton(onSurface, index);
             onSurface.restore();
             continue;
         }
         // A transparent one may leave pixels unpainted: its own picture shows what is
         // under them, as the window's picture does.
         if (picture.size() != area.size())
-            picture = NewPicture(area.size());
+            picture = newPicture(area.size());
         else
             picture.fill(Qt::transparent);
         {
             QPainter onPicture(&picture);
-            painter.PaintButton(onPicture, index);
+            painter.paintButton(onPicture, index);
         }
         onSurface.drawImage(area.topLeft(), picture);
     }

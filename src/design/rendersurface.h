@@ -26,9 +26,9 @@ struct RenderOptions {
  * The whole applet area as the design window paints it in `state`: the background, then
  * buttons 1 to ButtonCount in z-order, each painted into its own picture and clipped to
  * it. Hidden buttons are shown, as the designer shows them. Relative image paths are
- * resolved beside the model's FileForRelativePaths().
+ * resolved beside the model's fileForRelativePaths().
  */
-QImage RenderSurface(const ProjectModel& model, ButtonState state,
+QImage renderSurface(const ProjectModel& model, ButtonState state,
                      const RenderOptions& options = {});
 
 } // namespace orvelin

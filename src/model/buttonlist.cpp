@@ -60,8 +60,8 @@ void ButtonList::setSelected(int index, bool selected) {
     ++m_revision;
 }
 
-std::string ButtonEntryText(int index) {
-    return Messages()[Msg::ButtonPrefix] + std::to_string(index);
+std::string buttonEntryText(int index) {
+    return messages()[Msg::ButtonPrefix] + std::to_string(index);
 }
 
 } // namespace orvelin

@@ -43,6 +43,6 @@ private:
 };
 
 /// The list entry's text, "Button " followed by the number.
-std::string ButtonEntryText(int index);
+std::string buttonEntryText(int index);
 
 } // namespace orvelin

@@ -14,7 +14,7 @@ const char* const kFactoryDefaultButton =
     "0|0|107|40||||||_self|1|0|0||||65535|16776960|255|0|16711680|16777215|Arial|Arial|Arial|0|0|"
     "0|10|10|10||||0|0|0|0|0|0|53|25|53|31|53|37|0||||";
 
-const char* StateName(ButtonState state) {
+const char* stateName(ButtonState state) {
     switch (state) {
     case ButtonState::UP:
         return "UP";
@@ -26,7 +26,7 @@ const char* StateName(ButtonState state) {
     return "UP";
 }
 
-bool StateFromName(std::string_view name, ButtonState& state) {
+bool stateFromName(std::string_view name, ButtonState& state) {
     if (name == "UP")
         state = ButtonState::UP;
     else if (name == "OVER")
@@ -38,7 +38,7 @@ bool StateFromName(std::string_view name, ButtonState& state) {
     return true;
 }
 
-std::string FontStyleCode(bool bold, bool italic) {
+std::string fontStyleCode(bool bold, bool italic) {
     if (bold && italic)
         return "3";
     if (bold)
@@ -48,7 +48,7 @@ std::string FontStyleCode(bool bold, bool italic) {
     return "0";
 }
 
-void FontStyleFlags(std::string_view code, bool& bold, bool& italic) {
+void fontStyleFlags(std::string_view code, bool& bold, bool& italic) {
     // Anything but the four digits draws regular, as the applet does.
     const int value = code.size() == 1 ? code[0] - '0' : 0;
     bold = value == 1 || value == 3;
@@ -125,7 +125,7 @@ constexpr std::array<ButtonField, kButtonFieldCount> kButtonFields = {{
     Field("ProgramDOWN", K::Raw, &B::ProgramDOWN),
 }};
 // clang-format on
-static_assert(KindsMatchMembers(kButtonFields));
+static_assert(kindsMatchMembers(kButtonFields));
 
 /// The field at `pos`; any position past the table is the last field.
 const ButtonField& fieldSlot(int pos) {
@@ -136,46 +136,46 @@ const ButtonField& fieldSlot(int pos) {
 } // namespace
 
 // clang-format off
-#define ORVELIN_STATE_ACCESSORS(Type, Name)                                                        \
-    Type& ButtonRecord::Name(ButtonState s) { return pick(s, Name##UP, Name##OVER, Name##DOWN); }  \
-    const Type& ButtonRecord::Name(ButtonState s) const {                                          \
+#define ORVELIN_STATE_ACCESSORS(Type, name, Name)                                                        \
+    Type& ButtonRecord::name(ButtonState s) { return pick(s, Name##UP, Name##OVER, Name##DOWN); }  \
+    const Type& ButtonRecord::name(ButtonState s) const {                                          \
         return pick(s, Name##UP, Name##OVER, Name##DOWN);                                          \
     }
-#define ORVELIN_STATE_VALUE_ACCESSORS(Type, Name)                                                  \
-    Type& ButtonRecord::Name(ButtonState s) { return pick(s, Name##UP, Name##OVER, Name##DOWN); }  \
-    Type ButtonRecord::Name(ButtonState s) const {                                                 \
+#define ORVELIN_STATE_VALUE_ACCESSORS(Type, name, Name)                                                  \
+    Type& ButtonRecord::name(ButtonState s) { return pick(s, Name##UP, Name##OVER, Name##DOWN); }  \
+    Type ButtonRecord::name(ButtonState s) const {                                                 \
         return pick(s, Name##UP, Name##OVER, Name##DOWN);                                          \
     }
 // clang-format on
 
-ORVELIN_STATE_ACCESSORS(std::string, Label)
-ORVELIN_STATE_ACCESSORS(std::string, Image)
-ORVELIN_STATE_ACCESSORS(std::string, Font)
-ORVELIN_STATE_ACCESSORS(std::string, FontStyle)
-ORVELIN_STATE_ACCESSORS(std::string, Program)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int32_t, BackColor)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int32_t, FontColor)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, FontSize)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, ImgStyle)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, PositionText)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, LabelPosX)
-ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, LabelPosY)
+ORVELIN_STATE_ACCESSORS(std::string, label, Label)
+ORVELIN_STATE_ACCESSORS(std::string, image, Image)
+ORVELIN_STATE_ACCESSORS(std::string, font, Font)
+ORVELIN_STATE_ACCESSORS(std::string, fontStyle, FontStyle)
+ORVELIN_STATE_ACCESSORS(std::string, Program, Program)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int32_t, backColor, BackColor)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int32_t, fontColor, FontColor)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, fontSize, FontSize)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, ImgStyle, ImgStyle)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, positionText, PositionText)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, labelPosX, LabelPosX)
+ORVELIN_STATE_VALUE_ACCESSORS(std::int16_t, labelPosY, LabelPosY)
 
-std::string& ButtonRecord::Sound(ButtonState s) {
+std::string& ButtonRecord::sound(ButtonState s) {
     return pick(s, SndUP, SndOVER, SndDOWN);
 }
-const std::string& ButtonRecord::Sound(ButtonState s) const {
+const std::string& ButtonRecord::sound(ButtonState s) const {
     return pick(s, SndUP, SndOVER, SndDOWN);
 }
 
 #undef ORVELIN_STATE_ACCESSORS
 #undef ORVELIN_STATE_VALUE_ACCESSORS
 
-const std::array<ButtonField, kButtonFieldCount>& ButtonFields() {
+const std::array<ButtonField, kButtonFieldCount>& buttonFields() {
     return kButtonFields;
 }
 
-bool FieldCanHold(FieldKind kind, char c) {
+bool fieldCanHold(FieldKind kind, char c) {
     const auto byte = static_cast<unsigned char>(c);
     if (byte < 0x20 || byte == 0x7F)
         return false;
@@ -193,22 +193,22 @@ bool FieldCanHold(FieldKind kind, char c) {
     return c != '|' && c != '"';
 }
 
-std::string CleanFieldText(FieldKind kind, std::string_view text, bool* removed) {
+std::string cleanFieldText(FieldKind kind, std::string_view text, bool* removed) {
     std::string out(text);
-    const bool any = CleanFieldInPlace(kind, out);
+    const bool any = cleanFieldInPlace(kind, out);
     if (removed)
         *removed = any;
     return out;
 }
 
-bool CleanFieldInPlace(FieldKind kind, std::string& text) {
+bool cleanFieldInPlace(FieldKind kind, std::string& text) {
     // FieldCanHold as a table per kind: every load passes every text of every button.
     using Table = std::array<bool, 256>;
     static const std::array<Table, 6> tables = [] {
         std::array<Table, 6> all{};
         for (std::size_t k = 0; k < all.size(); ++k)
             for (std::size_t b = 0; b < 256; ++b)
-                all[k][b] = FieldCanHold(static_cast<FieldKind>(k), static_cast<char>(b));
+                all[k][b] = fieldCanHold(static_cast<FieldKind>(k), static_cast<char>(b));
         return all;
     }();
     const Table& holds = tables.at(static_cast<std::size_t>(kind));
@@ -220,11 +220,11 @@ bool CleanFieldInPlace(FieldKind kind, std::string& text) {
     return true;
 }
 
-std::vector<int> CleanTextFields(ButtonRecord& record) {
+std::vector<int> cleanTextFields(ButtonRecord& record) {
     std::vector<int> changed;
     for (int pos = 0; pos < kButtonFieldCount; ++pos) {
         const ButtonField& f = fieldSlot(pos);
-        if (f.text && CleanFieldInPlace(f.kind, record.*f.text))
+        if (f.text && cleanFieldInPlace(f.kind, record.*f.text))
             changed.push_back(pos);
     }
     return changed;
@@ -260,7 +260,7 @@ WholeNumber parseNumber(std::string_view text, bool wide) {
     std::int64_t value = 0;
     if (plainNumber(text, value) && value >= min && value <= max)
         return {value, NumberError::None};
-    return ParseWholeNumber(text, min, max);
+    return parseWholeNumber(text, min, max);
 }
 
 /// Sets the integer field of `slot` from its text; false, with the cause, when the
@@ -288,7 +288,7 @@ template <typename R> char* writeField(char* to, const R& record, const RecordFi
         std::memcpy(to, text.data(), text.size());
         return to + text.size();
     }
-    return std::to_chars(to, to + kLongestNumber, FieldNumber(record, slot)).ptr;
+    return std::to_chars(to, to + kLongestNumber, fieldNumber(record, slot)).ptr;
 }
 
 /// Fields [first, last) each followed by "|", written through a pointer into room
@@ -324,19 +324,19 @@ std::size_t nextBar(std::string_view line, std::size_t start) {
 } // namespace
 
 template <typename R>
-FieldError SetFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text) {
+FieldError setFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text) {
     if (f.text) {
         (record.*f.text).assign(text);
         return {};
     }
     NumberError error = NumberError::None;
     if (!storeNumber(record, f, text, error))
-        return {pos, NumberErrorText(error)};
+        return {pos, numberErrorText(error)};
     return {};
 }
 
 template <typename R>
-void AppendFieldText(std::string& out, const R& record, const RecordField<R>& f) {
+void appendFieldText(std::string& out, const R& record, const RecordField<R>& f) {
     if (f.text) {
         out += record.*f.text;
         return;
@@ -345,35 +345,35 @@ void AppendFieldText(std::string& out, const R& record, const RecordField<R>& f)
     out.append(digits, writeField(digits, record, f));
 }
 
-template FieldError SetFieldText(ButtonRecord&, const ButtonField&, int, std::string_view);
-template FieldError SetFieldText(ProjectModel&, const RecordField<ProjectModel>&, int,
+template FieldError setFieldText(ButtonRecord&, const ButtonField&, int, std::string_view);
+template FieldError setFieldText(ProjectModel&, const RecordField<ProjectModel>&, int,
                                  std::string_view);
-template void AppendFieldText(std::string&, const ButtonRecord&, const ButtonField&);
-template void AppendFieldText(std::string&, const ProjectModel&, const RecordField<ProjectModel>&);
+template void appendFieldText(std::string&, const ButtonRecord&, const ButtonField&);
+template void appendFieldText(std::string&, const ProjectModel&, const RecordField<ProjectModel>&);
 
-std::string FieldText(const ButtonRecord& record, int pos) {
+std::string fieldText(const ButtonRecord& record, int pos) {
     std::string text;
-    AppendFieldText(text, record, fieldSlot(pos));
+    appendFieldText(text, record, fieldSlot(pos));
     return text;
 }
 
-FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text) {
-    return SetFieldText(record, fieldSlot(pos), pos, text);
+FieldError setFieldText(ButtonRecord& record, int pos, std::string_view text) {
+    return setFieldText(record, fieldSlot(pos), pos, text);
 }
 
-std::string SerializeButton(const ButtonRecord& record) {
+std::string serializeButton(const ButtonRecord& record) {
     std::string out;
     out.reserve(256);
-    AppendSerializedButton(out, record);
+    appendSerializedButton(out, record);
     return out;
 }
 
-void AppendSerializedButton(std::string& out, const ButtonRecord& record) {
+void appendSerializedButton(std::string& out, const ButtonRecord& record) {
     // Runs of fields between the labels go in one piece each; labels are encoded.
-    const auto& fields = ButtonFields();
+    const auto& fields = buttonFields();
     for (int pos = 0; pos < kButtonFieldCount;) {
         if (fields[static_cast<std::size_t>(pos)].kind == FieldKind::Label) {
-            AppendEncodedLabel(out, record.*fieldSlot(pos).text);
+            appendEncodedLabel(out, record.*fieldSlot(pos).text);
             out += '|';
             ++pos;
             continue;
@@ -387,8 +387,8 @@ void AppendSerializedButton(std::string& out, const ButtonRecord& record) {
     }
 }
 
-FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPosition) {
-    const auto& fields = ButtonFields();
+FieldError parseButton(std::string_view line, ButtonRecord& record, bool applyPosition) {
+    const auto& fields = buttonFields();
     std::size_t start = 0;
     for (int pos = 0; pos < kButtonFieldCount; ++pos) {
         const std::size_t bar = nextBar(line, start);
@@ -401,7 +401,7 @@ FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPo
             // Checked as a position would be, then dropped.
             error = parseNumber(field, false).error;
             if (error != NumberError::None)
-                return {pos, NumberErrorText(error)};
+                return {pos, numberErrorText(error)};
             continue;
         }
         const ButtonField& slot = fieldSlot(pos);
@@ -411,11 +411,11 @@ FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPo
             std::string& text = record.*slot.text;
             text.clear();
             if (fields[static_cast<std::size_t>(pos)].kind == FieldKind::Label)
-                AppendDecodedLabel(text, field);
+                appendDecodedLabel(text, field);
             else
                 text.append(field);
         } else if (!storeNumber(record, slot, field, error)) {
-            return {pos, NumberErrorText(error)};
+            return {pos, numberErrorText(error)};
         }
     }
     return {};

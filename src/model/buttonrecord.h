@@ -11,12 +11,12 @@ namespace orvelin {
 /// The three visual states of a button; every per-state triple is kept in this order.
 enum class ButtonState { UP = 0, OVER = 1, DOWN = 2 };
 
-const char* StateName(ButtonState state); ///< "UP", "OVER", "DOWN"
-bool StateFromName(std::string_view name, ButtonState& state);
+const char* stateName(ButtonState state); ///< "UP", "OVER", "DOWN"
+bool stateFromName(std::string_view name, ButtonState& state);
 
 /// Font style code "0".."3" from the two style toggles and back.
-std::string FontStyleCode(bool bold, bool italic);
-void FontStyleFlags(std::string_view code, bool& bold, bool& italic);
+std::string fontStyleCode(bool bold, bool italic);
+void fontStyleFlags(std::string_view code, bool& bold, bool& italic);
 
 /**
  * One button's 50 properties, in the order of its pipe-separated form (the
@@ -55,32 +55,32 @@ struct ButtonRecord {
     std::string ProgramUP, ProgramOVER, ProgramDOWN;
 
     // Per-state access, so that editor code never spells out the triple.
-    std::string& Label(ButtonState s);
-    const std::string& Label(ButtonState s) const;
-    std::string& Image(ButtonState s);
-    const std::string& Image(ButtonState s) const;
-    std::string& Sound(ButtonState s);
-    const std::string& Sound(ButtonState s) const;
-    std::string& Font(ButtonState s);
-    const std::string& Font(ButtonState s) const;
-    std::string& FontStyle(ButtonState s);
-    const std::string& FontStyle(ButtonState s) const;
+    std::string& label(ButtonState s);
+    const std::string& label(ButtonState s) const;
+    std::string& image(ButtonState s);
+    const std::string& image(ButtonState s) const;
+    std::string& sound(ButtonState s);
+    const std::string& sound(ButtonState s) const;
+    std::string& font(ButtonState s);
+    const std::string& font(ButtonState s) const;
+    std::string& fontStyle(ButtonState s);
+    const std::string& fontStyle(ButtonState s) const;
     std::string& Program(ButtonState s);
     const std::string& Program(ButtonState s) const;
-    std::int32_t& BackColor(ButtonState s);
-    std::int32_t BackColor(ButtonState s) const;
-    std::int32_t& FontColor(ButtonState s);
-    std::int32_t FontColor(ButtonState s) const;
-    std::int16_t& FontSize(ButtonState s);
-    std::int16_t FontSize(ButtonState s) const;
+    std::int32_t& backColor(ButtonState s);
+    std::int32_t backColor(ButtonState s) const;
+    std::int32_t& fontColor(ButtonState s);
+    std::int32_t fontColor(ButtonState s) const;
+    std::int16_t& fontSize(ButtonState s);
+    std::int16_t fontSize(ButtonState s) const;
     std::int16_t& ImgStyle(ButtonState s);
     std::int16_t ImgStyle(ButtonState s) const;
-    std::int16_t& PositionText(ButtonState s);
-    std::int16_t PositionText(ButtonState s) const;
-    std::int16_t& LabelPosX(ButtonState s);
-    std::int16_t LabelPosX(ButtonState s) const;
-    std::int16_t& LabelPosY(ButtonState s);
-    std::int16_t LabelPosY(ButtonState s) const;
+    std::int16_t& positionText(ButtonState s);
+    std::int16_t positionText(ButtonState s) const;
+    std::int16_t& labelPosX(ButtonState s);
+    std::int16_t labelPosX(ButtonState s) const;
+    std::int16_t& labelPosY(ButtonState s);
+    std::int16_t labelPosY(ButtonState s) const;
 
     bool operator==(const ButtonRecord&) const = default;
 };
@@ -128,7 +128,7 @@ constexpr RecordField<R> Field(const char* name, FieldKind kind, std::string R::
 
 /// True when every field's kind fits its member: Int16 a 16-bit one, Color a 32-bit one,
 /// the others a string. Checked where the tables are defined.
-template <typename Table> constexpr bool KindsMatchMembers(const Table& table) {
+template <typename Table> constexpr bool kindsMatchMembers(const Table& table) {
     for (const auto& f : table) {
         const bool fits = f.kind == FieldKind::Int16   ? f.number != nullptr
                           : f.kind == FieldKind::Color ? f.colour != nullptr
@@ -140,7 +140,7 @@ template <typename Table> constexpr bool KindsMatchMembers(const Table& table) {
 }
 
 /// The number a numeric field holds (0 for a text field).
-template <typename R> std::int32_t FieldNumber(const R& record, const RecordField<R>& f) {
+template <typename R> std::int32_t fieldNumber(const R& record, const RecordField<R>& f) {
     return f.colour ? record.*f.colour : f.number ? record.*f.number : 0;
 }
 
@@ -156,29 +156,29 @@ using ButtonField = RecordField<ButtonRecord>;
  * (encoded for the applet) but no "|"; Raw fields (fonts, style codes, programs, the
  * applet name) neither. Numbers are checked as numbers where they are read.
  */
-bool FieldCanHold(FieldKind kind, char c);
+bool fieldCanHold(FieldKind kind, char c);
 
 /**
  * `text` without the bytes a field of `kind` cannot hold (FieldCanHold): the one rule
  * for what a field may contain, used when a project is read, when a page is generated
  * and where the user types. `removed`, when given, tells whether anything went.
  */
-std::string CleanFieldText(FieldKind kind, std::string_view text, bool* removed = nullptr);
+std::string cleanFieldText(FieldKind kind, std::string_view text, bool* removed = nullptr);
 
 /// CleanFieldText in place; true when something was removed.
-bool CleanFieldInPlace(FieldKind kind, std::string& text);
+bool cleanFieldInPlace(FieldKind kind, std::string& text);
 
 /// Cleans every text field of `record` in place; the positions of those that changed.
-std::vector<int> CleanTextFields(ButtonRecord& record);
+std::vector<int> cleanTextFields(ButtonRecord& record);
 
 /// The 50 fields in the order of every pipe-separated form of a button.
-const std::array<ButtonField, kButtonFieldCount>& ButtonFields();
+const std::array<ButtonField, kButtonFieldCount>& buttonFields();
 
 /// Field `pos` as stored text (integers in decimal, texts as they are, no encoding).
-std::string FieldText(const ButtonRecord& record, int pos);
+std::string fieldText(const ButtonRecord& record, int pos);
 /// Field `f` as stored text appended to `out`.
 template <typename R>
-void AppendFieldText(std::string& out, const R& record, const RecordField<R>& f);
+void appendFieldText(std::string& out, const R& record, const RecordField<R>& f);
 
 /// Result of assigning one field from text: an integer field holding no number is a
 /// conversion error, named as the designer names it ("Type mismatch", "Overflow").
@@ -189,16 +189,16 @@ struct FieldError {
 };
 
 /// Assigns field `pos` from stored text (no decoding). Leaves the field as it was on error.
-FieldError SetFieldText(ButtonRecord& record, int pos, std::string_view text);
+FieldError setFieldText(ButtonRecord& record, int pos, std::string_view text);
 /// The same for any record's field; the error's position is `pos`.
 template <typename R>
-FieldError SetFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text);
+FieldError setFieldText(R& record, const RecordField<R>& f, int pos, std::string_view text);
 
 /// The 50 fields each followed by "|"; labels through EncodeLabel.
-std::string SerializeButton(const ButtonRecord& record);
+std::string serializeButton(const ButtonRecord& record);
 
-/// SerializeButton(record) appended to `out`.
-void AppendSerializedButton(std::string& out, const ButtonRecord& record);
+/// serializeButton(record) appended to `out`.
+void appendSerializedButton(std::string& out, const ButtonRecord& record);
 
 /**
  * Fills `record` from a pipe-separated line: every "|" closes a field, text after the
@@ -207,7 +207,7 @@ void AppendSerializedButton(std::string& out, const ButtonRecord& record);
  * Without `applyPosition`, x and y are checked but not assigned (a new button keeps
  * the position of its table slot).
  */
-FieldError ParseButton(std::string_view line, ButtonRecord& record, bool applyPosition = true);
+FieldError parseButton(std::string_view line, ButtonRecord& record, bool applyPosition = true);
 
 /// The factory default-button string.
 extern const char* const kFactoryDefaultButton;

@@ -26,7 +26,7 @@ constexpr Tool kUpdateDesktop{"update-desktop-database", "desktop-file-utils"};
 
 // Empty when the tool did its job, else a sentence that says what to install or why
 // it failed.
-std::string Run(DesktopTools& tools, const Tool& tool, const std::vector<std::string>& args) {
+std::string run(DesktopTools& tools, const Tool& tool, const std::vector<std::string>& args) {
     const DesktopTools::Result result = tools.run(tool.program, args);
     if (!result.started)
         return std::string(tool.program) + " is not installed (install the package " +
@@ -41,7 +41,7 @@ std::string Run(DesktopTools& tools, const Tool& tool, const std::vector<std::st
     return reason;
 }
 
-std::string ReadWhole(const fs::path& path) {
+std::string readWhole(const fs::path& path) {
     std::ifstream in(path, std::ios::binary);
     std::ostringstream text;
     text << in.rdbuf();
@@ -50,7 +50,7 @@ std::string ReadWhole(const fs::path& path) {
 
 // Desktop entries quote arguments with blanks or reserved characters, and inside the
 // quotes escape ", `, $ and \.
-std::string QuoteExec(const std::string& path) {
+std::string quoteExec(const std::string& path) {
     if (path.find_first_of(" \t\"'\\><~|&;$*?#()`") == std::string::npos)
         return path;
     std::string quoted = "\"";
@@ -62,39 +62,39 @@ std::string QuoteExec(const std::string& path) {
     return quoted + '"';
 }
 
-std::string WriteFile(const fs::path& path, const std::string& content) {
+std::string writeFile(const fs::path& path, const std::string& content) {
     std::error_code ec;
     fs::create_directories(path.parent_path(), ec);
-    if (!WriteFileAtomically(path.string(), content))
+    if (!writeFileAtomically(path.string(), content))
         return path.string() + " cannot be written";
     return {};
 }
 
-std::string CopyFile(const fs::path& from, const fs::path& to) {
+std::string copyFile(const fs::path& from, const fs::path& to) {
     std::error_code ec;
     if (!fs::is_regular_file(from, ec))
         return from.string() + " is missing from the program folder";
-    return WriteFile(to, ReadWhole(from));
+    return writeFile(to, readWhole(from));
 }
 
-fs::path DesktopFolder(const DesktopPlaces& places) {
+fs::path desktopFolder(const DesktopPlaces& places) {
     return fs::path(places.programFolder) / "desktop";
 }
 
 } // namespace
 
-DesktopPlaces CurrentDesktopPlaces() {
+DesktopPlaces currentDesktopPlaces() {
     DesktopPlaces places;
     const char* dataHome = std::getenv("XDG_DATA_HOME");
     const char* home = std::getenv("HOME");
     places.dataHome =
-        dataHome && *dataHome ? std::string(dataHome) : JoinPath(home ? home : ".", ".local/share");
-    places.executable = ExecutablePath();
-    places.programFolder = ProgramFolder();
+        dataHome && *dataHome ? std::string(dataHome) : joinPath(home ? home : ".", ".local/share");
+    places.executable = executablePath();
+    places.programFolder = programFolder();
     return places;
 }
 
-StartupOffers DecideStartupOffers(const Settings& settings, bool runFromBuildFolder,
+StartupOffers decideStartupOffers(const Settings& settings, bool runFromBuildFolder,
                                   std::optional<bool> associated) {
     StartupOffers offers;
     offers.shortCut = runFromBuildFolder && settings.value(SettingKey::ShortCut) == "none";
@@ -103,7 +103,7 @@ StartupOffers DecideStartupOffers(const Settings& settings, bool runFromBuildFol
     return offers;
 }
 
-std::optional<bool> IsAssociated(DesktopTools& tools) {
+std::optional<bool> isAssociated(DesktopTools& tools) {
     const DesktopTools::Result result =
         tools.run(kXdgMime.program, {"query", "default", kProjectMimeType});
     if (!result.started || result.status != 0)
@@ -111,7 +111,7 @@ std::optional<bool> IsAssociated(DesktopTools& tools) {
     return result.output.substr(0, result.output.find_last_not_of(" \r\n") + 1) == kDesktopId;
 }
 
-std::string UserDesktopEntry(std::string_view installedEntry, const std::string& executable,
+std::string userDesktopEntry(std::string_view installedEntry, const std::string& executable,
                              const std::string& icon) {
     std::string entry;
     std::size_t start = 0;
@@ -121,7 +121,7 @@ std::string UserDesktopEntry(std::string_view installedEntry, const std::string&
             end = installedEntry.size();
         const std::string_view line = installedEntry.substr(start, end - start);
         if (line.starts_with("Exec="))
-            entry += "Exec=" + QuoteExec(executable) + " %f";
+            entry += "Exec=" + quoteExec(executable) + " %f";
         else if (line.starts_with("TryExec="))
             entry += "TryExec=" + executable;
         else if (line.starts_with("Icon="))
@@ -134,33 +134,33 @@ std::string UserDesktopEntry(std::string_view installedEntry, const std::string&
     return entry;
 }
 
-std::string AddToApplicationsMenu(DesktopTools& tools, const DesktopPlaces& places) {
-    const fs::path installed = DesktopFolder(places) / kDesktopId;
-    const std::string template_ = ReadWhole(installed);
+std::string addToApplicationsMenu(DesktopTools& tools, const DesktopPlaces& places) {
+    const fs::path installed = desktopFolder(places) / kDesktopId;
+    const std::string template_ = readWhole(installed);
     if (template_.empty())
         return installed.string() + " is missing from the program folder";
     const fs::path applications = fs::path(places.dataHome) / "applications";
-    const std::string icon = (DesktopFolder(places) / "orvelin.svg").string();
-    if (std::string error = WriteFile(applications / kDesktopId,
-                                      UserDesktopEntry(template_, places.executable, icon));
+    const std::string icon = (desktopFolder(places) / "orvelin.svg").string();
+    if (std::string error = writeFile(applications / kDesktopId,
+                                      userDesktopEntry(template_, places.executable, icon));
         !error.empty())
         return error;
-    return Run(tools, kUpdateDesktop, {applications.string()});
+    return run(tools, kUpdateDesktop, {applications.string()});
 }
 
-std::string RegisterFileType(DesktopTools& tools, const DesktopPlaces& places) {
+std::string registerFileType(DesktopTools& tools, const DesktopPlaces& places) {
     const fs::path data(places.dataHome);
-    std::string error = AddToApplicationsMenu(tools, places);
+    std::string error = addToApplicationsMenu(tools, places);
     if (error.empty())
-        error = CopyFile(DesktopFolder(places) / "orvelin.xml", data / "mime/packages/orvelin.xml");
+        error = copyFile(desktopFolder(places) / "orvelin.xml", data / "mime/packages/orvelin.xml");
     if (error.empty())
         error =
-            CopyFile(DesktopFolder(places) / "application-x-orvelin-project.svg",
+            copyFile(desktopFolder(places) / "application-x-orvelin-project.svg",
                      data / "icons/hicolor/scalable/mimetypes/application-x-orvelin-project.svg");
     if (error.empty())
-        error = Run(tools, kUpdateMime, {(data / "mime").string()});
+        error = run(tools, kUpdateMime, {(data / "mime").string()});
     if (error.empty())
-        error = Run(tools, kXdgMime, {"default", kDesktopId, kProjectMimeType});
+        error = run(tools, kXdgMime, {"default", kDesktopId, kProjectMimeType});
     return error;
 }
 

@@ -33,7 +33,7 @@ struct DesktopPlaces {
 };
 
 /// The places of the running designer.
-DesktopPlaces CurrentDesktopPlaces();
+DesktopPlaces currentDesktopPlaces();
 
 /// The prompts start-up shows, in this order.
 struct StartupOffers {
@@ -47,30 +47,30 @@ struct StartupOffers {
  * (`associated` false; nullopt means the desktop tools cannot tell, and then nobody
  * is asked) and DontAskToAssociate is not "1".
  */
-StartupOffers DecideStartupOffers(const Settings& settings, bool runFromBuildFolder,
+StartupOffers decideStartupOffers(const Settings& settings, bool runFromBuildFolder,
                                   std::optional<bool> associated);
 
 /// Whether .orv files open with Orvelin for this user; nullopt when xdg-mime cannot tell.
-std::optional<bool> IsAssociated(DesktopTools& tools);
+std::optional<bool> isAssociated(DesktopTools& tools);
 
 /**
  * The desktop entry for this copy: `installedEntry` with Exec, TryExec and Icon
  * pointing at `executable` and `icon` (quoted as desktop entries want).
  */
-std::string UserDesktopEntry(std::string_view installedEntry, const std::string& executable,
+std::string userDesktopEntry(std::string_view installedEntry, const std::string& executable,
                              const std::string& icon);
 
 /**
  * Writes this copy's desktop entry into the user's applications folder and refreshes
  * the menu's database. Empty on success, else the reason (naming the tool or file).
  */
-std::string AddToApplicationsMenu(DesktopTools& tools, const DesktopPlaces& places);
+std::string addToApplicationsMenu(DesktopTools& tools, const DesktopPlaces& places);
 
 /**
  * Makes Orvelin the user's program for .orv files: the desktop entry, the file type
  * and its icon in the user's data folders, the databases refreshed, Orvelin the
  * default. Empty on success, else the reason.
  */
-std::string RegisterFileType(DesktopTools& tools, const DesktopPlaces& places);
+std::string registerFileType(DesktopTools& tools, const DesktopPlaces& places);
 
 } // namespace orvelin

@@ -16,7 +16,7 @@ constexpr const char* kProgramTitle = "Orvelin";
 
 } // namespace
 
-const char* AskToSaveText(SaveAnswer answer) {
+const char* askToSaveText(SaveAnswer answer) {
     switch (answer) {
     case SaveAnswer::Saved:
         return "SAVED";
@@ -30,11 +30,11 @@ const char* AskToSaveText(SaveAnswer answer) {
     return "CANCEL";
 }
 
-std::string MainTitle() {
+std::string mainTitle() {
     return std::string(kProgramTitle) + " " + kVersionText;
 }
 
-std::string ActionTitle(ButtonState state) {
+std::string actionTitle(ButtonState state) {
     switch (state) {
     case ButtonState::OVER:
         return "Set Action: On Entering Button...";
@@ -46,20 +46,20 @@ std::string ActionTitle(ButtonState state) {
     return "Set Action: On Leaving Button...";
 }
 
-std::string ButtonsClipboardHeader() {
+std::string buttonsClipboardHeader() {
     return std::string(kProgramTitle) + " Buttons " + kVersionText;
 }
 
-std::string ButtonsClipboardText(const ProjectModel& model, const std::vector<int>& buttons) {
-    std::string text = ButtonsClipboardHeader() + std::string(kCrLf);
+std::string buttonsClipboardText(const ProjectModel& model, const std::vector<int>& buttons) {
+    std::string text = buttonsClipboardHeader() + std::string(kCrLf);
     for (int index : buttons) {
-        AppendSerializedButton(text, model.Button(index));
+        appendSerializedButton(text, model.button(index));
         text += kCrLf;
     }
     return text;
 }
 
-std::optional<std::vector<ButtonRecord>> ButtonsFromClipboardText(std::string_view text) {
+std::optional<std::vector<ButtonRecord>> buttonsFromClipboardText(std::string_view text) {
     std::vector<ButtonRecord> buttons;
     bool header = true;
     while (!text.empty()) {
@@ -69,15 +69,15 @@ std::optional<std::vector<ButtonRecord>> ButtonsFromClipboardText(std::string_vi
         if (!line.empty() && line.back() == '\r')
             line.remove_suffix(1);
         if (header) {
-            if (line != ButtonsClipboardHeader())
+            if (line != buttonsClipboardHeader())
                 return std::nullopt;
             header = false;
         } else if (!line.empty()) {
             ButtonRecord record;
-            if (ParseButton(line, record))
+            if (parseButton(line, record))
                 return std::nullopt;
             // Text typed elsewhere may hold what no field can store.
-            CleanTextFields(record);
+            cleanTextFields(record);
             buttons.push_back(std::move(record));
         }
     }
@@ -86,16 +86,16 @@ std::optional<std::vector<ButtonRecord>> ButtonsFromClipboardText(std::string_vi
     return buttons;
 }
 
-std::string ProjectSavePath(std::string_view chosen, std::string_view chosenFilter) {
+std::string projectSavePath(std::string_view chosen, std::string_view chosenFilter) {
     const std::string_view projectFilter =
         std::string_view(kProjectFilter).substr(0, std::string_view(kProjectFilter).find(";;"));
-    const std::string name = BareFileName(chosen);
+    const std::string name = bareFileName(chosen);
     if (chosenFilter != projectFilter || name.empty() || name.find('.', 1) != std::string::npos)
         return std::string(chosen);
     return std::string(chosen) + ".orv";
 }
 
-std::string ProjectPathFromCommandLine(std::string_view commandLine) {
+std::string projectPathFromCommandLine(std::string_view commandLine) {
     const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
     while (!commandLine.empty() && blank(commandLine.front()))
         commandLine.remove_prefix(1);
@@ -116,92 +116,92 @@ Editor::Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Setting
       m_shell(shell), m_view(view), m_recent(settings, view),
       m_properties(model, list, ui, settings, design, view) {}
 
-StartupResult Editor::Startup(std::string_view commandLine) {
+StartupResult Editor::startup(std::string_view commandLine) {
     m_model.Saved = true;
-    m_view.SetCaption(MainTitle());
+    m_view.setCaption(mainTitle());
     m_recent.GetRecent();
-    m_view.SetLanguageChecked(m_settings.value(SettingKey::LanguageCurrent));
+    m_view.setLanguageChecked(m_settings.value(SettingKey::LanguageCurrent));
     m_model.CurrentState = ButtonState::UP;
-    ShowCurrentState();
-    if (AppendDefaultButton() == StartupResult::Quit)
+    showCurrentState();
+    if (appendDefaultButton() == StartupResult::Quit)
         return StartupResult::Quit;
     SetMainParams();
     const bool onTop = m_settings.flag(SettingKey::frmDesignOnTop);
     if (onTop)
-        m_design.SetOnTop(true);
-    m_view.SetOnTopChecked(onTop);
-    m_view.SetAutoTileChecked(m_settings.flag(SettingKey::AutoTile));
+        m_design.setOnTop(true);
+    m_view.setOnTopChecked(onTop);
+    m_view.setAutoTileChecked(m_settings.flag(SettingKey::AutoTile));
     m_model.Saved = true;
 
-    const std::string path = ProjectPathFromCommandLine(commandLine);
+    const std::string path = projectPathFromCommandLine(commandLine);
     if (!path.empty())
-        LoadFile(path);
+        loadFile(path);
     return StartupResult::Ready;
 }
 
-bool Editor::MayAskToAssociate() const {
+bool Editor::mayAskToAssociate() const {
     return m_settings.value(SettingKey::DontAskToAssociate) != "1";
 }
 
-void Editor::New() {
+void Editor::newProject() {
     if (AskToSave() == SaveAnswer::Cancel)
         return;
-    m_model.Reset();
+    m_model.reset();
     m_list.clear();
-    m_design.ClearButtons();
-    m_design.HideMarks();
+    m_design.clearButtons();
+    m_design.hideMarks();
     // The background image is gone.
-    m_design.AppletChanged();
-    m_view.ShowButtonList();
+    m_design.appletChanged();
+    m_view.showButtonList();
     SetMainParams();
-    m_view.CloseLabelEditor();
-    m_view.SetCaption(MainTitle());
-    ApplyKeepOnTop();
+    m_view.closeLabelEditor();
+    m_view.setCaption(mainTitle());
+    applyKeepOnTop();
     m_model.Saved = true;
-    m_view.ProjectReplaced();
+    m_view.projectReplaced();
 }
 
-void Editor::Open() {
+void Editor::open() {
     if (AskToSave() == SaveAnswer::Cancel)
         return;
     const std::optional<std::string> path = m_ui.chooseOpenFile(kProjectFilter);
     if (path)
-        LoadFile(*path);
-    ApplyKeepOnTop();
+        loadFile(*path);
+    applyKeepOnTop();
 }
 
-void Editor::OpenRecent(int slot) {
-    const std::string path = m_recent.Path(slot);
+void Editor::openRecent(int slot) {
+    const std::string path = m_recent.path(slot);
     if (path.empty())
         return;
     if (AskToSave() == SaveAnswer::Cancel)
         return;
-    LoadFile(path);
+    loadFile(path);
 }
 
-bool Editor::Save() {
+bool Editor::save() {
     if (m_model.ProjectFileName.empty())
-        return SaveAs();
+        return saveAs();
     if (!SaveProject(m_model, m_model.ProjectFileName, m_ui))
         return false;
     m_recent.WriteRecent(m_model.ProjectFileName);
     return true;
 }
 
-bool Editor::SaveAs() {
+bool Editor::saveAs() {
     const std::string proposed =
         m_model.ProjectFileName.empty() ? kProposedProjectName : m_model.ProjectFileName;
     std::string filter;
     const std::optional<std::string> chosen =
         m_ui.chooseSaveFileAndFilter(kProjectFilter, proposed, filter);
-    ApplyKeepOnTop();
+    applyKeepOnTop();
     if (!chosen || chosen->empty())
         return false;
-    const std::string path = ProjectSavePath(*chosen, filter);
+    const std::string path = projectSavePath(*chosen, filter);
     // The dialog asked about the name as typed; the added extension may name a file.
     std::error_code ec;
     if (path != *chosen && std::filesystem::exists(path, ec)) {
-        const MessageTable& msg = Messages();
+        const MessageTable& msg = messages();
         if (m_ui.askOkCancel(path + msg[Msg::FileExists] + std::string(kCrLf) +
                              msg[Msg::ReplaceQuestion]) != UserInterface::Answer::Ok)
             return false;
@@ -211,32 +211,32 @@ bool Editor::SaveAs() {
     if (!SaveProject(m_model, path, m_ui))
         return false;
     m_model.ProjectFileName = path;
-    m_view.SetCaption(MainTitle() + " " + path);
+    m_view.setCaption(mainTitle() + " " + path);
     m_recent.WriteRecent(path);
     return true;
 }
 
-void Editor::ImportLegacy() {
+void Editor::importLegacy() {
     if (AskToSave() == SaveAnswer::Cancel)
         return;
     const std::optional<std::string> path = m_ui.chooseOpenFile(kLegacyProjectFilter);
-    ApplyKeepOnTop();
+    applyKeepOnTop();
     if (!path)
         return;
-    ClearProject();
-    ShowLoadResult(LoadProject_OLD(m_model, *path, &m_ui), m_ui);
-    ShowLoadedProject();
+    clearProject();
+    showLoadResult(LoadProject_OLD(m_model, *path, &m_ui), m_ui);
+    showLoadedProject();
     // The imported design exists in no current-format file yet: saving must ask for a
     // new name instead of overwriting the legacy file.
     m_model.ProjectFileName.clear();
     m_model.Saved = false;
-    m_view.SetCaption(MainTitle());
-    m_view.ProjectReplaced();
+    m_view.setCaption(mainTitle());
+    m_view.projectReplaced();
 }
 
-bool ShowLoadResult(const LoadResult& result, UserInterface& ui) {
+bool showLoadResult(const LoadResult& result, UserInterface& ui) {
     constexpr std::size_t kCleanedLinesShown = 10;
-    const MessageTable& msg = Messages();
+    const MessageTable& msg = messages();
     if (result.earlierVersion)
         ui.showMessage(msg[Msg::EarlierVersion] + std::string(kCrLf) + std::string(kCrLf) +
                            msg[Msg::EarlierVersionNote] + kVersionText,
@@ -257,13 +257,13 @@ bool ShowLoadResult(const LoadResult& result, UserInterface& ui) {
 SaveAnswer Editor::AskToSave() {
     if (m_model.Saved)
         return SaveAnswer::Saved;
-    const MessageTable& msg = Messages();
+    const MessageTable& msg = messages();
     const std::string text = msg[Msg::AskToSaveProject] + m_model.ProjectFileName +
                              msg[Msg::AskToSaveChanged] + std::string(kCrLf) +
                              msg[Msg::AskToSaveQuestion];
     switch (m_ui.askYesNoCancel(text, kProgramTitle)) {
     case UserInterface::Answer::Yes:
-        Save();
+        save();
         return SaveAnswer::Yes;
     case UserInterface::Answer::No:
         return SaveAnswer::No;
@@ -272,91 +272,91 @@ SaveAnswer Editor::AskToSave() {
     }
 }
 
-bool Editor::Close() {
+bool Editor::close() {
     const SaveAnswer answer = AskToSave();
     return answer == SaveAnswer::No || m_model.Saved;
 }
 
-void Editor::AddButton() {
-    if (AppendDefaultButton() == StartupResult::Quit)
-        m_view.QuitProgram();
+void Editor::addButton() {
+    if (appendDefaultButton() == StartupResult::Quit)
+        m_view.quitProgram();
 }
 
-StartupResult Editor::AppendDefaultButton() {
+StartupResult Editor::appendDefaultButton() {
     if (m_model.ButtonCount >= kMaxButtons) {
-        const MessageTable& msg = Messages();
+        const MessageTable& msg = messages();
         m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return StartupResult::Ready;
     }
-    if (m_model.AddButton(m_settings.DefaultButton()) == ProjectModel::AddResult::CorruptDefault) {
-        RepairDefaultButton();
+    if (m_model.addButton(m_settings.defaultButton()) == ProjectModel::AddResult::CorruptDefault) {
+        repairDefaultButton();
         return StartupResult::Quit;
     }
     m_list.append();
     m_list.selectOnly(m_model.CurrentButton);
     m_design.LoadButton(m_model.CurrentButton);
-    m_view.ShowButtonList();
+    m_view.showButtonList();
     ShowProp(m_model.CurrentButton);
     return StartupResult::Ready;
 }
 
-void Editor::RepairDefaultButton() {
-    m_ui.showWarning(Messages()[Msg::SettingsCorrupted]);
-    m_settings.SetDefaultButton(kFactoryDefaultButton);
-    m_ui.showMessage(Messages()[Msg::SettingsRestored]);
+void Editor::repairDefaultButton() {
+    m_ui.showWarning(messages()[Msg::SettingsCorrupted]);
+    m_settings.setDefaultButton(kFactoryDefaultButton);
+    m_ui.showMessage(messages()[Msg::SettingsRestored]);
 }
 
-void Editor::DuplicateButton() {
+void Editor::duplicateButton() {
     const int source = m_model.CurrentButton;
     if (m_model.ButtonCount < 1 || source < 1 || source > m_model.ButtonCount)
         return;
-    if (m_model.DuplicateButton(source) == ProjectModel::AddResult::LimitReached) {
-        const MessageTable& msg = Messages();
+    if (m_model.duplicateButton(source) == ProjectModel::AddResult::LimitReached) {
+        const MessageTable& msg = messages();
         m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return;
     }
     // The copy stands 10 pixels right of and below the original, so that it is seen.
-    ButtonRecord& copy = m_model.Button(m_model.CurrentButton);
+    ButtonRecord& copy = m_model.button(m_model.CurrentButton);
     copy.x = static_cast<std::int16_t>(std::min(copy.x + kDuplicateOffset, 32767));
     copy.y = static_cast<std::int16_t>(std::min(copy.y + kDuplicateOffset, 32767));
     m_list.append();
     m_list.selectOnly(m_model.CurrentButton);
     m_design.LoadButton(m_model.CurrentButton);
-    m_view.ShowButtonList();
+    m_view.showButtonList();
     ShowProp(m_model.CurrentButton);
 }
 
-void Editor::RemoveButton() {
+void Editor::removeButton() {
     const int current = m_model.CurrentButton;
     if (current < 1 || current > m_model.ButtonCount)
         return;
     const int oldCount = m_model.ButtonCount;
-    m_model.RemoveButton(current);
-    m_design.HideLastButton(oldCount);
+    m_model.removeButton(current);
+    m_design.hideLastButton(oldCount);
     m_list.removeLast();
     m_model.CurrentButton = 1;
     if (m_model.ButtonCount > 0) {
         m_list.selectOnly(1);
-        m_view.ShowButtonList();
+        m_view.showButtonList();
         ShowProp(1);
     } else {
-        m_view.ShowButtonList();
-        m_design.HideMarks();
+        m_view.showButtonList();
+        m_design.hideMarks();
     }
-    m_design.RedrawAll();
+    m_design.redrawAll();
 }
 
-std::string Editor::CopyButtons() const {
+std::string Editor::copyButtons() const {
     const std::vector<int> selected = m_list.selectedButtons();
-    return selected.empty() ? std::string() : ButtonsClipboardText(m_model, selected);
+    return selected.empty() ? std::string() : buttonsClipboardText(m_model, selected);
 }
 
-std::string Editor::CutButtons() {
-    std::string text = CopyButtons();
+std::string Editor::cutButtons() {
+    std::string text = copyButtons();
     const std::vector<int> selected = m_list.selectedButtons();
     for (auto it = selected.rbegin(); it != selected.rend(); ++it) {
-        m_model.RemoveButton(*it);
-        m_design.HideLastButton(m_list.count());
+        m_model.removeButton(*it);
+        m_design.hideLastButton(m_list.count());
         m_list.removeLast();
     }
     if (selected.empty())
@@ -364,21 +364,21 @@ std::string Editor::CutButtons() {
     m_model.CurrentButton = m_model.ButtonCount > 0 ? 1 : 0;
     if (m_model.ButtonCount > 0)
         m_list.selectOnly(1);
-    m_view.ShowButtonList();
+    m_view.showButtonList();
     if (m_model.ButtonCount > 0)
         ShowProp(1);
     else
-        m_design.HideMarks();
-    m_design.RedrawAll();
+        m_design.hideMarks();
+    m_design.redrawAll();
     return text;
 }
 
-void Editor::PasteButtons(std::string_view text) {
-    const std::optional<std::vector<ButtonRecord>> buttons = ButtonsFromClipboardText(text);
+void Editor::pasteButtons(std::string_view text) {
+    const std::optional<std::vector<ButtonRecord>> buttons = buttonsFromClipboardText(text);
     if (!buttons || buttons->empty())
         return;
     if (m_model.ButtonCount + static_cast<int>(buttons->size()) > kMaxButtons) {
-        const MessageTable& msg = Messages();
+        const MessageTable& msg = messages();
         m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return;
     }
@@ -388,7 +388,7 @@ void Editor::PasteButtons(std::string_view text) {
         record.x = static_cast<std::int16_t>(std::min(record.x + kDuplicateOffset, 32767));
         record.y = static_cast<std::int16_t>(std::min(record.y + kDuplicateOffset, 32767));
         ++m_model.ButtonCount;
-        m_model.Button(m_model.ButtonCount) = std::move(record);
+        m_model.button(m_model.ButtonCount) = std::move(record);
         m_list.append();
         m_design.LoadButton(m_model.ButtonCount);
     }
@@ -397,97 +397,97 @@ void Editor::PasteButtons(std::string_view text) {
     m_list.selectOnly(first);
     for (int i = first + 1; i <= m_model.ButtonCount; ++i)
         m_list.addSelection(i);
-    m_view.ShowButtonList();
+    m_view.showButtonList();
     ShowProp(m_model.CurrentButton);
-    m_design.RedrawAll();
+    m_design.redrawAll();
 }
 
-void Editor::ClickList(int index) {
+void Editor::clickList(int index) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
     m_model.CurrentButton = static_cast<std::int16_t>(index);
     ShowProp(index);
-    m_design.RedrawAll();
+    m_design.redrawAll();
 }
 
-void Editor::SetListSelection(const std::vector<int>& selected) {
+void Editor::setListSelection(const std::vector<int>& selected) {
     for (int i = 1; i <= m_list.count(); ++i)
         m_list.setSelected(i, std::find(selected.begin(), selected.end(), i) != selected.end());
     // The panel says whether the current button is still among the edited ones.
     ShowProp(m_model.CurrentButton);
-    m_design.RedrawAll();
+    m_design.redrawAll();
 }
 
-void Editor::SwitchState(std::string_view state) {
+void Editor::switchState(std::string_view state) {
     ButtonState parsed = ButtonState::UP;
-    if (!StateFromName(state, parsed))
+    if (!stateFromName(state, parsed))
         return;
     m_model.CurrentState = parsed;
-    ShowCurrentState();
+    showCurrentState();
     ShowProp(m_model.CurrentButton);
-    m_design.RedrawAll();
+    m_design.redrawAll();
 }
 
-void Editor::ShowCurrentState() {
+void Editor::showCurrentState() {
     const ButtonState state = m_model.CurrentState;
-    m_view.ShowState(state);
-    m_view.SetActionTitle(ActionTitle(state));
+    m_view.showState(state);
+    m_view.setActionTitle(actionTitle(state));
 }
 
-std::string Editor::ActionProgramKind() const {
-    return std::string("Program") + StateName(m_model.CurrentState);
+std::string Editor::actionProgramKind() const {
+    return std::string("Program") + stateName(m_model.CurrentState);
 }
 
-void Editor::MakeDefault() {
+void Editor::makeDefault() {
     const int current = m_model.CurrentButton;
     if (current < 1 || current > m_model.ButtonCount) {
-        m_ui.showWarning(Messages()[Msg::NothingSelected]);
+        m_ui.showWarning(messages()[Msg::NothingSelected]);
         return;
     }
-    m_settings.SetDefaultButton(SerializeButton(m_model.Button(current)));
-    m_ui.showMessage(Messages()[Msg::DefaultButtonStored]);
+    m_settings.setDefaultButton(serializeButton(m_model.button(current)));
+    m_ui.showMessage(messages()[Msg::DefaultButtonStored]);
 }
 
-void Editor::SoundConverter() {
-    const std::string folder = ProgramFolder();
-    if (!m_shell.StartProgram(JoinPath(folder, "SoundConv"), {}))
-        m_ui.showWarning(folder + Messages()[Msg::SoundConvNotFound]);
+void Editor::soundConverter() {
+    const std::string folder = programFolder();
+    if (!m_shell.startProgram(joinPath(folder, "SoundConv"), {}))
+        m_ui.showWarning(folder + messages()[Msg::SoundConvNotFound]);
 }
 
-void Editor::Help() {
-    const std::string page = JoinPath(ProgramFolder(), "help/help.htm");
+void Editor::help() {
+    const std::string page = joinPath(programFolder(), "help/help.htm");
     // A missing page and a page no program opens need different remedies.
     std::error_code ec;
     if (!std::filesystem::is_regular_file(page, ec))
-        m_ui.showWarning(page + Messages()[Msg::LanguageFileNotFound]);
-    else if (!m_shell.OpenDocument(page))
-        m_ui.showWarning(page + Messages()[Msg::HelpNotFound]);
+        m_ui.showWarning(page + messages()[Msg::LanguageFileNotFound]);
+    else if (!m_shell.openDocument(page))
+        m_ui.showWarning(page + messages()[Msg::HelpNotFound]);
 }
 
-void Editor::ToggleKeepOnTop() {
-    const bool onTop = !KeepOnTop();
+void Editor::toggleKeepOnTop() {
+    const bool onTop = !keepOnTop();
     m_settings.setFlag(SettingKey::frmDesignOnTop, onTop);
-    m_view.SetOnTopChecked(onTop);
-    m_design.SetOnTop(onTop);
+    m_view.setOnTopChecked(onTop);
+    m_design.setOnTop(onTop);
 }
 
-bool Editor::KeepOnTop() const {
+bool Editor::keepOnTop() const {
     return m_settings.flag(SettingKey::frmDesignOnTop);
 }
 
-void Editor::ApplyKeepOnTop() {
-    if (KeepOnTop())
-        m_design.SetOnTop(true);
+void Editor::applyKeepOnTop() {
+    if (keepOnTop())
+        m_design.setOnTop(true);
 }
 
-void Editor::SetLanguage(const std::string& language) {
+void Editor::setLanguage(const std::string& language) {
     m_settings.setValue(SettingKey::LanguageCurrent, language);
-    m_view.SetLanguageChecked(language);
+    m_view.setLanguageChecked(language);
     if (language == "English")
-        m_ui.showMessage(Messages()[Msg::LanguageNextStart]);
+        m_ui.showMessage(messages()[Msg::LanguageNextStart]);
 }
 
-void Editor::SetAutoTile(bool on) {
+void Editor::setAutoTile(bool on) {
     m_settings.setFlag(SettingKey::AutoTile, on);
 }
 
@@ -499,26 +499,26 @@ void Editor::SetMainParams() {
     m_properties.SetMainParams();
 }
 
-void Editor::ShowRestored(const DocumentChange& change) {
+void Editor::showRestored(const DocumentChange& change) {
     if (change.countChanged) {
-        m_design.ClearButtons();
+        m_design.clearButtons();
         for (int i = 1; i <= m_model.ButtonCount; ++i)
             m_design.LoadButton(i);
     }
     // The background shows through transparent buttons, also where buttons came or went.
     if (change.applet || change.countChanged) {
-        m_design.AppletChanged();
+        m_design.appletChanged();
         SetMainParams();
     }
     const int current = m_model.CurrentButton;
     if (change.countChanged || change.selection) {
-        m_view.ShowButtonList();
+        m_view.showButtonList();
         // Markers of the selection change on buttons that did not change themselves.
-        m_design.RedrawAll();
+        m_design.redrawAll();
     } else {
         for (int index : change.buttons) {
             if (std::binary_search(change.moved.begin(), change.moved.end(), index))
-                m_design.MoveButton(index);
+                m_design.moveButton(index);
             else
                 m_design.RedrawButton(index, false, false, false);
         }
@@ -527,37 +527,37 @@ void Editor::ShowRestored(const DocumentChange& change) {
         ShowProp(current);
         m_design.RedrawButton(current, true, true, false);
     } else {
-        m_design.HideMarks();
+        m_design.hideMarks();
     }
 }
 
-bool Editor::LoadFile(const std::string& path) {
-    ClearProject();
-    const bool loaded = ShowLoadResult(LoadProject(m_model, path, &m_ui), m_ui);
-    ShowLoadedProject();
+bool Editor::loadFile(const std::string& path) {
+    clearProject();
+    const bool loaded = showLoadResult(LoadProject(m_model, path, &m_ui), m_ui);
+    showLoadedProject();
     // A file read only in part has no name in the editor (saving it must not overwrite
     // the rest of it), so neither has the title.
-    m_view.SetCaption(loaded ? MainTitle() + " " + path : MainTitle());
+    m_view.setCaption(loaded ? mainTitle() + " " + path : mainTitle());
     if (loaded)
         m_recent.WriteRecent(path);
-    m_view.ProjectReplaced();
+    m_view.projectReplaced();
     return loaded;
 }
 
-void Editor::ClearProject() {
+void Editor::clearProject() {
     m_model.ButtonCount = 0;
     m_model.CurrentButton = 0;
     m_model.ProjectFileName.clear();
     m_list.clear();
-    m_design.ClearButtons();
-    m_design.HideMarks();
+    m_design.clearButtons();
+    m_design.hideMarks();
 }
 
-void Editor::ShowLoadedProject() {
+void Editor::showLoadedProject() {
     // The readers fill the model only; the list, the surface and the panel follow here,
     // for a partly read file as well (the buttons read so far stay). The surface takes
     // the applet's size, background and project folder before its buttons come.
-    m_design.AppletChanged();
+    m_design.appletChanged();
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         m_list.append();
         m_design.LoadButton(i);
@@ -569,9 +569,9 @@ void Editor::ShowLoadedProject() {
     } else {
         m_model.CurrentButton = 0;
     }
-    m_view.ShowButtonList();
+    m_view.showButtonList();
     ShowProp(m_model.CurrentButton);
-    m_design.RedrawAll();
+    m_design.redrawAll();
 }
 
 } // namespace orvelin

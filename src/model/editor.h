@@ -21,7 +21,7 @@ namespace orvelin {
 
 /// The answer of AskToSave; AskToSaveText gives "SAVED", "YES", "NO", "CANCEL".
 enum class SaveAnswer { Saved, Yes, No, Cancel };
-const char* AskToSaveText(SaveAnswer answer);
+const char* askToSaveText(SaveAnswer answer);
 
 /// What the caller does after Startup or a command that may end the program.
 enum class StartupResult { Ready, Quit };
@@ -39,20 +39,20 @@ inline constexpr const char* kProposedProjectName = "untitled.orv";
  * (no "." after its first character) and the chosen filter is the project one, which is
  * what the open dialog shows by default; otherwise `chosen` as it is.
  */
-std::string ProjectSavePath(std::string_view chosen, std::string_view chosenFilter);
+std::string projectSavePath(std::string_view chosen, std::string_view chosenFilter);
 
 /**
  * What the user is told after a project was read, in this order: the earlier-version
  * note, "Error loading project." with the cause, the characters removed. Returns
  * result.loaded().
  */
-bool ShowLoadResult(const LoadResult& result, UserInterface& ui);
+bool showLoadResult(const LoadResult& result, UserInterface& ui);
 
 /**
  * The main editor's commands as operations on the project: they change the model,
  * the button list's selection and the settings, ask the user through UserInterface,
  * and tell the design surface and the main window what to show. The windows only bind
- * their controls to it. The property controls are bound to Properties().
+ * their controls to it. The property controls are bound to properties().
  */
 class Editor {
 public:
@@ -67,59 +67,59 @@ public:
      * program (Startup does not call EditorView::QuitProgram, there is no event loop yet;
      * a later AddButton that meets a damaged setting does).
      */
-    StartupResult Startup(std::string_view commandLine);
+    StartupResult startup(std::string_view commandLine);
     /// Whether the file-association prompt may be shown (DontAskToAssociate is not "1").
-    bool MayAskToAssociate() const;
+    bool mayAskToAssociate() const;
 
     // File menu.
-    void New();
-    void Open();
-    void OpenRecent(int slot);
+    void newProject();
+    void open();
+    void openRecent(int slot);
     /// Save to ProjectFileName, or save-as when there is none. True when written.
-    bool Save();
-    bool SaveAs();
+    bool save();
+    bool saveAs();
     /// Reads a project of the legacy INI format; the result has no file name yet.
-    void ImportLegacy();
+    void importLegacy();
     /// Yes/No/Cancel on an unsaved project; "Yes" saves.
     SaveAnswer AskToSave();
     /// The close path: true when the program may end.
-    bool Close();
+    bool close();
 
     // Buttons.
-    void AddButton();
-    void DuplicateButton();
-    void RemoveButton();
+    void addButton();
+    void duplicateButton();
+    void removeButton();
     /// The selected buttons as clipboard text (ButtonsClipboardText); "" when none is.
-    std::string CopyButtons() const;
+    std::string copyButtons() const;
     /// CopyButtons, then the selected buttons are removed; "" when none is selected.
-    std::string CutButtons();
+    std::string cutButtons();
     /**
      * Adds the buttons of clipboard text at the end, 10 pixels right of and below where
      * they were copied from, and selects them. Text that is not Orvelin buttons is
      * ignored; buttons beyond the 101-button limit refuse the whole paste with its
      * message.
      */
-    void PasteButtons(std::string_view text);
+    void pasteButtons(std::string_view text);
     /// A click on the list entry of button `index` (1-based): it becomes current. The
     /// selection itself is the list's: report it first with SetListSelection.
-    void ClickList(int index);
+    void clickList(int index);
     /// The list widget's selection changed: `selected` holds button numbers.
-    void SetListSelection(const std::vector<int>& selected);
+    void setListSelection(const std::vector<int>& selected);
     /// "UP", "OVER" or "DOWN"; anything else is ignored.
-    void SwitchState(std::string_view state);
+    void switchState(std::string_view state);
     /// "ProgramUP", "ProgramOVER" or "ProgramDOWN" for CurrentState: what the action
     /// command edits.
-    std::string ActionProgramKind() const;
+    std::string actionProgramKind() const;
 
     // Options and tools.
-    void MakeDefault();
-    void SoundConverter();
-    void Help();
-    void ToggleKeepOnTop();
-    bool KeepOnTop() const;
+    void makeDefault();
+    void soundConverter();
+    void help();
+    void toggleKeepOnTop();
+    bool keepOnTop() const;
     /// "English", "rus" or "heb".
-    void SetLanguage(const std::string& language);
-    void SetAutoTile(bool on);
+    void setLanguage(const std::string& language);
+    void setAutoTile(bool on);
 
     /// Fills the property panel from button `index` with Updating set (no-op for 0).
     void ShowProp(int index);
@@ -127,22 +127,22 @@ public:
     void SetMainParams();
     /// The document was put back as it stood at another moment (undo, redo): the
     /// surface, the list, the applet controls and the panel show it again.
-    void ShowRestored(const DocumentChange& change);
+    void showRestored(const DocumentChange& change);
 
-    PropertyEditor& Properties() { return m_properties; }
-    RecentFiles& Recent() { return m_recent; }
+    PropertyEditor& properties() { return m_properties; }
+    RecentFiles& recent() { return m_recent; }
 
 private:
     // Empties model, list and surface for a project about to be read.
-    void ClearProject();
+    void clearProject();
     // After a reader ran: list entries, surface, applet controls, first button.
-    void ShowLoadedProject();
-    bool LoadFile(const std::string& path);
-    void ApplyKeepOnTop();
+    void showLoadedProject();
+    bool loadFile(const std::string& path);
+    void applyKeepOnTop();
     // AddButton without the view refresh; Quit when the default string is damaged.
-    StartupResult AppendDefaultButton();
-    void RepairDefaultButton();
-    void ShowCurrentState();
+    StartupResult appendDefaultButton();
+    void repairDefaultButton();
+    void showCurrentState();
 
     ProjectModel& m_model;
     ButtonList& m_list;
@@ -156,18 +156,18 @@ private:
 };
 
 /// The first line of buttons on the clipboard, "Orvelin Buttons 1.0  Beta 6".
-std::string ButtonsClipboardHeader();
+std::string buttonsClipboardHeader();
 /// The header line, then one serialised button per line, each line ending in CR LF.
-std::string ButtonsClipboardText(const ProjectModel& model, const std::vector<int>& buttons);
+std::string buttonsClipboardText(const ProjectModel& model, const std::vector<int>& buttons);
 /// The buttons of clipboard text; nothing when it is not Orvelin buttons.
-std::optional<std::vector<ButtonRecord>> ButtonsFromClipboardText(std::string_view text);
+std::optional<std::vector<ButtonRecord>> buttonsFromClipboardText(std::string_view text);
 
 /// The main window's title, "Orvelin 1.0  Beta 6".
-std::string MainTitle();
+std::string mainTitle();
 /// The action command's title for `state`.
-std::string ActionTitle(ButtonState state);
+std::string actionTitle(ButtonState state);
 /// The command line's project path: trimmed, a leading quote drops the first and last
 /// character.
-std::string ProjectPathFromCommandLine(std::string_view commandLine);
+std::string projectPathFromCommandLine(std::string_view commandLine);
 
 } // namespace orvelin

@@ -28,30 +28,30 @@ public:
     /// Fills the applet-level controls from the model.
     virtual void SetMainParams() = 0;
     /// Rebuilds `lstButtons` from the ButtonList: one entry per button, its selection.
-    virtual void ShowButtonList() = 0;
+    virtual void showButtonList() = 0;
     /// The main window's caption.
-    virtual void SetCaption(const std::string& caption) = 0;
+    virtual void setCaption(const std::string& caption) = 0;
     /// Recent-files menu entry `slot` (1..4): caption and visibility.
-    virtual void SetRecentEntry(int slot, const std::string& caption, bool visible) = 0;
+    virtual void setRecentEntry(int slot, const std::string& caption, bool visible) = 0;
     /// The action command's title ("Set Action: On Leaving Button...").
-    virtual void SetActionTitle(const std::string& title) = 0;
+    virtual void setActionTitle(const std::string& title) = 0;
     /// Checks the UP, OVER or DOWN toggle.
-    virtual void ShowState(ButtonState state) = 0;
+    virtual void showState(ButtonState state) = 0;
     /// The keep-design-on-top menu entry's check mark.
-    virtual void SetOnTopChecked(bool checked) = 0;
+    virtual void setOnTopChecked(bool checked) = 0;
     /// The language menu's check mark ("English", "rus", "heb").
-    virtual void SetLanguageChecked(const std::string& language) = 0;
+    virtual void setLanguageChecked(const std::string& language) = 0;
     /// The automatic tiling check box.
-    virtual void SetAutoTileChecked(bool checked) = 0;
+    virtual void setAutoTileChecked(bool checked) = 0;
     /// Closes the multi-line label editor when it is open.
-    virtual void CloseLabelEditor() = 0;
+    virtual void closeLabelEditor() = 0;
     /// Ends the program at once (after the default-button repair).
-    virtual void QuitProgram() = 0;
+    virtual void quitProgram() = 0;
     /// The pixel size of an image file, or nothing when it cannot be read.
-    virtual std::optional<ImageSize> ImageSizeOf(const std::string& path) = 0;
+    virtual std::optional<ImageSize> imageSizeOf(const std::string& path) = 0;
     /// A new, opened or imported project took the place of the old one (whose edits
     /// can no longer be undone).
-    virtual void ProjectReplaced() {}
+    virtual void projectReplaced() {}
 };
 
 } // namespace orvelin

@@ -11,16 +11,16 @@ namespace orvelin {
 GlobalIni::GlobalIni(std::string programFolder, std::string writableFolder)
     : m_programFolder(std::move(programFolder)), m_writableFolder(std::move(writableFolder)) {}
 
-GlobalIni GlobalIni::ForProgram() {
-    return GlobalIni(ProgramFolder(), WritableProgramFolder());
+GlobalIni GlobalIni::forProgram() {
+    return GlobalIni(programFolder(), writableProgramFolder());
 }
 
 std::string GlobalIni::readPath() const {
-    return JoinPath(m_programFolder, kProgramIniName);
+    return joinPath(m_programFolder, kProgramIniName);
 }
 
 std::string GlobalIni::writePath() const {
-    return JoinPath(m_writableFolder, kProgramIniName);
+    return joinPath(m_writableFolder, kProgramIniName);
 }
 
 std::string GlobalIni::value(std::string_view key, std::string_view defaultValue) const {
@@ -36,11 +36,11 @@ bool GlobalIni::setValue(std::string_view key, std::string_view value, TextFileE
     return PrivateProfile::writeValue(writePath(), kGlobalSection, key, value, error);
 }
 
-bool GlobalIni::NoBackGround() const {
+bool GlobalIni::noBackGround() const {
     return MakeCInt(value(kNoBackGroundKey, "0")) != 0;
 }
 
-bool GlobalIni::SetNoBackGround(bool on, TextFileError* error) {
+bool GlobalIni::setNoBackGround(bool on, TextFileError* error) {
     return setValue(kNoBackGroundKey, on ? "1" : "0", error);
 }
 

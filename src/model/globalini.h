@@ -18,16 +18,16 @@ class GlobalIni {
 public:
     GlobalIni(std::string programFolder, std::string writableFolder);
 
-    /// ProgramFolder() and WritableProgramFolder().
-    static GlobalIni ForProgram();
+    /// programFolder() and writableProgramFolder().
+    static GlobalIni forProgram();
 
     std::string value(std::string_view key, std::string_view defaultValue) const;
     /// Replaces the file safely; false (and `error`) when it could not be written.
     bool setValue(std::string_view key, std::string_view value, TextFileError* error = nullptr);
 
     /// chkNoBackGround: any non-zero number counts as checked; missing is unchecked.
-    bool NoBackGround() const;
-    bool SetNoBackGround(bool on, TextFileError* error = nullptr);
+    bool noBackGround() const;
+    bool setNoBackGround(bool on, TextFileError* error = nullptr);
 
     std::string readPath() const;
     std::string writePath() const;

@@ -149,7 +149,7 @@ MessageTable::MessageTable() {
         m_texts[i] = englishDefault(static_cast<Msg>(i));
 }
 
-MessageTable& Messages() {
+MessageTable& messages() {
     static MessageTable table;
     return table;
 }

@@ -106,7 +106,7 @@ private:
 };
 
 /// The program's one message table.
-MessageTable& Messages();
+MessageTable& messages();
 
 /// Carriage return and line feed, the line break of every text the program writes.
 inline constexpr std::string_view kCrLf = "\r\n";

@@ -23,9 +23,9 @@ std::string_view trimBlanks(std::string_view s) {
 }
 
 std::string lookupKey(std::string_view section, std::string_view key) {
-    std::string k = ToLowerAscii(trimBlanks(section));
+    std::string k = toLowerAscii(trimBlanks(section));
     k += '\0';
-    k += ToLowerAscii(trimBlanks(key));
+    k += toLowerAscii(trimBlanks(key));
     return k;
 }
 
@@ -73,7 +73,7 @@ template <typename Visit> void forEachLine(std::string_view text, Visit visit) {
 }
 
 bool sameName(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && ToLowerAscii(a) == ToLowerAscii(b);
+    return a.size() == b.size() && toLowerAscii(a) == toLowerAscii(b);
 }
 
 } // namespace
@@ -113,7 +113,7 @@ PrivateProfile PrivateProfile::fromText(std::string_view text, std::string_view 
 }
 
 PrivateProfile PrivateProfile::fromFile(const std::string& path, TextFileError* error) {
-    const std::optional<std::string> text = ReadTextFile(path, error);
+    const std::optional<std::string> text = readTextFile(path, error);
     return text ? fromText(*text) : PrivateProfile{};
 }
 
@@ -206,7 +206,7 @@ bool PrivateProfile::writeValue(const std::string& path, std::string_view sectio
             return false;
         }
     }
-    return WriteFileAtomically(path, withValue(bytes, section, key, value), error);
+    return writeFileAtomically(path, withValue(bytes, section, key, value), error);
 }
 
 } // namespace orvelin

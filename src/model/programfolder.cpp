@@ -49,7 +49,7 @@ bool isWritableFolder(const std::string& folder) {
 
 } // namespace
 
-std::string ProgramFolder() {
+std::string programFolder() {
     if (!overrideFolder().empty())
         return overrideFolder();
     if (std::string fromEnvironment = environmentText("ORVELIN_PROGRAM_DIR");
@@ -68,22 +68,22 @@ std::string ProgramFolder() {
     return (exeFolder.parent_path() / "share" / "orvelin").string();
 }
 
-std::string ExecutablePath() {
+std::string executablePath() {
     std::error_code ec;
     return fs::read_symlink("/proc/self/exe", ec).string();
 }
 
-bool RunFromBuildFolder() {
+bool runFromBuildFolder() {
     std::error_code ec;
     const fs::path exeFolder = executableFolder();
     return !exeFolder.empty() && fs::is_regular_file(exeFolder / "Orvel.ini", ec);
 }
 
-void SetProgramFolderOverride(const std::string& folder) {
+void setProgramFolderOverride(const std::string& folder) {
     overrideFolder() = folder;
 }
 
-std::string JoinPath(std::string_view folder, std::string_view name) {
+std::string joinPath(std::string_view folder, std::string_view name) {
     // Names written for Windows ("\AppletTemp", "help\help.htm") name the same
     // places here, so a leading separator is dropped and "\" inside counts as "/".
     while (!name.empty() && isSeparator(name.front()))
@@ -96,14 +96,14 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
     return joined;
 }
 
-std::string FolderOf(std::string_view path) {
+std::string folderOf(std::string_view path) {
     const std::size_t last = path.find_last_of("/\\");
     if (last == std::string_view::npos)
         return {};
     return std::string(path.substr(0, last + 1));
 }
 
-std::string ProjectFolderOf(std::string_view projectFileName) {
+std::string projectFolderOf(std::string_view projectFileName) {
     if (projectFileName.empty())
         return {};
     std::error_code ec;
@@ -111,7 +111,7 @@ std::string ProjectFolderOf(std::string_view projectFileName) {
     return ec ? std::string() : file.parent_path().lexically_normal().string();
 }
 
-std::string ResolveStoredPath(std::string_view stored, std::string_view projectFolder) {
+std::string resolveStoredPath(std::string_view stored, std::string_view projectFolder) {
     if (stored.empty())
         return {};
     const fs::path path = withSlashes(stored);
@@ -127,17 +127,17 @@ std::string ResolveStoredPath(std::string_view stored, std::string_view projectF
     return !ec && fs::is_regular_file(here, ec) ? here.string() : std::string();
 }
 
-std::string WritableProgramFolder() {
-    const std::string programFolder = ProgramFolder();
-    if (isWritableFolder(programFolder))
-        return programFolder;
+std::string writableProgramFolder() {
+    const std::string installed = programFolder();
+    if (isWritableFolder(installed))
+        return installed;
 
     std::string base = environmentText("XDG_DATA_HOME");
     if (base.empty()) {
         const std::string home = environmentText("HOME");
-        base = JoinPath(home.empty() ? std::string(".") : home, ".local/share");
+        base = joinPath(home.empty() ? std::string(".") : home, ".local/share");
     }
-    const std::string folder = JoinPath(base, "Orvelin");
+    const std::string folder = joinPath(base, "Orvelin");
     // Callers write into it next, so make sure it exists; a failure shows up as the
     // caller's own write error with its message.
     std::error_code ec;

@@ -11,26 +11,26 @@ namespace orvelin {
  * command line's --program-dir), ORVELIN_PROGRAM_DIR, the executable's folder when
  * it holds Orvel.ini, <executable folder>/../share/orvelin.
  */
-std::string ProgramFolder();
+std::string programFolder();
 
 /// The running program's own path ("" when it cannot be found).
-std::string ExecutablePath();
+std::string executablePath();
 
 /// Whether the program runs from its build folder (its own folder holds Orvel.ini)
 /// rather than from an installed copy.
-bool RunFromBuildFolder();
+bool runFromBuildFolder();
 
 /// Sets the override; an empty text removes it.
-void SetProgramFolderOverride(const std::string& folder);
+void setProgramFolderOverride(const std::string& folder);
 
 /// `folder` joined with `name`; either may use "/" or "\".
-std::string JoinPath(std::string_view folder, std::string_view name);
+std::string joinPath(std::string_view folder, std::string_view name);
 
 /// Everything up to and including the last "/" or "\" of `path` ("" without one).
-std::string FolderOf(std::string_view path);
+std::string folderOf(std::string_view path);
 
 /// The absolute folder of a project file ("" for a project without a file).
-std::string ProjectFolderOf(std::string_view projectFileName);
+std::string projectFolderOf(std::string_view projectFileName);
 
 /**
  * The file that an image or sound path stored in a project names, or "" when there is
@@ -38,13 +38,13 @@ std::string ProjectFolderOf(std::string_view projectFileName);
  * as it is; a relative one is looked for in `projectFolder` first (see ProjectFolderOf),
  * then in the current folder. The design window and publishing both find files here.
  */
-std::string ResolveStoredPath(std::string_view stored, std::string_view projectFolder);
+std::string resolveStoredPath(std::string_view stored, std::string_view projectFolder);
 
 /**
  * Where the program writes its own files (AppletTemp, the Global section): the
  * program folder when it is writable, else the same place under the per-user data
  * folder (~/.local/share/Orvelin, or $XDG_DATA_HOME/Orvelin).
  */
-std::string WritableProgramFolder();
+std::string writableProgramFolder();
 
 } // namespace orvelin

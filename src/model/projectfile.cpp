@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 5> kEarlierHeaders = {
 
 std::optional<LoadError> assignAppletField(ProjectModel& model, const AppletField& f,
                                            std::string_view text) {
-    if (FieldError e = SetFieldText(model, f, 0, text))
+    if (FieldError e = setFieldText(model, f, 0, text))
         return LoadError{0, e.description};
     return std::nullopt;
 }
@@ -41,7 +41,7 @@ std::optional<LoadError> parseAppletLine(std::string_view line, ProjectModel& mo
         start = bar + 1;
         if (pos < kAppletFieldCount - 1) {
             if (auto error =
-                    assignAppletField(model, AppletFields()[static_cast<std::size_t>(pos)], field))
+                    assignAppletField(model, appletFields()[static_cast<std::size_t>(pos)], field))
                 return error;
         } else if (pos == kAppletNameField) {
             model.AppletName.assign(field);
@@ -62,7 +62,7 @@ void appendNumber(std::string& out, std::int32_t value) {
 void showButtonProgress(ProgressView* progress, std::string& text, Msg what, int i, int n) {
     if (!progress)
         return;
-    const MessageTable& msg = Messages();
+    const MessageTable& msg = messages();
     text.assign(msg[what]);
     appendNumber(text, i);
     text += msg[Msg::OfWord];
@@ -84,7 +84,7 @@ std::optional<LoadError> checkButtonCount(int count) {
 std::optional<LoadError> readProject(ProjectModel& model, const std::string& path,
                                      ProgressView* progress, LoadResult& result) {
     TextFileError fileError;
-    const std::optional<std::string> text = ReadTextFile(path, &fileError);
+    const std::optional<std::string> text = readTextFile(path, &fileError);
     if (!text)
         return LoadError{0, fileError.description};
     model.LoadedFrom = path;
@@ -92,7 +92,7 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
     // The header, the applet line and the most buttons a file can hold: the lines after
     // them are not the project's, and however many there are they cost nothing.
     const std::vector<std::string_view> lines =
-        SplitLines(*text, &lastTerminated, static_cast<std::size_t>(kLastButtonSlot) + 2);
+        splitLines(*text, &lastTerminated, static_cast<std::size_t>(kLastButtonSlot) + 2);
     // The file is read as a stream: a last line that the file cuts off before its
     // line break counts only when all its separators are there.
     const auto complete = [&](std::size_t index, std::size_t separators) {
@@ -122,7 +122,7 @@ std::optional<LoadError> readProject(ProjectModel& model, const std::string& pat
         if (index >= lines.size() || !complete(index, kButtonFieldCount))
             return inputPastEnd(i);
         showButtonProgress(progress, progressText, Msg::LoadingButton, i, count);
-        if (FieldError e = ParseButton(lines[index], model.Button(i)))
+        if (FieldError e = parseButton(lines[index], model.button(i)))
             return LoadError{i, e.description};
     }
     return std::nullopt; // lines after the last button are not the project's
@@ -159,7 +159,7 @@ const std::vector<std::string>& legacyKeys() {
         std::vector<std::string> all(kLegacyAppletKeys.begin(), kLegacyAppletKeys.end());
         for (int i = 1; i <= kLastButtonSlot; ++i)
             for (const LegacyKey& key : kLegacyButtonKeys)
-                all.push_back(std::string(ButtonFields()[static_cast<std::size_t>(key.pos)].name) +
+                all.push_back(std::string(buttonFields()[static_cast<std::size_t>(key.pos)].name) +
                               "_" + std::to_string(i));
         return all;
     }();
@@ -169,7 +169,7 @@ const std::vector<std::string>& legacyKeys() {
 std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::string& path,
                                            ProgressView* progress) {
     TextFileError fileError;
-    const std::optional<std::string> text = ReadTextFile(path, &fileError);
+    const std::optional<std::string> text = readTextFile(path, &fileError);
     if (!text)
         return LoadError{0, fileError.description};
     model.LoadedFrom = path;
@@ -182,7 +182,7 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
         {"ButtonCount", "0"},   {"BackGround", "0"},     {"Behaviour", "0"}, {"DOWNBtn", "0"},
         {"AppletWidth", "510"}, {"AppletHeight", "170"}, {"BackImg", ""},    {"BackImgStyle", "0"}};
     for (const auto& [key, fallback] : appletKeys)
-        if (auto error = assignAppletField(model, *AppletFieldNamed(key),
+        if (auto error = assignAppletField(model, *appletFieldNamed(key),
                                            profile.value(section, key, fallback)))
             return error;
     if (auto error = checkButtonCount(model.ButtonCount))
@@ -192,13 +192,13 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
     std::string progressText;
     for (int i = 1; i <= count; ++i) {
         showButtonProgress(progress, progressText, Msg::LoadingButton, i, count);
-        ButtonRecord& record = model.Button(i);
+        ButtonRecord& record = model.button(i);
         const std::string suffix = "_" + std::to_string(i);
         for (const LegacyKey& key : kLegacyButtonKeys) {
-            const std::string name = ButtonFields()[static_cast<std::size_t>(key.pos)].name;
+            const std::string name = buttonFields()[static_cast<std::size_t>(key.pos)].name;
             const std::string value = profile.value(section, name + suffix, key.fallback);
             // Labels are taken as stored: the old format never encoded them.
-            if (FieldError e = SetFieldText(record, key.pos, value))
+            if (FieldError e = setFieldText(record, key.pos, value))
                 return LoadError{i, e.description};
         }
     }
@@ -213,18 +213,18 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
  */
 std::vector<std::string> cleanLoadedFields(ProjectModel& model) {
     std::vector<std::string> lines;
-    const MessageTable& msg = Messages();
+    const MessageTable& msg = messages();
     std::string names;
-    for (const AppletField& f : AppletFields())
-        if (f.text && CleanFieldInPlace(f.kind, model.*f.text))
+    for (const AppletField& f : appletFields())
+        if (f.text && cleanFieldInPlace(f.kind, model.*f.text))
             names += (names.empty() ? "" : ", ") + std::string(f.name);
     if (!names.empty())
         lines.push_back(msg[Msg::AppletPrefix] + ": " + names);
     for (int i = 1; i <= model.ButtonCount; ++i) {
         names.clear();
-        for (const int pos : CleanTextFields(model.Button(i)))
+        for (const int pos : cleanTextFields(model.button(i)))
             names += (names.empty() ? "" : ", ") +
-                     std::string(ButtonFields()[static_cast<std::size_t>(pos)].name);
+                     std::string(buttonFields()[static_cast<std::size_t>(pos)].name);
         if (!names.empty())
             lines.push_back(msg[Msg::ButtonPrefix] + std::to_string(i) + ": " + names);
     }
@@ -249,12 +249,12 @@ LoadResult finishLoad(ProjectModel& model, const std::string& path, ProgressView
 
 void startLoad(ProjectModel& model, ProgressView* progress) {
     if (progress)
-        progress->showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::LoadingProject], -1);
+        progress->showProgress(messages()[Msg::PleaseWait], messages()[Msg::LoadingProject], -1);
     model.ButtonCount = 0;
     model.CurrentButton = 0;
     // Until the new file gives content, what is shown (the applet's background) is
     // still the old project's, and so is the folder its relative paths are read from.
-    model.LoadedFrom = model.FileForRelativePaths();
+    model.LoadedFrom = model.fileForRelativePaths();
     model.ProjectFileName.clear();
 }
 
@@ -262,52 +262,52 @@ void startLoad(ProjectModel& model, ProgressView* progress) {
 /// buttons (labels twice over, as their blanks grow when encoded) and their numbers.
 std::size_t expectedTextSize(const ProjectModel& model, int count) {
     std::size_t size = 1024;
-    for (const AppletField& f : AppletFields())
+    for (const AppletField& f : appletFields())
         size += f.text ? (model.*f.text).size() : 0;
     for (int i = 1; i <= count; ++i) {
-        const ButtonRecord& r = model.Button(i);
+        const ButtonRecord& r = model.button(i);
         size += 400 + r.URL.size() + r.Status.size() + r.Target.size();
         for (const ButtonState s : {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN})
-            size += 2 * r.Label(s).size() + r.Image(s).size() + r.Font(s).size() +
-                    r.Sound(s).size() + r.Program(s).size();
+            size += 2 * r.label(s).size() + r.image(s).size() + r.font(s).size() +
+                    r.sound(s).size() + r.Program(s).size();
     }
     return size;
 }
 
 } // namespace
 
-std::string ProjectHeader() {
+std::string projectHeader() {
     return std::string("Orvelin Project ") + kVersionText;
 }
 
-std::string ProjectText(const ProjectModel& model, ProgressView* progress) {
+std::string projectText(const ProjectModel& model, ProgressView* progress) {
     const int count = std::clamp<int>(model.ButtonCount, 0, kLastButtonSlot);
     std::string text;
     text.reserve(expectedTextSize(model, count));
-    text += ProjectHeader();
+    text += projectHeader();
     text += kCrLf;
-    for (const AppletField& f : AppletFields()) {
-        AppendFieldText(text, model, f);
+    for (const AppletField& f : appletFields()) {
+        appendFieldText(text, model, f);
         text += '|';
     }
     text += kCrLf;
     std::string progressLine;
     for (int i = 1; i <= count; ++i) {
         showButtonProgress(progress, progressLine, Msg::SavingButton, i, count);
-        AppendSerializedButton(text, model.Button(i));
+        appendSerializedButton(text, model.button(i));
         text += kCrLf;
     }
     return text;
 }
 
 bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui) {
-    ui.showProgress(Messages()[Msg::PleaseWait], Messages()[Msg::SavingButtonsToFile], -1);
-    const std::string text = ProjectText(model, &ui);
+    ui.showProgress(messages()[Msg::PleaseWait], messages()[Msg::SavingButtonsToFile], -1);
+    const std::string text = projectText(model, &ui);
     TextFileError error;
-    const bool written = WriteFileAtomically(path, text, &error);
+    const bool written = writeFileAtomically(path, text, &error);
     ui.hideProgress();
     if (!written) {
-        ui.showWarning(WithSystemCause(Messages()[Msg::ErrorSaving], error));
+        ui.showWarning(withSystemCause(messages()[Msg::ErrorSaving], error));
         return false;
     }
     model.Saved = true;

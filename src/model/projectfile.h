@@ -10,10 +10,10 @@
 namespace orvelin {
 
 /// The current project file header, "Orvelin Project 1.0  Beta 6".
-std::string ProjectHeader();
+std::string projectHeader();
 
 /// The whole text of a project file for `model` (CR LF line ends).
-std::string ProjectText(const ProjectModel& model, ProgressView* progress = nullptr);
+std::string projectText(const ProjectModel& model, ProgressView* progress = nullptr);
 
 /**
  * Writes the model to `path`, replacing the file safely, with progress per button.

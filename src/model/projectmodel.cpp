@@ -26,7 +26,7 @@ constexpr std::array<AppletField, kAppletFieldCount> kAppletFields = {{
     Field<P>("AppletProgramStart", K::Raw, &P::AppletProgramStart), // 13
     Field<P>("AppletName", K::Raw, &P::AppletName),              // 14
 }};
-static_assert(KindsMatchMembers(kAppletFields));
+static_assert(kindsMatchMembers(kAppletFields));
 
 constexpr const AppletField* at(int pos) { return &kAppletFields[static_cast<std::size_t>(pos)]; }
 
@@ -45,22 +45,22 @@ const std::array<AppletParameterField, kAppletParameterFieldCount> kAppletParame
 
 } // namespace
 
-const std::array<AppletField, kAppletFieldCount>& AppletFields() {
+const std::array<AppletField, kAppletFieldCount>& appletFields() {
     return kAppletFields;
 }
 
-const std::array<AppletParameterField, kAppletParameterFieldCount>& AppletParameterFields() {
+const std::array<AppletParameterField, kAppletParameterFieldCount>& appletParameterFields() {
     return kAppletParameterFields;
 }
 
-const AppletField* AppletFieldNamed(std::string_view name) {
+const AppletField* appletFieldNamed(std::string_view name) {
     for (const AppletField& f : kAppletFields)
         if (name == f.name)
             return &f;
     return nullptr;
 }
 
-void ProjectModel::Reset() {
+void ProjectModel::reset() {
     ButtonCount = 0;
     CurrentButton = 0;
     BackImg.clear();
@@ -73,58 +73,58 @@ void ProjectModel::Reset() {
     Saved = true;
 }
 
-ProjectModel::AddResult ProjectModel::AddButton(std::string_view defaultButton, FieldError* error) {
+ProjectModel::AddResult ProjectModel::addButton(std::string_view defaultButton, FieldError* error) {
     if (ButtonCount >= kMaxButtons)
         return AddResult::LimitReached;
-    ButtonRecord record = Button(ButtonCount + 1);
+    ButtonRecord record = button(ButtonCount + 1);
     // A fresh record first, so that fields the default string lacks are the defaults.
     const std::int16_t keepX = record.x;
     const std::int16_t keepY = record.y;
     record = ButtonRecord{};
     record.x = keepX;
     record.y = keepY;
-    if (FieldError e = ParseButton(defaultButton, record, false)) {
+    if (FieldError e = parseButton(defaultButton, record, false)) {
         if (error)
             *error = e;
         return AddResult::CorruptDefault;
     }
     ++ButtonCount;
-    Button(ButtonCount) = std::move(record);
+    button(ButtonCount) = std::move(record);
     CurrentButton = ButtonCount;
     Saved = false;
     return AddResult::Added;
 }
 
-ProjectModel::AddResult ProjectModel::DuplicateButton(int source) {
+ProjectModel::AddResult ProjectModel::duplicateButton(int source) {
     if (ButtonCount >= kMaxButtons)
         return AddResult::LimitReached;
-    ButtonRecord copy = Button(source);
+    ButtonRecord copy = button(source);
     ++ButtonCount;
-    Button(ButtonCount) = std::move(copy);
+    button(ButtonCount) = std::move(copy);
     CurrentButton = ButtonCount;
     Saved = false;
     return AddResult::Added;
 }
 
-void ProjectModel::RemoveButton(int index) {
+void ProjectModel::removeButton(int index) {
     if (index < 1 || index > ButtonCount)
         return;
     for (int i = index; i < ButtonCount; ++i)
-        Button(i) = Button(i + 1);
+        button(i) = button(i + 1);
     --ButtonCount;
     Saved = false;
 }
 
-bool IsButtonProgramKind(std::string_view kind) {
+bool isButtonProgramKind(std::string_view kind) {
     return kind == "ProgramUP" || kind == "ProgramOVER" || kind == "ProgramDOWN";
 }
 
-bool IsAppletProgramKind(std::string_view kind) {
+bool isAppletProgramKind(std::string_view kind) {
     return kind == "AppletProgramStart" || kind == "AppletProgramOVER" ||
            kind == "AppletProgramDOWN" || kind == "AppletProgramOUT";
 }
 
-std::string* ProjectModel::ProgramSlot(std::string_view kind, int button) {
+std::string* ProjectModel::programSlot(std::string_view kind, int button) {
     if (kind == "AppletProgramStart")
         return &AppletProgramStart;
     if (kind == "AppletProgramOVER")
@@ -133,9 +133,9 @@ std::string* ProjectModel::ProgramSlot(std::string_view kind, int button) {
         return &AppletProgramDOWN;
     if (kind == "AppletProgramOUT")
         return &AppletProgramOUT;
-    if (!IsButtonProgramKind(kind) || button < 1 || button >= kButtonSlots)
+    if (!isButtonProgramKind(kind) || button < 1 || button >= kButtonSlots)
         return nullptr;
-    ButtonRecord& b = Button(button);
+    ButtonRecord& b = this->button(button);
     if (kind == "ProgramUP")
         return &b.ProgramUP;
     if (kind == "ProgramOVER")

@@ -55,19 +55,19 @@ struct ProjectModel : AppletSettings {
 
     /// The file beside which relative image and sound paths are looked up: the project's
     /// file, else the one whose content is shown; "" for none.
-    const std::string& FileForRelativePaths() const {
+    const std::string& fileForRelativePaths() const {
         return ProjectFileName.empty() ? LoadedFrom : ProjectFileName;
     }
 
     /// Button `index`; an index outside 0 to 102 throws std::out_of_range.
-    ButtonRecord& Button(int index) { return Buttons.at(static_cast<std::size_t>(index)); }
-    const ButtonRecord& Button(int index) const {
+    ButtonRecord& button(int index) { return Buttons.at(static_cast<std::size_t>(index)); }
+    const ButtonRecord& button(int index) const {
         return Buttons.at(static_cast<std::size_t>(index));
     }
 
     /// The new-project reset: no buttons, no background image, no applet programs,
     /// no file name, saved. Size, colour, placement, offset, behaviour and name stay.
-    void Reset();
+    void reset();
 
     enum class AddResult { Added, LimitReached, CorruptDefault };
     /**
@@ -75,19 +75,19 @@ struct ProjectModel : AppletSettings {
      * the button keeps the position held by its table slot). Refused at 101 buttons.
      * On CorruptDefault the model is unchanged and `error` says which field failed.
      */
-    AddResult AddButton(std::string_view defaultButton, FieldError* error = nullptr);
+    AddResult addButton(std::string_view defaultButton, FieldError* error = nullptr);
 
     /// Appends a copy of button `source`; refused at 101 buttons.
-    AddResult DuplicateButton(int source);
+    AddResult duplicateButton(int source);
 
     /// Removes button `index`, moving the later ones down by one place.
-    void RemoveButton(int index);
+    void removeButton(int index);
 
     /**
      * The program slot named by a ProgramKind ("ProgramUP", ..., "AppletProgramOUT");
      * the button kinds take the slot of button `button`. Nullptr for an unknown kind.
      */
-    std::string* ProgramSlot(std::string_view kind, int button);
+    std::string* programSlot(std::string_view kind, int button);
 };
 
 using AppletField = RecordField<ProjectModel>;
@@ -98,7 +98,7 @@ inline constexpr int kAppletFieldCount = 15;
  * the name from one field further on, see LoadProject). Text fields are written as
  * they are there; the kinds say how the applet parameter writes them.
  */
-const std::array<AppletField, kAppletFieldCount>& AppletFields();
+const std::array<AppletField, kAppletFieldCount>& appletFields();
 
 /// One field of the applet parameter "p": a setting, or a fixed text where `field` is null.
 struct AppletParameterField {
@@ -107,14 +107,14 @@ struct AppletParameterField {
 };
 inline constexpr int kAppletParameterFieldCount = 17;
 /// The 17 fields of "p" in the order the applet reads them.
-const std::array<AppletParameterField, kAppletParameterFieldCount>& AppletParameterFields();
+const std::array<AppletParameterField, kAppletParameterFieldCount>& appletParameterFields();
 
 /// The applet field called `name`; nullptr for none.
-const AppletField* AppletFieldNamed(std::string_view name);
+const AppletField* appletFieldNamed(std::string_view name);
 
 /// True for "ProgramUP", "ProgramOVER" and "ProgramDOWN".
-bool IsButtonProgramKind(std::string_view kind);
+bool isButtonProgramKind(std::string_view kind);
 /// True for the four applet kinds.
-bool IsAppletProgramKind(std::string_view kind);
+bool isAppletProgramKind(std::string_view kind);
 
 } // namespace orvelin

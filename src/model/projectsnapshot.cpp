@@ -10,7 +10,7 @@ namespace {
 
 // Calls f(name, a's member, b's member) for each applet setting, to name a step.
 template <typename F>
-void EachAppletSetting(const AppletSettings& a, const AppletSettings& b, F&& f) {
+void eachAppletSetting(const AppletSettings& a, const AppletSettings& b, F&& f) {
     f("Applet Width", a.AppletWidth, b.AppletWidth);
     f("Applet Height", a.AppletHeight, b.AppletHeight);
     f("Behaviour", a.Behaviour, b.Behaviour);
@@ -28,8 +28,8 @@ void EachAppletSetting(const AppletSettings& a, const AppletSettings& b, F&& f) 
 }
 
 // The name a step gives button field `pos`: the per-state triples share one name.
-std::string FieldDisplayName(int pos) {
-    std::string_view name = ButtonFields()[static_cast<std::size_t>(pos)].name;
+std::string fieldDisplayName(int pos) {
+    std::string_view name = buttonFields()[static_cast<std::size_t>(pos)].name;
     for (std::string_view state : {"UP", "OVER", "DOWN"})
         if (name.size() > state.size() && name.ends_with(state)) {
             name.remove_suffix(state.size());
@@ -59,30 +59,30 @@ std::string FieldDisplayName(int pos) {
     return std::string(name);
 }
 
-std::string Counted(const char* verb, std::size_t n) {
+std::string counted(const char* verb, std::size_t n) {
     return n == 1 ? std::string(verb) + " Button"
                   : std::string(verb) + " " + std::to_string(n) + " Buttons";
 }
 
 } // namespace
 
-ProjectSnapshot MakeSnapshot(const ProjectModel& model, const ButtonList& list) {
+ProjectSnapshot makeSnapshot(const ProjectModel& model, const ButtonList& list) {
     ProjectSnapshot s;
     s.applet = model;
     const int count = std::clamp<int>(model.ButtonCount, 0, kMaxButtons);
     s.buttons.assign(model.Buttons.begin() + 1, model.Buttons.begin() + 1 + count);
     for (int i = 0; i < kButtonSlots; ++i)
-        s.slotPositions[static_cast<std::size_t>(i)] = {model.Button(i).x, model.Button(i).y};
+        s.slotPositions[static_cast<std::size_t>(i)] = {model.button(i).x, model.button(i).y};
     s.currentButton = model.CurrentButton;
     s.selection = list.selectedButtons();
     return s;
 }
 
-void RestoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& list) {
+void restoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& list) {
     static_cast<AppletSettings&>(model) = s.applet;
     const int count = static_cast<int>(s.buttons.size());
     for (int i = 0; i < kButtonSlots; ++i) {
-        ButtonRecord& slot = model.Button(i);
+        ButtonRecord& slot = model.button(i);
         if (i >= 1 && i <= count) {
             slot = s.buttons[static_cast<std::size_t>(i - 1)];
         } else {
@@ -100,17 +100,17 @@ void RestoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& 
         list.setSelected(i, std::binary_search(s.selection.begin(), s.selection.end(), i));
 }
 
-bool SameDocument(const ProjectSnapshot& s, const ProjectModel& model) {
+bool sameDocument(const ProjectSnapshot& s, const ProjectModel& model) {
     return model.ButtonCount == static_cast<int>(s.buttons.size()) &&
            static_cast<const AppletSettings&>(model) == s.applet &&
            std::equal(s.buttons.begin(), s.buttons.end(), model.Buttons.begin() + 1);
 }
 
-bool SameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b) {
+bool sameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b) {
     return a.applet == b.applet && a.buttons == b.buttons;
 }
 
-DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after) {
+DocumentChange changeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after) {
     DocumentChange change;
     change.applet = before.applet != after.applet;
     change.countChanged = before.buttons.size() != after.buttons.size();
@@ -131,12 +131,12 @@ DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapsho
     return change;
 }
 
-std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot& after) {
+std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot& after) {
     const std::size_t was = before.buttons.size();
     const std::size_t is = after.buttons.size();
     if (is > was) {
         if (is - was > 1)
-            return Counted("Add", is - was);
+            return counted("Add", is - was);
         // A copy of a button, put elsewhere, is a duplicate.
         ButtonRecord added = after.buttons.back();
         for (const ButtonRecord& b : before.buttons) {
@@ -148,9 +148,9 @@ std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot&
         return "Add Button";
     }
     if (is < was)
-        return Counted("Remove", was - is);
+        return counted("Remove", was - is);
 
-    const DocumentChange change = ChangeBetween(before, after);
+    const DocumentChange change = changeBetween(before, after);
     // The stacking commands move one button to either end of the table.
     const auto found = [&before](const ButtonRecord& r) {
         return std::find(before.buttons.begin(), before.buttons.end(), r) != before.buttons.end();
@@ -163,7 +163,7 @@ std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot&
     }
 
     std::set<std::string> names;
-    EachAppletSetting(before.applet, after.applet,
+    eachAppletSetting(before.applet, after.applet,
                       [&names](const char* name, const auto& a, const auto& b) {
                           if (a != b)
                               names.insert(name);
@@ -172,8 +172,8 @@ std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot&
         const ButtonRecord& a = before.buttons[static_cast<std::size_t>(index - 1)];
         const ButtonRecord& b = after.buttons[static_cast<std::size_t>(index - 1)];
         for (int pos = 0; pos < kButtonFieldCount; ++pos)
-            if (FieldText(a, pos) != FieldText(b, pos))
-                names.insert(FieldDisplayName(pos));
+            if (fieldText(a, pos) != fieldText(b, pos))
+                names.insert(fieldDisplayName(pos));
     }
     const std::size_t n = change.buttons.size();
     const auto only = [&names](std::initializer_list<const char*> allowed) {
@@ -182,9 +182,9 @@ std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot&
         });
     };
     if (only({"Position"}))
-        return Counted("Move", n);
+        return counted("Move", n);
     if (only({"Position", "Size"}))
-        return Counted("Resize", n);
+        return counted("Resize", n);
     if (only({"Label Position", "Label Placement"}))
         return "Place Label";
     if (names.size() == 1)

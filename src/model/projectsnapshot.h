@@ -25,14 +25,14 @@ struct ProjectSnapshot {
     std::vector<int> selection;
 };
 
-ProjectSnapshot MakeSnapshot(const ProjectModel& model, const ButtonList& list);
+ProjectSnapshot makeSnapshot(const ProjectModel& model, const ButtonList& list);
 
 /// Puts the document of `snapshot` back into the model and the list's selection.
-void RestoreSnapshot(const ProjectSnapshot& snapshot, ProjectModel& model, ButtonList& list);
+void restoreSnapshot(const ProjectSnapshot& snapshot, ProjectModel& model, ButtonList& list);
 
 /// Whether the model's document (applet settings and buttons) is the snapshot's.
-bool SameDocument(const ProjectSnapshot& snapshot, const ProjectModel& model);
-bool SameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b);
+bool sameDocument(const ProjectSnapshot& snapshot, const ProjectModel& model);
+bool sameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b);
 
 /// What changed from `before` to `after`, for the views that show the document.
 struct DocumentChange {
@@ -42,12 +42,12 @@ struct DocumentChange {
     std::vector<int> moved;    ///< those of them that differ only in x and y
     bool selection = false;    ///< the selection or the current button
 };
-DocumentChange ChangeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after);
+DocumentChange changeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after);
 
 /**
  * The name of the edit that led from `before` to `after`, as an undo step shows it:
  * "Move 3 Buttons", "Change Label", "Add Button", "Bring to Front".
  */
-std::string DescribeChange(const ProjectSnapshot& before, const ProjectSnapshot& after);
+std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot& after);
 
 } // namespace orvelin

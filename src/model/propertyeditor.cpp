@@ -22,18 +22,18 @@ private:
     bool m_old;
 };
 
-std::int16_t Flag(bool on) {
+std::int16_t flag(bool on) {
     return on ? 1 : 0;
 }
 
 } // namespace
 
-bool IsUsableFontSize(const std::string& text) {
+bool isUsableFontSize(const std::string& text) {
     const std::int16_t size = MakeCInt(text);
     return size >= 1 && size <= kMaxFontSize;
 }
 
-std::optional<std::int16_t> AutoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image,
+std::optional<std::int16_t> autoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image,
                                              int appletWidth, int appletHeight) {
     if (!autoTile)
         return std::nullopt;
@@ -46,7 +46,7 @@ PropertyEditor::PropertyEditor(ProjectModel& model, ButtonList& list, UserInterf
     : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_design(design), m_view(view) {
 }
 
-void PropertyEditor::ForSelected(const std::function<void(ButtonRecord&, ButtonState)>& change) {
+void PropertyEditor::forSelected(const std::function<void(ButtonRecord&, ButtonState)>& change) {
     if (m_model.Updating)
         return;
     const ButtonState state = m_model.CurrentState;
@@ -54,7 +54,7 @@ void PropertyEditor::ForSelected(const std::function<void(ButtonRecord&, ButtonS
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         if (!m_list.isSelected(i))
             continue;
-        change(m_model.Button(i), state);
+        change(m_model.button(i), state);
         const bool current = i == m_model.CurrentButton;
         m_design.RedrawButton(i, current, current, false);
         changed = true;
@@ -63,146 +63,146 @@ void PropertyEditor::ForSelected(const std::function<void(ButtonRecord&, ButtonS
         m_model.Saved = false;
 }
 
-void PropertyEditor::SetX(const std::string& text) {
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.x = v; });
+void PropertyEditor::setX(const std::string& text) {
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.x = v; });
 }
 
-void PropertyEditor::SetY(const std::string& text) {
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.y = v; });
+void PropertyEditor::setY(const std::string& text) {
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.y = v; });
 }
 
-void PropertyEditor::SetWidth(const std::string& text) {
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.Width = v; });
+void PropertyEditor::setWidth(const std::string& text) {
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.Width = v; });
 }
 
-void PropertyEditor::SetHeight(const std::string& text) {
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.Height = v; });
+void PropertyEditor::setHeight(const std::string& text) {
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState) { b.Height = v; });
 }
 
-void PropertyEditor::SetLabel(const std::string& text) {
-    ForSelected([&text](ButtonRecord& b, ButtonState s) { b.Label(s) = text; });
+void PropertyEditor::setLabel(const std::string& text) {
+    forSelected([&text](ButtonRecord& b, ButtonState s) { b.label(s) = text; });
 }
 
-void PropertyEditor::SetLabelPosX(const std::string& text) {
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.LabelPosX(s) = v; });
+void PropertyEditor::setLabelPosX(const std::string& text) {
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.labelPosX(s) = v; });
 }
 
-void PropertyEditor::SetLabelPosY(const std::string& text) {
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.LabelPosY(s) = v; });
+void PropertyEditor::setLabelPosY(const std::string& text) {
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.labelPosY(s) = v; });
 }
 
-void PropertyEditor::SetPositionText(bool on) {
+void PropertyEditor::setPositionText(bool on) {
     if (m_model.Updating)
         return;
-    ForSelected([v = Flag(on)](ButtonRecord& b, ButtonState s) { b.PositionText(s) = v; });
+    forSelected([v = flag(on)](ButtonRecord& b, ButtonState s) { b.positionText(s) = v; });
     // The position fields appear (or go) and show the current button's position.
     ShowProp(m_model.CurrentButton);
 }
 
-void PropertyEditor::SetCenterText(bool on) {
-    SetPositionText(!on);
+void PropertyEditor::setCenterText(bool on) {
+    setPositionText(!on);
 }
 
-void PropertyEditor::SetFont(const std::string& family) {
-    ForSelected([&family](ButtonRecord& b, ButtonState s) { b.Font(s) = family; });
+void PropertyEditor::setFont(const std::string& family) {
+    forSelected([&family](ButtonRecord& b, ButtonState s) { b.font(s) = family; });
 }
 
-void PropertyEditor::SetFontSize(const std::string& text) {
-    if (!IsUsableFontSize(text))
+void PropertyEditor::setFontSize(const std::string& text) {
+    if (!isUsableFontSize(text))
         return;
-    ForSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.FontSize(s) = v; });
+    forSelected([v = MakeCInt(text)](ButtonRecord& b, ButtonState s) { b.fontSize(s) = v; });
 }
 
-void PropertyEditor::SetFontStyle(bool bold, bool italic) {
-    ForSelected([code = FontStyleCode(bold, italic)](ButtonRecord& b, ButtonState s) {
-        b.FontStyle(s) = code;
+void PropertyEditor::setFontStyle(bool bold, bool italic) {
+    forSelected([code = fontStyleCode(bold, italic)](ButtonRecord& b, ButtonState s) {
+        b.fontStyle(s) = code;
     });
 }
 
-void PropertyEditor::SetFontColor(std::int32_t colour) {
-    ForSelected([colour](ButtonRecord& b, ButtonState s) { b.FontColor(s) = colour; });
+void PropertyEditor::setFontColor(std::int32_t colour) {
+    forSelected([colour](ButtonRecord& b, ButtonState s) { b.fontColor(s) = colour; });
 }
 
-void PropertyEditor::SetBackColor(std::int32_t colour) {
-    ForSelected([colour](ButtonRecord& b, ButtonState s) { b.BackColor(s) = colour; });
+void PropertyEditor::setBackColor(std::int32_t colour) {
+    forSelected([colour](ButtonRecord& b, ButtonState s) { b.backColor(s) = colour; });
 }
 
-void PropertyEditor::SetImage(const std::string& path) {
-    ForSelected([&path](ButtonRecord& b, ButtonState s) { b.Image(s) = path; });
+void PropertyEditor::setImage(const std::string& path) {
+    forSelected([&path](ButtonRecord& b, ButtonState s) { b.image(s) = path; });
 }
 
-void PropertyEditor::SetImgStyle(int style) {
-    ForSelected([v = static_cast<std::int16_t>(style)](ButtonRecord& b, ButtonState s) {
+void PropertyEditor::setImgStyle(int style) {
+    forSelected([v = static_cast<std::int16_t>(style)](ButtonRecord& b, ButtonState s) {
         b.ImgStyle(s) = v;
     });
 }
 
-void PropertyEditor::SetSound(const std::string& path) {
-    ForSelected([&path](ButtonRecord& b, ButtonState s) { b.Sound(s) = path; });
+void PropertyEditor::setSound(const std::string& path) {
+    forSelected([&path](ButtonRecord& b, ButtonState s) { b.sound(s) = path; });
 }
 
-void PropertyEditor::SetURL(const std::string& text) {
-    ForSelected([&text](ButtonRecord& b, ButtonState) { b.URL = text; });
+void PropertyEditor::setURL(const std::string& text) {
+    forSelected([&text](ButtonRecord& b, ButtonState) { b.URL = text; });
 }
 
-void PropertyEditor::SetStatus(const std::string& text) {
-    ForSelected([&text](ButtonRecord& b, ButtonState) { b.Status = text; });
+void PropertyEditor::setStatus(const std::string& text) {
+    forSelected([&text](ButtonRecord& b, ButtonState) { b.Status = text; });
 }
 
-void PropertyEditor::SetTarget(const std::string& text) {
-    ForSelected([&text](ButtonRecord& b, ButtonState) { b.Target = text; });
+void PropertyEditor::setTarget(const std::string& text) {
+    forSelected([&text](ButtonRecord& b, ButtonState) { b.Target = text; });
 }
 
-void PropertyEditor::SetBorder(bool on) {
-    ForSelected([v = Flag(on)](ButtonRecord& b, ButtonState) { b.Border = v; });
+void PropertyEditor::setBorder(bool on) {
+    forSelected([v = flag(on)](ButtonRecord& b, ButtonState) { b.Border = v; });
 }
 
-void PropertyEditor::SetTransparent(bool on) {
-    ForSelected([v = Flag(on)](ButtonRecord& b, ButtonState) { b.noBackGround = v; });
+void PropertyEditor::setTransparent(bool on) {
+    forSelected([v = flag(on)](ButtonRecord& b, ButtonState) { b.noBackGround = v; });
 }
 
-void PropertyEditor::SetShowHand(bool on) {
-    ForSelected([v = Flag(on)](ButtonRecord& b, ButtonState) { b.ShowHand = v; });
+void PropertyEditor::setShowHand(bool on) {
+    forSelected([v = flag(on)](ButtonRecord& b, ButtonState) { b.ShowHand = v; });
 }
 
-void PropertyEditor::SetHidden(bool on) {
-    ForSelected([v = Flag(on)](ButtonRecord& b, ButtonState) { b.Hidden = v; });
+void PropertyEditor::setHidden(bool on) {
+    forSelected([v = flag(on)](ButtonRecord& b, ButtonState) { b.Hidden = v; });
 }
 
-void PropertyEditor::BrowseImage() {
+void PropertyEditor::browseImage() {
     if (std::optional<std::string> path = m_ui.chooseOpenFile(kImageFilter)) {
-        SetImage(*path);
+        setImage(*path);
         ShowProp(m_model.CurrentButton);
     }
 }
 
-void PropertyEditor::BrowseSound() {
+void PropertyEditor::browseSound() {
     if (std::optional<std::string> path = m_ui.chooseOpenFile(kSoundFilter)) {
-        SetSound(*path);
+        setSound(*path);
         ShowProp(m_model.CurrentButton);
     }
 }
 
-void PropertyEditor::AppletEdited() {
+void PropertyEditor::appletEdited() {
     m_model.Saved = false;
 }
 
-void PropertyEditor::BackgroundEdited() {
+void PropertyEditor::backgroundEdited() {
     m_model.Saved = false;
-    m_design.AppletChanged();
+    m_design.appletChanged();
     // Transparent buttons show the background under them, which has just changed.
     m_design.UpdateTransparentBtns();
 }
 
-bool PropertyEditor::SetAppletWidth(const std::string& text) {
-    return SetAppletSize(m_model.AppletWidth, text);
+bool PropertyEditor::setAppletWidth(const std::string& text) {
+    return setAppletSize(m_model.AppletWidth, text);
 }
 
-bool PropertyEditor::SetAppletHeight(const std::string& text) {
-    return SetAppletSize(m_model.AppletHeight, text);
+bool PropertyEditor::setAppletHeight(const std::string& text) {
+    return setAppletSize(m_model.AppletHeight, text);
 }
 
-bool PropertyEditor::SetAppletSize(std::int16_t& field, const std::string& text) {
+bool PropertyEditor::setAppletSize(std::int16_t& field, const std::string& text) {
     if (m_model.Updating)
         return true;
     const std::int16_t size = MakeCInt(text);
@@ -210,75 +210,75 @@ bool PropertyEditor::SetAppletSize(std::int16_t& field, const std::string& text)
         return false;
     if (size != field) {
         field = size;
-        AppletEdited();
-        CommitAppletSize();
+        appletEdited();
+        commitAppletSize();
     }
     return true;
 }
 
-void PropertyEditor::CommitAppletSize() {
-    m_design.AppletChanged();
+void PropertyEditor::commitAppletSize() {
+    m_design.appletChanged();
     m_design.UpdateTransparentBtns();
 }
 
-void PropertyEditor::SetBehaviour(int behaviour) {
+void PropertyEditor::setBehaviour(int behaviour) {
     if (m_model.Updating)
         return;
     m_model.Behaviour = static_cast<std::int16_t>(behaviour == 1 ? 1 : 0);
-    AppletEdited();
+    appletEdited();
 }
 
-void PropertyEditor::SetDOWNBtn(bool on) {
+void PropertyEditor::setDOWNBtn(bool on) {
     if (m_model.Updating)
         return;
-    m_model.DOWNBtn = Flag(on);
-    AppletEdited();
+    m_model.DOWNBtn = flag(on);
+    appletEdited();
 }
 
-void PropertyEditor::SetBackGround(std::int32_t colour) {
+void PropertyEditor::setBackGround(std::int32_t colour) {
     if (m_model.Updating)
         return;
     m_model.BackGround = colour;
-    BackgroundEdited();
+    backgroundEdited();
 }
 
-void PropertyEditor::SetBackImg(const std::string& path) {
+void PropertyEditor::setBackImg(const std::string& path) {
     if (m_model.Updating)
         return;
     m_model.BackImg = path;
-    BackgroundEdited();
+    backgroundEdited();
 }
 
-void PropertyEditor::SetBackImgStyle(int style) {
+void PropertyEditor::setBackImgStyle(int style) {
     if (m_model.Updating)
         return;
     m_model.BackImgStyle = static_cast<std::int16_t>(style);
-    BackgroundEdited();
+    backgroundEdited();
 }
 
-void PropertyEditor::SetChosenBackImg(const std::string& path,
+void PropertyEditor::setChosenBackImg(const std::string& path,
                                       const std::optional<ImageSize>& image) {
     if (m_model.Updating)
         return;
     m_model.BackImg = path;
     if (std::optional<std::int16_t> style =
-            AutoBackImgStyle(m_settings.flag(SettingKey::AutoTile), image, m_model.AppletWidth,
+            autoBackImgStyle(m_settings.flag(SettingKey::AutoTile), image, m_model.AppletWidth,
                              m_model.AppletHeight))
         m_model.BackImgStyle = *style;
-    BackgroundEdited();
+    backgroundEdited();
     SetMainParams();
 }
 
-void PropertyEditor::BrowseBackImg() {
+void PropertyEditor::browseBackImg() {
     if (std::optional<std::string> path = m_ui.chooseOpenFile(kImageFilter))
-        SetChosenBackImg(*path, m_view.ImageSizeOf(*path));
+        setChosenBackImg(*path, m_view.imageSizeOf(*path));
 }
 
 void PropertyEditor::ShowProp(int index) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
     UpdatingGuard guard(m_model);
-    m_view.ShowProp(index, Messages()[Msg::PropertiesForButton] + std::to_string(index));
+    m_view.ShowProp(index, messages()[Msg::PropertiesForButton] + std::to_string(index));
 }
 
 void PropertyEditor::SetMainParams() {

@@ -25,12 +25,12 @@ inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);;All Files (*)";
 inline constexpr int kMaxFontSize = 2048;
 /// Whether `text` is a font size that labels can be drawn with: a whole number from 1
 /// to kMaxFontSize (blanks around it allowed).
-bool IsUsableFontSize(const std::string& text);
+bool isUsableFontSize(const std::string& text);
 
 /// Background placement chosen automatically for a new background image while tiling
 /// is on: "Tile" (1) when the image is smaller than the applet both ways, else
 /// "Center" (0). Nothing when tiling is off: the placement stays as it was.
-std::optional<std::int16_t> AutoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image,
+std::optional<std::int16_t> autoBackImgStyle(bool autoTile, const std::optional<ImageSize>& image,
                                              int appletWidth, int appletHeight);
 
 /**
@@ -46,59 +46,59 @@ public:
                    DesignView& design, EditorView& view);
 
     // Button geometry, from typed text (non-numbers give 0).
-    void SetX(const std::string& text);
-    void SetY(const std::string& text);
-    void SetWidth(const std::string& text);
-    void SetHeight(const std::string& text);
+    void setX(const std::string& text);
+    void setY(const std::string& text);
+    void setWidth(const std::string& text);
+    void setHeight(const std::string& text);
 
     // Per-state properties.
-    void SetLabel(const std::string& text);
-    void SetLabelPosX(const std::string& text);
-    void SetLabelPosY(const std::string& text);
+    void setLabel(const std::string& text);
+    void setLabelPosX(const std::string& text);
+    void setLabelPosY(const std::string& text);
     /// chkPositionText: 1 draws the label at its position; refreshes the panel so the
     /// position fields show the current button's values.
-    void SetPositionText(bool on);
+    void setPositionText(bool on);
     /// chkCenterText, the counterpart: on means PositionText 0.
-    void SetCenterText(bool on);
-    void SetFont(const std::string& family);
+    void setCenterText(bool on);
+    void setFont(const std::string& family);
     /// An empty box (a size being typed) or a size that IsUsableFontSize refuses writes
     /// nothing.
-    void SetFontSize(const std::string& text);
-    void SetFontStyle(bool bold, bool italic);
-    void SetFontColor(std::int32_t colour);
-    void SetBackColor(std::int32_t colour);
-    void SetImage(const std::string& path);
-    void SetImgStyle(int style);
-    void SetSound(const std::string& path);
+    void setFontSize(const std::string& text);
+    void setFontStyle(bool bold, bool italic);
+    void setFontColor(std::int32_t colour);
+    void setBackColor(std::int32_t colour);
+    void setImage(const std::string& path);
+    void setImgStyle(int style);
+    void setSound(const std::string& path);
 
     // Per-button properties.
-    void SetURL(const std::string& text);
-    void SetStatus(const std::string& text);
-    void SetTarget(const std::string& text);
-    void SetBorder(bool on);
-    void SetTransparent(bool on);
-    void SetShowHand(bool on);
-    void SetHidden(bool on);
+    void setURL(const std::string& text);
+    void setStatus(const std::string& text);
+    void setTarget(const std::string& text);
+    void setBorder(bool on);
+    void setTransparent(bool on);
+    void setShowHand(bool on);
+    void setHidden(bool on);
 
     /// File choosers: a chosen file is written as if typed, then the panel refreshed.
-    void BrowseImage();
-    void BrowseSound();
+    void browseImage();
+    void browseSound();
 
     // Applet properties.
     /// The applet's size as typed; the design surface follows at once. A size below 1
     /// (an empty box included) is refused: nothing is written and the result is false.
-    bool SetAppletWidth(const std::string& text);
-    bool SetAppletHeight(const std::string& text);
+    bool setAppletWidth(const std::string& text);
+    bool setAppletHeight(const std::string& text);
     /// The design surface takes the applet's size.
-    void CommitAppletSize();
-    void SetBehaviour(int behaviour); ///< 0 push buttons, 1 radio buttons
-    void SetDOWNBtn(bool on);
-    void SetBackGround(std::int32_t colour);
-    void SetBackImg(const std::string& path);
-    void SetBackImgStyle(int style);
+    void commitAppletSize();
+    void setBehaviour(int behaviour); ///< 0 push buttons, 1 radio buttons
+    void setDOWNBtn(bool on);
+    void setBackGround(std::int32_t colour);
+    void setBackImg(const std::string& path);
+    void setBackImgStyle(int style);
     /// A background image chosen in the file dialog, with the placement AutoTile picks.
-    void SetChosenBackImg(const std::string& path, const std::optional<ImageSize>& image);
-    void BrowseBackImg();
+    void setChosenBackImg(const std::string& path, const std::optional<ImageSize>& image);
+    void browseBackImg();
 
     /// Fills the property panel from button `index` with Updating set and the caption
     /// "Properties for Button # <index>"; nothing for an index that is no button.
@@ -108,10 +108,10 @@ public:
 
 private:
     // Applies `change` to every selected button, redraws them, clears Saved.
-    void ForSelected(const std::function<void(ButtonRecord&, ButtonState)>& change);
-    void AppletEdited();
-    void BackgroundEdited();
-    bool SetAppletSize(std::int16_t& field, const std::string& text);
+    void forSelected(const std::function<void(ButtonRecord&, ButtonState)>& change);
+    void appletEdited();
+    void backgroundEdited();
+    bool setAppletSize(std::int16_t& field, const std::string& text);
 
     ProjectModel& m_model;
     ButtonList& m_list;

@@ -23,8 +23,8 @@ public:
     /// Shows the four slots in the menu: an entry per stored path, hidden when empty.
     void GetRecent();
     /// The stored path of slot 1..4; "" for an empty slot or a slot outside 1..4.
-    std::string Path(int slot) const;
-    std::array<std::string, kRecentSlots> Slots() const; ///< raw, "-1" for empty
+    std::string path(int slot) const;
+    std::array<std::string, kRecentSlots> entries() const; ///< raw, "-1" for empty
 
 private:
     Settings& m_settings;

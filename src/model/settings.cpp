@@ -32,27 +32,27 @@ constexpr std::array<SettingInfo, static_cast<std::size_t>(SettingKey::Count)> k
     {SettingsSection::Sizes, "Height", "0"},
 }};
 
-std::string KeyName(const SettingInfo& info, int index) {
+std::string keyName(const SettingInfo& info, int index) {
     std::string name = info.key;
     if (index > 0)
         name += std::to_string(index);
     return name;
 }
 
-int NumberOr0(const std::string& text) {
-    const WholeNumber n = ParseWholeNumber(text, -2147483647 - 1, 2147483647);
+int numberOr0(const std::string& text) {
+    const WholeNumber n = parseWholeNumber(text, -2147483647 - 1, 2147483647);
     return n.error == NumberError::None ? static_cast<int>(n.value) : 0;
 }
 
 } // namespace
 
-std::string NormalizeSection(std::string_view section) {
+std::string normalizeSection(std::string_view section) {
     while (!section.empty() && (section.back() == '\\' || section.back() == '/'))
         section.remove_suffix(1);
     return std::string(section);
 }
 
-std::string SectionPath(SettingsSection section, std::string_view formName) {
+std::string sectionPath(SettingsSection section, std::string_view formName) {
     std::string path = kVersionText;
     switch (section) {
     case SettingsSection::Params:
@@ -69,11 +69,11 @@ std::string SectionPath(SettingsSection section, std::string_view formName) {
     return path;
 }
 
-const SettingInfo& SettingDefinition(SettingKey key) {
+const SettingInfo& settingDefinition(SettingKey key) {
     return kSettings.at(static_cast<std::size_t>(key));
 }
 
-WindowGeometry RestoredGeometry(const WindowGeometry& stored, const WindowGeometry& designed,
+WindowGeometry restoredGeometry(const WindowGeometry& stored, const WindowGeometry& designed,
                                 int screenWidth, int screenHeight) {
     if (stored.width == 0 || stored.height == 0)
         return designed;
@@ -88,17 +88,17 @@ WindowGeometry RestoredGeometry(const WindowGeometry& stored, const WindowGeomet
 }
 
 std::string Settings::value(SettingKey key, int index, std::string_view form) const {
-    const SettingInfo& info = SettingDefinition(key);
-    return m_backend.get(SectionPath(info.section, form), KeyName(info, index), info.defaultValue);
+    const SettingInfo& info = settingDefinition(key);
+    return m_backend.get(sectionPath(info.section, form), keyName(info, index), info.defaultValue);
 }
 
 void Settings::setValue(SettingKey key, const std::string& text, int index, std::string_view form) {
-    const SettingInfo& info = SettingDefinition(key);
-    m_backend.set(SectionPath(info.section, form), KeyName(info, index), text);
+    const SettingInfo& info = settingDefinition(key);
+    m_backend.set(sectionPath(info.section, form), keyName(info, index), text);
 }
 
 bool Settings::flag(SettingKey key) const {
-    const std::string text = ToLowerAscii(value(key));
+    const std::string text = toLowerAscii(value(key));
     return text == "1" || text == "-1" || text == "true";
 }
 
@@ -106,43 +106,43 @@ void Settings::setFlag(SettingKey key, bool on) {
     setValue(key, on ? "1" : "0");
 }
 
-std::string Settings::DefaultButton() const {
+std::string Settings::defaultButton() const {
     std::string text = value(SettingKey::strDefaultBtn);
     return text == kUnsetValue ? std::string(kFactoryDefaultButton) : text;
 }
 
-void Settings::SetDefaultButton(const std::string& serialised) {
+void Settings::setDefaultButton(const std::string& serialised) {
     // Written under "...\Params\" as the designer always did; the store makes it the
     // same section it is read from.
-    m_backend.set(SectionPath(SettingsSection::Params) + "\\",
-                  SettingDefinition(SettingKey::strDefaultBtn).key, serialised);
+    m_backend.set(sectionPath(SettingsSection::Params) + "\\",
+                  settingDefinition(SettingKey::strDefaultBtn).key, serialised);
 }
 
-std::string Settings::RecentFile(int slot) const {
+std::string Settings::recentFile(int slot) const {
     return value(SettingKey::RecentFile, slot);
 }
 
-void Settings::SetRecentFile(int slot, const std::string& path) {
+void Settings::setRecentFile(int slot, const std::string& path) {
     setValue(SettingKey::RecentFile, path, slot);
 }
 
-WindowGeometry Settings::StoredGeometry(std::string_view form) const {
-    return {NumberOr0(value(SettingKey::SizeLeft, 0, form)),
-            NumberOr0(value(SettingKey::SizeTop, 0, form)),
-            NumberOr0(value(SettingKey::SizeWidth, 0, form)),
-            NumberOr0(value(SettingKey::SizeHeight, 0, form))};
+WindowGeometry Settings::storedGeometry(std::string_view form) const {
+    return {numberOr0(value(SettingKey::SizeLeft, 0, form)),
+            numberOr0(value(SettingKey::SizeTop, 0, form)),
+            numberOr0(value(SettingKey::SizeWidth, 0, form)),
+            numberOr0(value(SettingKey::SizeHeight, 0, form))};
 }
 
-void Settings::SaveGeometry(std::string_view form, const WindowGeometry& geometry) {
+void Settings::saveGeometry(std::string_view form, const WindowGeometry& geometry) {
     setValue(SettingKey::SizeLeft, std::to_string(geometry.left), 0, form);
     setValue(SettingKey::SizeTop, std::to_string(geometry.top), 0, form);
     setValue(SettingKey::SizeWidth, std::to_string(geometry.width), 0, form);
     setValue(SettingKey::SizeHeight, std::to_string(geometry.height), 0, form);
 }
 
-WindowGeometry Settings::RestoreGeometry(std::string_view form, const WindowGeometry& designed,
+WindowGeometry Settings::restoreGeometry(std::string_view form, const WindowGeometry& designed,
                                          int screenWidth, int screenHeight) const {
-    return RestoredGeometry(StoredGeometry(form), designed, screenWidth, screenHeight);
+    return restoredGeometry(storedGeometry(form), designed, screenWidth, screenHeight);
 }
 
 } // namespace orvelin

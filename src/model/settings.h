@@ -21,14 +21,14 @@ public:
 };
 
 /// A section name without its trailing "\" (or "/"), so both spellings meet.
-std::string NormalizeSection(std::string_view section);
+std::string normalizeSection(std::string_view section);
 
 /// The sub-sections of the program's settings, each below the version text.
 enum class SettingsSection { Params, Language, Recent, Browsers, Sizes };
 
 /// "1.0  Beta 6\Params" and so on; Sizes takes the window's form name
 /// ("1.0  Beta 6\Sizes\frmDesign").
-std::string SectionPath(SettingsSection section, std::string_view formName = {});
+std::string sectionPath(SettingsSection section, std::string_view formName = {});
 
 /// Every setting the program reads or writes. Indexed keys (File1..File4, the browser
 /// names) take their number as a suffix.
@@ -61,7 +61,7 @@ struct SettingInfo {
 };
 
 /// The one table of keys, their sections and their defaults.
-const SettingInfo& SettingDefinition(SettingKey key);
+const SettingInfo& settingDefinition(SettingKey key);
 
 /// "-1" in strDefaultBtn and in a recent slot stands for "nothing stored".
 inline constexpr const char* kUnsetValue = "-1";
@@ -80,7 +80,7 @@ struct WindowGeometry {
  * non-zero, with the position kept within the screen less a tenth of each dimension
  * (a window saved on a larger screen still shows); otherwise the designed geometry.
  */
-WindowGeometry RestoredGeometry(const WindowGeometry& stored, const WindowGeometry& designed,
+WindowGeometry restoredGeometry(const WindowGeometry& stored, const WindowGeometry& designed,
                                 int screenWidth, int screenHeight);
 
 /**
@@ -101,18 +101,18 @@ public:
     void setFlag(SettingKey key, bool on);
 
     /// The default-button string; the factory string when nothing is stored ("-1").
-    std::string DefaultButton() const;
-    void SetDefaultButton(const std::string& serialised);
+    std::string defaultButton() const;
+    void setDefaultButton(const std::string& serialised);
 
     /// Recent slot 1..4; "-1" when empty.
-    std::string RecentFile(int slot) const;
-    void SetRecentFile(int slot, const std::string& path);
+    std::string recentFile(int slot) const;
+    void setRecentFile(int slot, const std::string& path);
 
-    WindowGeometry StoredGeometry(std::string_view form) const;
+    WindowGeometry storedGeometry(std::string_view form) const;
     /// Writes Left, Top, Width and Height, in that order.
-    void SaveGeometry(std::string_view form, const WindowGeometry& geometry);
+    void saveGeometry(std::string_view form, const WindowGeometry& geometry);
     /// RestoredGeometry over the stored values of `form`.
-    WindowGeometry RestoreGeometry(std::string_view form, const WindowGeometry& designed,
+    WindowGeometry restoreGeometry(std::string_view form, const WindowGeometry& designed,
                                    int screenWidth, int screenHeight) const;
 
     SettingsBackend& backend() { return m_backend; }

@@ -10,9 +10,9 @@ class Shell {
 public:
     virtual ~Shell() = default;
     /// Opens `path` with the program the desktop associates with it; false on failure.
-    virtual bool OpenDocument(const std::string& path) = 0;
+    virtual bool openDocument(const std::string& path) = 0;
     /// Starts `program` detached with `arguments`; false when it cannot be started.
-    virtual bool StartProgram(const std::string& program,
+    virtual bool startProgram(const std::string& program,
                               const std::vector<std::string>& arguments) = 0;
 };
 

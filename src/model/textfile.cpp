@@ -234,7 +234,7 @@ void removeStaleTemporaries(const fs::path& target) {
 
 } // namespace
 
-std::string ToUtf8(std::string_view bytes) {
+std::string toUtf8(std::string_view bytes) {
     if (isValidUtf8(bytes))
         return std::string(bytes);
     std::string out;
@@ -251,7 +251,7 @@ std::string ToUtf8(std::string_view bytes) {
     return out;
 }
 
-std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* error) {
+std::optional<std::string> readTextFile(const std::string& path, TextFileError* error) {
     std::error_code ec;
     const fs::file_status status = fs::status(path, ec);
     if (path.empty() || !fs::exists(status)) {
@@ -279,10 +279,10 @@ std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* 
         bytes.erase(0, 3);
     if (isValidUtf8(bytes))
         return bytes;
-    return ToUtf8(bytes);
+    return toUtf8(bytes);
 }
 
-std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTerminated,
+std::vector<std::string_view> splitLines(std::string_view text, bool* lastTerminated,
                                          std::size_t maxLines) {
     std::vector<std::string_view> lines;
     std::size_t start = 0;
@@ -305,7 +305,7 @@ std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTermin
     return lines;
 }
 
-bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFileError* error) {
+bool writeFileAtomically(const std::string& path, std::string_view bytes, TextFileError* error) {
     if (path.empty()) {
         report(error, "Bad file name or number", ENOENT);
         return false;
@@ -370,12 +370,12 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes, TextFi
     return true;
 }
 
-std::string TextFileError::SystemText() const {
+std::string TextFileError::systemText() const {
     return code != 0 ? std::generic_category().message(code) : std::string();
 }
 
-std::string WithSystemCause(const std::string& message, const TextFileError& error) {
-    const std::string cause = error.SystemText();
+std::string withSystemCause(const std::string& message, const TextFileError& error) {
+    const std::string cause = error.systemText();
     return cause.empty() ? message : message + "\r\n" + cause;
 }
 

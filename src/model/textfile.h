@@ -17,21 +17,21 @@ struct TextFileError {
     int code = 0;            ///< the errno of the call that failed; 0 when none is known
 
     /// What the system says about `code` ("No space left on device"); "" without one.
-    std::string SystemText() const;
+    std::string systemText() const;
 };
 
 /// `message`, and on a second line the system's cause when it gave one.
-std::string WithSystemCause(const std::string& message, const TextFileError& error);
+std::string withSystemCause(const std::string& message, const TextFileError& error);
 
 /// The whole file as UTF-8, or an error.
-std::optional<std::string> ReadTextFile(const std::string& path, TextFileError* error = nullptr);
+std::optional<std::string> readTextFile(const std::string& path, TextFileError* error = nullptr);
 
 /// Converts bytes that are not valid UTF-8 from Windows-1252; valid UTF-8 passes.
-std::string ToUtf8(std::string_view bytes);
+std::string toUtf8(std::string_view bytes);
 
 /// Splits text into lines at CR LF or a lone LF, at most `maxLines` of them;
 /// `lastTerminated` tells whether the last line given ended with a line break.
-std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTerminated = nullptr,
+std::vector<std::string_view> splitLines(std::string_view text, bool* lastTerminated = nullptr,
                                          std::size_t maxLines = std::size_t(-1));
 
 /**
@@ -42,7 +42,7 @@ std::vector<std::string_view> SplitLines(std::string_view text, bool* lastTermin
  * written; after a successful save, such files of the same target that no save holds
  * any more (left by a save that was killed) are removed, and nothing else.
  */
-bool WriteFileAtomically(const std::string& path, std::string_view bytes,
+bool writeFileAtomically(const std::string& path, std::string_view bytes,
                          TextFileError* error = nullptr);
 
 } // namespace orvelin

@@ -9,18 +9,18 @@ namespace orvelin {
 
 namespace {
 
-bool IsBlank(char c) {
+bool isBlank(char c) {
     return c == ' ' || c == '\t';
 }
 
-bool IsDigit(char c) {
+bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-std::string_view Trim(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front()))
+std::string_view trim(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
         text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back()))
+    while (!text.empty() && isBlank(text.back()))
         text.remove_suffix(1);
     return text;
 }
@@ -38,8 +38,8 @@ struct DecimalText {
  * digit before or after the point. The exponent saturates instead of
  * overflowing, so absurd texts such as "1e99999999999999999999" stay defined.
  */
-std::optional<DecimalText> ScanDecimal(std::string_view text) {
-    text = Trim(text);
+std::optional<DecimalText> scanDecimal(std::string_view text) {
+    text = trim(text);
     DecimalText out;
     std::size_t p = 0;
     if (p < text.size() && (text[p] == '+' || text[p] == '-')) {
@@ -47,13 +47,13 @@ std::optional<DecimalText> ScanDecimal(std::string_view text) {
         ++p;
     }
     const std::size_t wholeStart = p;
-    while (p < text.size() && IsDigit(text[p]))
+    while (p < text.size() && isDigit(text[p]))
         ++p;
     out.whole = text.substr(wholeStart, p - wholeStart);
     if (p < text.size() && text[p] == '.') {
         ++p;
         const std::size_t fractionStart = p;
-        while (p < text.size() && IsDigit(text[p]))
+        while (p < text.size() && isDigit(text[p]))
             ++p;
         out.fraction = text.substr(fractionStart, p - fractionStart);
     }
@@ -66,11 +66,11 @@ std::optional<DecimalText> ScanDecimal(std::string_view text) {
             negativeExponent = text[p] == '-';
             ++p;
         }
-        if (p >= text.size() || !IsDigit(text[p]))
+        if (p >= text.size() || !isDigit(text[p]))
             return std::nullopt;
         constexpr std::int64_t kExponentCap = 1'000'000'000;
         std::int64_t exponent = 0;
-        while (p < text.size() && IsDigit(text[p])) {
+        while (p < text.size() && isDigit(text[p])) {
             exponent = std::min(kExponentCap, exponent * 10 + (text[p] - '0'));
             ++p;
         }
@@ -88,7 +88,7 @@ struct Significant {
     std::int64_t pointAt = 0;
 };
 
-Significant SignificantDigits(const DecimalText& number) {
+Significant significantDigits(const DecimalText& number) {
     Significant out;
     out.digits.assign(number.whole);
     out.digits += number.fraction;
@@ -108,17 +108,17 @@ Significant SignificantDigits(const DecimalText& number) {
 
 std::string EncodeLabel(std::string_view text) {
     std::string out;
-    AppendEncodedLabel(out, text);
+    appendEncodedLabel(out, text);
     return out;
 }
 
 std::string DecodeLabel(std::string_view text) {
     std::string out;
-    AppendDecodedLabel(out, text);
+    appendDecodedLabel(out, text);
     return out;
 }
 
-void AppendEncodedLabel(std::string& out, std::string_view text) {
+void appendEncodedLabel(std::string& out, std::string_view text) {
     // One scan does the three steps at once: "|" to "I", then blanks, then double
     // quotes through the repeated replace. Neither "&nbsp" nor "&y02" holds a
     // blank or a double quote, so each replace finds just the characters of the
@@ -134,7 +134,7 @@ void AppendEncodedLabel(std::string& out, std::string_view text) {
     }
 }
 
-void AppendDecodedLabel(std::string& out, std::string_view text) {
+void appendDecodedLabel(std::string& out, std::string_view text) {
     // One scan does the three replaces in their order: "&nbsp", "&y01", "&y02".
     // Their replacements hold none of the three, and two of them can never
     // overlap (each starts with the only "&" it has), so the occurrences the
@@ -172,7 +172,7 @@ namespace {
  * matches of the original text, and the whole process gives what one plain
  * left-to-right replace gives.
  */
-bool CanFormNewMatches(std::string_view search, std::string_view replacement) {
+bool canFormNewMatches(std::string_view search, std::string_view replacement) {
     const auto m = static_cast<std::ptrdiff_t>(search.size());
     const auto r = static_cast<std::ptrdiff_t>(replacement.size());
     if (r == 0)
@@ -191,7 +191,7 @@ bool CanFormNewMatches(std::string_view search, std::string_view replacement) {
 
 /// One pass: positions below the length the text had when it began, going on at
 /// i + 1 in the changed text after a replacement at i.
-void ReplacePass(std::string& text, std::string_view search, std::string_view replacement) {
+void replacePass(std::string& text, std::string_view search, std::string_view replacement) {
     const std::size_t passEnd = text.size();
     for (std::size_t i = 0; i < passEnd && i < text.size(); ++i) {
         if (std::string_view(text).substr(i, search.size()) == search)
@@ -205,14 +205,14 @@ std::string ReplaceAll(std::string_view text, std::string_view search,
                        std::string_view replacement) {
     if (search.empty())
         return std::string(text);
-    if (CanFormNewMatches(search, replacement)) {
+    if (canFormNewMatches(search, replacement)) {
         // A replacement holding the search text would be replaced again forever;
         // it gets one pass.
         const bool endless = replacement.find(search) != std::string_view::npos;
         std::string out(text);
         for (;;) {
             const std::size_t before = out.size();
-            ReplacePass(out, search, replacement);
+            replacePass(out, search, replacement);
             if (endless || out.size() == before)
                 return out;
         }
@@ -232,7 +232,7 @@ std::string ReplaceAll(std::string_view text, std::string_view search,
 
 std::string MakeIdentifier(std::string_view text) {
     std::string out;
-    if (!text.empty() && IsDigit(text.front()))
+    if (!text.empty() && isDigit(text.front()))
         out += '_';
     out += text;
     static constexpr std::string_view kReplaced = " '\"/\\|.;?`@~&!#$%^*()+-=:{}[]";
@@ -283,11 +283,11 @@ bool StartsWith(std::string_view text, std::string_view prefix) {
     return text.substr(0, prefix.size()) == prefix;
 }
 
-WholeNumber ParseWholeNumber(std::string_view text, std::int64_t min, std::int64_t max) {
-    const std::optional<DecimalText> number = ScanDecimal(text);
+WholeNumber parseWholeNumber(std::string_view text, std::int64_t min, std::int64_t max) {
+    const std::optional<DecimalText> number = scanDecimal(text);
     if (!number)
         return {0, NumberError::TypeMismatch};
-    const Significant significant = SignificantDigits(*number);
+    const Significant significant = significantDigits(*number);
     const std::string& digits = significant.digits;
     const std::int64_t pointAt = significant.pointAt;
     if (digits.empty())
@@ -326,7 +326,7 @@ WholeNumber ParseWholeNumber(std::string_view text, std::int64_t min, std::int64
     return {value, NumberError::None};
 }
 
-std::string NumberErrorText(NumberError error) {
+std::string numberErrorText(NumberError error) {
     switch (error) {
     case NumberError::None:
         return {};
@@ -339,14 +339,14 @@ std::string NumberErrorText(NumberError error) {
 }
 
 std::int16_t MakeCInt(std::string_view text) {
-    const WholeNumber n = ParseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
+    const WholeNumber n = parseWholeNumber(text, std::numeric_limits<std::int16_t>::min(),
                                            std::numeric_limits<std::int16_t>::max());
     return n.error == NumberError::None ? static_cast<std::int16_t>(n.value) : 0;
 }
 
 std::string MakePositive(std::string_view text) {
-    const std::string_view trimmed = Trim(text);
-    if (!ScanDecimal(trimmed))
+    const std::string_view trimmed = trim(text);
+    if (!scanDecimal(trimmed))
         return "5";
     std::string_view number = trimmed;
     if (number.front() == '+' || number.front() == '-')
@@ -355,7 +355,7 @@ std::string MakePositive(std::string_view text) {
     const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
     if (error == std::errc::result_out_of_range) {
         // Too small for a double reads as 0; too large is no number at all.
-        if (SignificantDigits(*ScanDecimal(trimmed)).pointAt < 0)
+        if (significantDigits(*scanDecimal(trimmed)).pointAt < 0)
             return "0";
         return "5";
     }
@@ -367,7 +367,7 @@ std::string MakePositive(std::string_view text) {
     return std::string(buffer, result.ptr);
 }
 
-std::string HexText(std::int32_t value) {
+std::string hexText(std::int32_t value) {
     static constexpr char kDigits[] = "0123456789ABCDEF";
     auto bits = static_cast<std::uint32_t>(value);
     std::string out;
@@ -379,8 +379,8 @@ std::string HexText(std::int32_t value) {
     return out;
 }
 
-std::string ColorToWeb(std::int32_t colour) {
-    const std::string hex = HexText(colour);
+std::string colorToWeb(std::int32_t colour) {
+    const std::string hex = hexText(colour);
     switch (hex.size()) {
     case 1:
         return "000000";
@@ -395,12 +395,12 @@ std::string ColorToWeb(std::int32_t colour) {
     }
 }
 
-std::string BareFileName(std::string_view path) {
+std::string bareFileName(std::string_view path) {
     const std::size_t slash = path.find_last_of("/\\");
     return std::string(slash == std::string_view::npos ? path : path.substr(slash + 1));
 }
 
-std::string ToUpperAscii(std::string_view text) {
+std::string toUpperAscii(std::string_view text) {
     std::string out(text);
     for (char& c : out) {
         if (c >= 'a' && c <= 'z')
@@ -409,7 +409,7 @@ std::string ToUpperAscii(std::string_view text) {
     return out;
 }
 
-std::string ToLowerAscii(std::string_view text) {
+std::string toLowerAscii(std::string_view text) {
     std::string out(text);
     for (char& c : out) {
         if (c >= 'A' && c <= 'Z')

@@ -23,8 +23,8 @@ std::string DecodeLabel(std::string_view text);
 
 /// EncodeLabel(text) and DecodeLabel(text) appended to `out`, which keeps its storage;
 /// `text` must not lie inside `out`.
-void AppendEncodedLabel(std::string& out, std::string_view text);
-void AppendDecodedLabel(std::string& out, std::string_view text);
+void appendEncodedLabel(std::string& out, std::string_view text);
+void appendDecodedLabel(std::string& out, std::string_view text);
 
 /**
  * Replaces `search` by `replacement` in whole passes, repeated until a pass
@@ -75,10 +75,10 @@ struct WholeNumber {
     std::int64_t value = 0;
     NumberError error = NumberError::None;
 };
-WholeNumber ParseWholeNumber(std::string_view text, std::int64_t min, std::int64_t max);
+WholeNumber parseWholeNumber(std::string_view text, std::int64_t min, std::int64_t max);
 
 /// The text of a conversion error as the designer shows it ("Type mismatch", "Overflow").
-std::string NumberErrorText(NumberError error);
+std::string numberErrorText(NumberError error);
 
 /// 16-bit conversion that gives 0 for anything it cannot convert.
 std::int16_t MakeCInt(std::string_view text);
@@ -88,20 +88,20 @@ std::int16_t MakeCInt(std::string_view text);
 std::string MakePositive(std::string_view text);
 
 /// Upper-case hexadecimal form of a 32-bit value without leading zeros ("0" for zero).
-std::string HexText(std::int32_t value);
+std::string hexText(std::int32_t value);
 
 /**
  * Web colour text RRGGBB of a colour value (red in the low byte), taken from the
  * digits of HexText: a value of one digit gives "000000", one of 3, 5, 7 or 8
  * digits the empty text, as the applet code has always been written.
  */
-std::string ColorToWeb(std::int32_t colour);
+std::string colorToWeb(std::int32_t colour);
 
 /// What follows the last "/" or "\" of a path (the whole path without one).
-std::string BareFileName(std::string_view path);
+std::string bareFileName(std::string_view path);
 
 /// Upper-case and lower-case forms of ASCII letters only.
-std::string ToUpperAscii(std::string_view text);
-std::string ToLowerAscii(std::string_view text);
+std::string toUpperAscii(std::string_view text);
+std::string toLowerAscii(std::string_view text);
 
 } // namespace orvelin

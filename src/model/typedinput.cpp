@@ -8,7 +8,7 @@ namespace orvelin {
 
 namespace {
 
-FieldKind KindOf(TypedField field) {
+FieldKind kindOf(TypedField field) {
     switch (field) {
     case TypedField::Label:
         return FieldKind::Label;
@@ -23,18 +23,18 @@ FieldKind KindOf(TypedField field) {
     return FieldKind::Raw;
 }
 
-bool IsAsciiLetter(char c) {
+bool isAsciiLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-std::string Quoted(std::string_view text) {
+std::string quoted(std::string_view text) {
     return "\"" + std::string(text) + "\"";
 }
 
 } // namespace
 
-TypedText AcceptTyped(TypedField field, std::string_view typed) {
-    const FieldKind kind = KindOf(field);
+TypedText acceptTyped(TypedField field, std::string_view typed) {
+    const FieldKind kind = kindOf(field);
     TypedText out;
     std::string refused;
     for (std::size_t i = 0; i < typed.size(); ++i) {
@@ -45,32 +45,32 @@ TypedText AcceptTyped(TypedField field, std::string_view typed) {
             out.text += field == TypedField::Label ? "\\n" : " ";
         } else if (c == '|' && field == TypedField::Url) {
             out.text += "%7C";
-        } else if (FieldCanHold(kind, c)) {
+        } else if (fieldCanHold(kind, c)) {
             out.text += c;
         } else if (refused.find(c) == std::string::npos) {
             refused += c;
         }
     }
-    const MessageTable& msg = Messages();
+    const MessageTable& msg = messages();
     if (!refused.empty()) {
         std::string names;
         for (const char c : refused) {
             if (!names.empty())
                 names += ", ";
             names += static_cast<unsigned char>(c) < 0x20 || c == 0x7F ? msg[Msg::ControlCharacters]
-                                                                       : Quoted(std::string(1, c));
+                                                                       : quoted(std::string(1, c));
         }
         out.note = msg[Msg::FieldCannotHold] + names;
     } else if (field == TypedField::Url && typed.find('|') != std::string_view::npos) {
         out.note = msg[Msg::UrlBarEncoded];
-    } else if (const std::string reference = FirstCharacterReference(out.text);
+    } else if (const std::string reference = firstCharacterReference(out.text);
                !reference.empty()) {
-        out.note = Quoted(reference) + msg[Msg::CharacterReference];
+        out.note = quoted(reference) + msg[Msg::CharacterReference];
     }
     return out;
 }
 
-std::string FirstCharacterReference(std::string_view text) {
+std::string firstCharacterReference(std::string_view text) {
     for (std::size_t at = text.find('&'); at != std::string_view::npos;
          at = text.find('&', at + 1)) {
         std::size_t end = at + 1;
@@ -90,7 +90,7 @@ std::string FirstCharacterReference(std::string_view text) {
                     text.substr(at, end - at + (end < text.size() && text[end] == ';')));
             continue;
         }
-        while (end < text.size() && (IsAsciiLetter(text[end]) ||
+        while (end < text.size() && (isAsciiLetter(text[end]) ||
                                      std::isdigit(static_cast<unsigned char>(text[end])) != 0))
             ++end;
         // A named one is taken as such with its ";"; the applet's own "&nbsp", "&y01" and

@@ -30,10 +30,10 @@ struct TypedText {
  * label's "\n", elsewhere a blank; a "|" in a link becomes "%7C"; whatever else the
  * field cannot hold (FieldCanHold) is left out and named in the note.
  */
-TypedText AcceptTyped(TypedField field, std::string_view typed);
+TypedText acceptTyped(TypedField field, std::string_view typed);
 
 /// The first character reference in `text` ("&#124;", "&#x7C;", "&amp;") that a browser
 /// decodes before any script reads a parameter; empty when there is none.
-std::string FirstCharacterReference(std::string_view text);
+std::string firstCharacterReference(std::string_view text);
 
 } // namespace orvelin

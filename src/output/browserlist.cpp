@@ -78,7 +78,7 @@ std::string execProgram(std::string_view exec) {
     if (!word.empty())
         words.push_back(word);
     std::size_t i = 0;
-    if (i < words.size() && BareFileName(words[i]) == "env") {
+    if (i < words.size() && bareFileName(words[i]) == "env") {
         ++i;
         while (i < words.size() && words[i].find('=') != std::string::npos)
             ++i;
@@ -106,7 +106,7 @@ std::string identity(const std::string& program) {
 
 } // namespace
 
-BrowserSearchPlaces BrowserSearchPlaces::FromEnvironment() {
+BrowserSearchPlaces BrowserSearchPlaces::fromEnvironment() {
     BrowserSearchPlaces places;
     const char* home = std::getenv("HOME");
     const std::string userData = home ? std::string(home) + "/.local/share" : std::string();
@@ -118,7 +118,7 @@ BrowserSearchPlaces BrowserSearchPlaces::FromEnvironment() {
     return places;
 }
 
-std::vector<BrowserEntry> DetectBrowsers(const BrowserSearchPlaces& places) {
+std::vector<BrowserEntry> detectBrowsers(const BrowserSearchPlaces& places) {
     std::vector<BrowserEntry> found;
     std::set<std::string> programs;
     std::set<std::string> entryFiles; // an entry in an earlier data folder hides a later one
@@ -142,8 +142,8 @@ std::vector<BrowserEntry> DetectBrowsers(const BrowserSearchPlaces& places) {
                 return entry.value("Desktop Entry", key, "");
             };
             if (!hasCategory(value("Categories"), "WebBrowser") ||
-                ToLowerAscii(value("NoDisplay")) == "true" ||
-                ToLowerAscii(value("Hidden")) == "true")
+                toLowerAscii(value("NoDisplay")) == "true" ||
+                toLowerAscii(value("Hidden")) == "true")
                 continue;
             add(value("Name"), findProgram(execProgram(value("Exec")), places.pathFolders));
         }
@@ -153,17 +153,17 @@ std::vector<BrowserEntry> DetectBrowsers(const BrowserSearchPlaces& places) {
     return found;
 }
 
-bool IsRunnableProgram(const std::string& program) {
-    return !findProgram(program, BrowserSearchPlaces::FromEnvironment().pathFolders).empty();
+bool isRunnableProgram(const std::string& program) {
+    return !findProgram(program, BrowserSearchPlaces::fromEnvironment().pathFolders).empty();
 }
 
-std::vector<BrowserEntry> LoadBrowsers(Settings& settings, const BrowserSearchPlaces& places) {
+std::vector<BrowserEntry> loadBrowsers(Settings& settings, const BrowserSearchPlaces& places) {
     const int count = MakeCInt(settings.value(SettingKey::BrowsersCount));
     std::vector<BrowserEntry> browsers{{kDefaultBrowserName, ""}};
     if (count <= 0) {
-        for (BrowserEntry& entry : DetectBrowsers(places))
+        for (BrowserEntry& entry : detectBrowsers(places))
             browsers.push_back(std::move(entry));
-        SaveBrowsers(settings, browsers);
+        saveBrowsers(settings, browsers);
         return browsers;
     }
     // Position 1 is the default browser's own; its stored name is kept for display.
@@ -176,7 +176,7 @@ std::vector<BrowserEntry> LoadBrowsers(Settings& settings, const BrowserSearchPl
     return browsers;
 }
 
-void SaveBrowsers(Settings& settings, const std::vector<BrowserEntry>& browsers) {
+void saveBrowsers(Settings& settings, const std::vector<BrowserEntry>& browsers) {
     const int count = static_cast<int>(browsers.size());
     for (int i = 1; i <= count; ++i) {
         const BrowserEntry& entry = browsers[static_cast<std::size_t>(i - 1)];
@@ -186,12 +186,12 @@ void SaveBrowsers(Settings& settings, const std::vector<BrowserEntry>& browsers)
     settings.setValue(SettingKey::BrowsersCount, std::to_string(count));
 }
 
-int SelectedBrowser(const Settings& settings, std::size_t count) {
+int selectedBrowser(const Settings& settings, std::size_t count) {
     const int position = MakeCInt(settings.value(SettingKey::BrowsersSelected));
     return position >= 0 && static_cast<std::size_t>(position) < count ? position : 0;
 }
 
-void SetSelectedBrowser(Settings& settings, int position) {
+void setSelectedBrowser(Settings& settings, int position) {
     settings.setValue(SettingKey::BrowsersSelected, std::to_string(position));
 }
 

@@ -28,7 +28,7 @@ struct BrowserSearchPlaces {
     std::vector<std::string> dataFolders;
     std::vector<std::string> pathFolders;
     /// The places of this session's environment.
-    static BrowserSearchPlaces FromEnvironment();
+    static BrowserSearchPlaces fromEnvironment();
 };
 
 /**
@@ -37,22 +37,22 @@ struct BrowserSearchPlaces {
  * that no entry named. One entry per program, in that order; programs that cannot be
  * run are left out.
  */
-std::vector<BrowserEntry> DetectBrowsers(const BrowserSearchPlaces& places);
+std::vector<BrowserEntry> detectBrowsers(const BrowserSearchPlaces& places);
 
 /// Whether `program` is a file this user may run (a bare name is looked up on the PATH).
-bool IsRunnableProgram(const std::string& program);
+bool isRunnableProgram(const std::string& program);
 
 /**
  * The stored list under "\Browsers" (Count, Name<i>, Path<i>). The first entry is
  * always the default browser. On first use (nothing stored yet) the list is the
  * default browser and every browser that DetectBrowsers finds, and it is stored.
  */
-std::vector<BrowserEntry> LoadBrowsers(Settings& settings, const BrowserSearchPlaces& places);
+std::vector<BrowserEntry> loadBrowsers(Settings& settings, const BrowserSearchPlaces& places);
 /// Stores `browsers` (the first one is taken to be the default browser).
-void SaveBrowsers(Settings& settings, const std::vector<BrowserEntry>& browsers);
+void saveBrowsers(Settings& settings, const std::vector<BrowserEntry>& browsers);
 
 /// The chooser's stored position, within 0 .. count-1 (0 when out of range).
-int SelectedBrowser(const Settings& settings, std::size_t count);
-void SetSelectedBrowser(Settings& settings, int position);
+int selectedBrowser(const Settings& settings, std::size_t count);
+void setSelectedBrowser(Settings& settings, int position);
 
 } // namespace orvelin

@@ -22,7 +22,7 @@ void cleanTail(std::string& out, std::size_t start) {
     static const std::array<bool, 256> refusedBytes = [] {
         std::array<bool, 256> table{};
         for (std::size_t b = 0; b < table.size(); ++b)
-            table[b] = !FieldCanHold(FieldKind::Raw, static_cast<char>(b));
+            table[b] = !fieldCanHold(FieldKind::Raw, static_cast<char>(b));
         return table;
     }();
     const auto refused = [](char c) { return refusedBytes[static_cast<unsigned char>(c)]; };
@@ -103,7 +103,7 @@ void integer(std::string& out, std::int32_t number) {
 
 void text(std::string& out, std::string_view field) {
     const std::size_t start = out.size();
-    AppendEncodedLabel(out, field);
+    appendEncodedLabel(out, field);
     cleanTail(out, start);
     out += '|';
 }
@@ -113,7 +113,7 @@ void fileName(std::string& out, std::string_view path) {
 }
 
 void colour(std::string& out, std::int32_t value) {
-    raw(out, ColorToWeb(value));
+    raw(out, colorToWeb(value));
 }
 
 /// Field `f` of `record` as the applet reads it, followed by its "|".
@@ -139,7 +139,7 @@ template <typename R> void appendField(std::string& out, const R& record, const 
 }
 
 void appendAppletValue(std::string& out, const ProjectModel& m, std::string_view appletName) {
-    for (const AppletParameterField& p : AppletParameterFields()) {
+    for (const AppletParameterField& p : appletParameterFields()) {
         if (!p.field)
             raw(out, p.fixed);
         else if (p.field->text == &ProjectModel::AppletName)
@@ -150,47 +150,47 @@ void appendAppletValue(std::string& out, const ProjectModel& m, std::string_view
 }
 
 void appendButtonValue(std::string& out, const ButtonRecord& b) {
-    for (const ButtonField& f : ButtonFields())
+    for (const ButtonField& f : buttonFields())
         appendField(out, b, f);
 }
 
 } // namespace
 
-std::string EncodedFileName(std::string_view path) {
-    return EncodeLabel(BareFileName(path));
+std::string encodedFileName(std::string_view path) {
+    return EncodeLabel(bareFileName(path));
 }
 
-int LastButton(const ProjectModel& model) {
+int lastButton(const ProjectModel& model) {
     return std::min<int>(model.ButtonCount, kButtonSlots - 1);
 }
 
-std::string DefaultAppletName(std::string_view projectFileName) {
+std::string defaultAppletName(std::string_view projectFileName) {
     if (projectFileName.empty())
         return MakeIdentifier(DecodeLabel("Orvelin"));
-    const std::string encoded = EncodedFileName(projectFileName);
+    const std::string encoded = encodedFileName(projectFileName);
     return MakeIdentifier(DecodeLabel(dropLastCharacters(encoded, 4)));
 }
 
-void SetAppletNameFromBox(ProjectModel& model, std::string_view typed) {
+void setAppletNameFromBox(ProjectModel& model, std::string_view typed) {
     model.AppletName = MakeIdentifier(DecodeLabel(typed));
 }
 
-bool UsesJavaScript(const ProjectModel& model) {
-    for (int i = 1; i <= LastButton(model); ++i) {
-        if (StartsWith(ToLowerAscii(model.Button(i).URL), "javascript:"))
+bool usesJavaScript(const ProjectModel& model) {
+    for (int i = 1; i <= lastButton(model); ++i) {
+        if (StartsWith(toLowerAscii(model.button(i).URL), "javascript:"))
             return true;
     }
     return false;
 }
 
-std::string JSCallerFromFile(const std::string& iniPath, std::string_view appletName) {
-    const std::optional<std::string> content = ReadTextFile(iniPath);
+std::string jsCallerFromFile(const std::string& iniPath, std::string_view appletName) {
+    const std::optional<std::string> content = readTextFile(iniPath);
     if (!content)
         return {};
     std::string block;
     bool started = false;
-    for (std::string_view line : SplitLines(*content)) {
-        const std::string upper = ToUpperAscii(line);
+    for (std::string_view line : splitLines(*content)) {
+        const std::string upper = toUpperAscii(line);
         if (upper == "[END OF JSCALLER]")
             break;
         if (started) {
@@ -205,12 +205,12 @@ std::string JSCallerFromFile(const std::string& iniPath, std::string_view applet
 }
 
 std::string GetJSCaller(std::string_view appletName) {
-    return JSCallerFromFile(JoinPath(ProgramFolder(), "Orvel.ini"), appletName);
+    return jsCallerFromFile(joinPath(programFolder(), "Orvel.ini"), appletName);
 }
 
-const std::string& NameTheApplet(ProjectModel& model) {
+const std::string& nameTheApplet(ProjectModel& model) {
     if (model.AppletName.empty())
-        model.AppletName = DefaultAppletName(model.ProjectFileName);
+        model.AppletName = defaultAppletName(model.ProjectFileName);
     return model.AppletName;
 }
 
@@ -252,14 +252,14 @@ GeneratedHtml MakeHTML(const ProjectModel& model, std::string_view appletName,
     appendAppletValue(out, model, appletName);
     closeParam(out);
 
-    for (int i = 1; i <= LastButton(model); ++i) {
+    for (int i = 1; i <= lastButton(model); ++i) {
         openParam(out, std::to_string(i));
-        appendButtonValue(out, model.Button(i));
+        appendButtonValue(out, model.button(i));
         closeParam(out);
     }
     appendLine(out, "</applet>");
 
-    result.usesJavaScript = UsesJavaScript(model);
+    result.usesJavaScript = usesJavaScript(model);
     if (result.usesJavaScript)
         appendLine(out, jsCaller);
 

@@ -39,21 +39,21 @@ GeneratedHtml MakeHTML(const ProjectModel& model, std::string_view appletName,
 
 /// The applet name a page is made with: an unnamed applet first gets its default
 /// (DefaultAppletName), which the model keeps.
-const std::string& NameTheApplet(ProjectModel& model);
+const std::string& nameTheApplet(ProjectModel& model);
 
 /**
  * The name an unnamed applet gets: "Orvelin" for a project without a file, else the
  * file's bare name (as the applet would receive it) minus its last four characters
  * (the ".orv"), made safe with DecodeLabel and MakeIdentifier.
  */
-std::string DefaultAppletName(std::string_view projectFileName);
+std::string defaultAppletName(std::string_view projectFileName);
 
 /// What the applet-name box does on every key release: the box keeps what was
 /// typed, the model gets MakeIdentifier(DecodeLabel(typed)).
-void SetAppletNameFromBox(ProjectModel& model, std::string_view typed);
+void setAppletNameFromBox(ProjectModel& model, std::string_view typed);
 
 /// True when some button's URL, in lower case, starts with "javascript:".
-bool UsesJavaScript(const ProjectModel& model);
+bool usesJavaScript(const ProjectModel& model);
 
 /**
  * The JSCaller block of the program folder's Orvel.ini with every "AppletName"
@@ -63,13 +63,13 @@ bool UsesJavaScript(const ProjectModel& model);
  */
 std::string GetJSCaller(std::string_view appletName);
 /// The same, from a given file.
-std::string JSCallerFromFile(const std::string& iniPath, std::string_view appletName);
+std::string jsCallerFromFile(const std::string& iniPath, std::string_view appletName);
 
 /// A file's name as the applet receives it, and as publishing names its copy: the bare
 /// name (after the last "/" or "\") through EncodeLabel ("home up.gif" -> "home&nbspup.gif").
-std::string EncodedFileName(std::string_view path);
+std::string encodedFileName(std::string_view path);
 
 /// The last button the applet code holds: ButtonCount, kept inside the button table.
-int LastButton(const ProjectModel& model);
+int lastButton(const ProjectModel& model);
 
 } // namespace orvelin

@@ -45,14 +45,14 @@ std::optional<std::string> readBytes(const std::string& path) {
 }
 
 bool isSunAudio(const std::string& name) {
-    return name.size() > 3 && ToLowerAscii(name.substr(name.size() - 3)) == ".au";
+    return name.size() > 3 && toLowerAscii(name.substr(name.size() - 3)) == ".au";
 }
 
 /// Copies `file` into `folder`. The copy is written beside its destination and renamed
 /// over it, so a disk that fills leaves the earlier file, never half of the new one.
 /// A Sun audio sound gets the player's script beside it (see SoundScriptText).
 bool copyInto(const PageFile& file, const std::string& folder) {
-    const std::string destination = JoinPath(folder, file.name);
+    const std::string destination = joinPath(folder, file.name);
     const bool same = samePlace(file.source, destination);
     const bool sunAudio = file.kind == PageFile::Kind::Sound && isSunAudio(file.name);
     if (same && !sunAudio)
@@ -60,24 +60,24 @@ bool copyInto(const PageFile& file, const std::string& folder) {
     const std::optional<std::string> bytes = readBytes(file.source);
     return bytes &&
            (!sunAudio ||
-            WriteFileAtomically(destination + ".js", SoundScriptText(file.name, *bytes))) &&
-           (same || WriteFileAtomically(destination, *bytes));
+            writeFileAtomically(destination + ".js", soundScriptText(file.name, *bytes))) &&
+           (same || writeFileAtomically(destination, *bytes));
 }
 
 void addFile(std::vector<PageFile>& files, PageFile::Kind kind, int button,
              const std::string& stored, const std::string& projectFolder) {
     if (stored.empty())
         return;
-    std::string source = ResolveStoredPath(stored, projectFolder);
+    std::string source = resolveStoredPath(stored, projectFolder);
     if (source.empty())
         source = stored;
-    files.push_back({kind, button, std::move(source), EncodedFileName(stored)});
+    files.push_back({kind, button, std::move(source), encodedFileName(stored)});
 }
 
 std::string withCancelHint(std::string text) {
     text.append(kCrLf);
     text.append(kCrLf);
-    text.append(Messages()[Msg::PressCancelToStop]);
+    text.append(messages()[Msg::PressCancelToStop]);
     return text;
 }
 
@@ -93,17 +93,17 @@ bool writePage(const std::string& path, const PageSource& page, const std::vecto
     std::error_code ec;
     for (const PageFile& file : files) {
         if (file.kind == PageFile::Kind::Player && !fs::is_regular_file(file.source, ec)) {
-            ui.showMessage(ReplaceAll(Messages()[Msg::PlayerMissing], "%1", file.source));
+            ui.showMessage(ReplaceAll(messages()[Msg::PlayerMissing], "%1", file.source));
             return false;
         }
     }
     TextFileError error;
     if (fs::is_directory(path, ec))
         error.description = "it is a folder";
-    else if (WriteFileAtomically(path, PageText(page.code, page.usesJavaScript, page.withPlayer),
+    else if (writeFileAtomically(path, pageText(page.code, page.usesJavaScript, page.withPlayer),
                                  &error))
         return true;
-    ui.showMessage(Messages()[Msg::PageNotWritten] + path + ": " + error.description);
+    ui.showMessage(messages()[Msg::PageNotWritten] + path + ": " + error.description);
     return false;
 }
 
@@ -120,11 +120,11 @@ bool copyProgramFiles(const std::vector<PageFile>& files, const std::string& fol
         if (!isProgramFile(file) || copyInto(file, folder))
             continue;
         if (file.kind == PageFile::Kind::Player) {
-            ui.showMessage(Messages()[Msg::PlayerNotCopied] + JoinPath(folder, file.name));
+            ui.showMessage(messages()[Msg::PlayerNotCopied] + joinPath(folder, file.name));
             return false;
         }
         if (!appletOptional || fs::exists(file.source, ec)) {
-            ui.showMessage(Messages()[appletFailure]);
+            ui.showMessage(messages()[appletFailure]);
             return false;
         }
     }
@@ -133,26 +133,26 @@ bool copyProgramFiles(const std::vector<PageFile>& files, const std::string& fol
 
 } // namespace
 
-std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder,
+std::vector<PageFile> pageFiles(const ProjectModel& model, const std::string& programFolder,
                                 bool withPlayer) {
     std::vector<PageFile> files;
     for (const char* name : {kAppletClassFile, kAppletArchiveFile})
-        files.push_back({PageFile::Kind::Applet, 0, JoinPath(programFolder, name), name});
+        files.push_back({PageFile::Kind::Applet, 0, joinPath(programFolder, name), name});
     if (withPlayer)
         files.push_back(
-            {PageFile::Kind::Player, 0, JoinPath(programFolder, kPlayerFile), kPlayerFile});
-    const std::string projectFolder = ProjectFolderOf(model.ProjectFileName);
+            {PageFile::Kind::Player, 0, joinPath(programFolder, kPlayerFile), kPlayerFile});
+    const std::string projectFolder = projectFolderOf(model.ProjectFileName);
     addFile(files, PageFile::Kind::Background, 0, model.BackImg, projectFolder);
-    for (int i = 1; i <= LastButton(model); ++i)
+    for (int i = 1; i <= lastButton(model); ++i)
         for (ButtonState s : kStates)
-            addFile(files, PageFile::Kind::Image, i, model.Button(i).Image(s), projectFolder);
-    for (int i = 1; i <= LastButton(model); ++i)
+            addFile(files, PageFile::Kind::Image, i, model.button(i).image(s), projectFolder);
+    for (int i = 1; i <= lastButton(model); ++i)
         for (ButtonState s : kStates)
-            addFile(files, PageFile::Kind::Sound, i, model.Button(i).Sound(s), projectFolder);
+            addFile(files, PageFile::Kind::Sound, i, model.button(i).sound(s), projectFolder);
     return files;
 }
 
-std::string SoundScriptText(std::string_view name, std::string_view bytes) {
+std::string soundScriptText(std::string_view name, std::string_view bytes) {
     static constexpr char kDigits[] =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string text = "(window.OrvelinSounds = window.OrvelinSounds || {})[\"";
@@ -182,7 +182,7 @@ std::string SoundScriptText(std::string_view name, std::string_view bytes) {
     return text;
 }
 
-std::string PageText(std::string_view code, bool usesJavaScript, bool withPlayer) {
+std::string pageText(std::string_view code, bool usesJavaScript, bool withPlayer) {
     std::string page;
     const bool beyondAscii = std::any_of(
         code.begin(), code.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
@@ -213,11 +213,11 @@ std::string PageText(std::string_view code, bool usesJavaScript, bool withPlayer
     return page;
 }
 
-std::string PreviewPagePath() {
-    return JoinPath(WritableProgramFolder(), "AppletTemp/Temp.htm");
+std::string previewPagePath() {
+    return joinPath(writableProgramFolder(), "AppletTemp/Temp.htm");
 }
 
-int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
+int copyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
                    UserInterface& ui) {
     int failed = 0;
     bool showMessages = true;
@@ -229,52 +229,52 @@ int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder
             continue;
         const std::string text =
             file.kind == PageFile::Kind::Background
-                ? Messages()[Msg::CantCopyBackground]
-                : Messages()[Msg::CantCopyButtonFiles] + std::to_string(file.button);
+                ? messages()[Msg::CantCopyBackground]
+                : messages()[Msg::CantCopyButtonFiles] + std::to_string(file.button);
         showMessages = ui.askOkCancel(withCancelHint(text)) != UserInterface::Answer::Cancel;
     }
     return failed;
 }
 
-bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
+bool previewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
                  UserInterface& ui, Shell& shell) {
-    const std::string path = PreviewPagePath();
-    const std::string folder = FolderOf(path);
+    const std::string path = previewPagePath();
+    const std::string folder = folderOf(path);
     std::error_code ec;
     fs::create_directories(folder, ec); // an existing folder is no error
-    const std::vector<PageFile> files = PageFiles(model, ProgramFolder(), page.withPlayer);
+    const std::vector<PageFile> files = pageFiles(model, programFolder(), page.withPlayer);
     if (!writePage(path, page, files, ui))
         return false;
     // The applet files are not part of this program: a machine without them still
     // previews the page, but one that has them must get them copied.
     if (!copyProgramFiles(files, folder, true, Msg::CantCopyClassFiles, ui))
         return false;
-    CopyMediaFiles(files, folder, ui);
+    copyMediaFiles(files, folder, ui);
 
     const bool opened =
-        program.empty() ? shell.OpenDocument(path) : shell.StartProgram(program, {path});
+        program.empty() ? shell.openDocument(path) : shell.startProgram(program, {path});
     if (!opened)
-        ui.showMessage(path + Messages()[Msg::PageNotOpened]);
+        ui.showMessage(path + messages()[Msg::PageNotOpened]);
     return opened;
 }
 
-bool BuildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
+bool buildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
                UserInterface& ui) {
-    const std::vector<PageFile> files = PageFiles(model, ProgramFolder(), page.withPlayer);
+    const std::vector<PageFile> files = pageFiles(model, programFolder(), page.withPlayer);
     if (!writePage(target, page, files, ui))
         return false;
-    const std::string folder = FolderOf(target);
+    const std::string folder = folderOf(target);
     // A failure leaves the page: it is complete, only what plays it is missing. A page
     // that the player plays needs no applet files.
     if (!copyProgramFiles(files, folder, page.withPlayer, Msg::CantCopyAppletClassFiles, ui))
         return false;
-    return CopyMediaFiles(files, folder, ui) == 0;
+    return copyMediaFiles(files, folder, ui) == 0;
 }
 
-bool BuildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui) {
+bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui) {
     const std::optional<std::string> target =
-        ui.chooseSaveFile(kPageFileFilter, DefaultAppletName(model.ProjectFileName) + ".html");
-    return target && BuildPage(model, page, *target, ui);
+        ui.chooseSaveFile(kPageFileFilter, defaultAppletName(model.ProjectFileName) + ".html");
+    return target && buildPage(model, page, *target, ui);
 }
 
 } // namespace orvelin

@@ -41,7 +41,7 @@ struct PageFile {
  * button's sounds in the same order. Empty paths are left out; a file named by two
  * buttons is listed (and copied) twice.
  */
-std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& programFolder,
+std::vector<PageFile> pageFiles(const ProjectModel& model, const std::string& programFolder,
                                 bool withPlayer = false);
 
 /**
@@ -51,10 +51,10 @@ std::vector<PageFile> PageFiles(const ProjectModel& model, const std::string& pr
  * holding characters beyond ASCII starts with a UTF-8 byte-order mark so that
  * browsers read it right; the text is otherwise exactly the same.
  */
-std::string PageText(std::string_view code, bool usesJavaScript, bool withPlayer = false);
+std::string pageText(std::string_view code, bool usesJavaScript, bool withPlayer = false);
 
 /// The preview page: AppletTemp/Temp.htm in the program's writable folder.
-std::string PreviewPagePath();
+std::string previewPagePath();
 
 /**
  * The media copy routine: copies the background, image and sound files of `files`
@@ -63,7 +63,7 @@ std::string PreviewPagePath();
  * background or the button; Cancel silences the messages for the rest of the run,
  * while the copying goes on. Returns how many files could not be copied.
  */
-int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
+int copyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
                    UserInterface& ui);
 
 /**
@@ -72,7 +72,7 @@ int CopyMediaFiles(const std::vector<PageFile>& files, const std::string& folder
  * the page's OrvelinSounds map. Browsers play no Sun audio and a page opened from disk
  * may not read a file beside it, but it may load a script.
  */
-std::string SoundScriptText(std::string_view name, std::string_view bytes);
+std::string soundScriptText(std::string_view name, std::string_view bytes);
 
 /// What the applet code was generated as: its text and whether it calls JavaScript;
 /// and whether its page plays through the HTML5 player.
@@ -90,7 +90,7 @@ struct PageSource {
  * browser; every failure is shown. A page that would play without its player is not
  * written: the message names the missing file.
  */
-bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
+bool previewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
                  UserInterface& ui, Shell& shell);
 
 /**
@@ -101,7 +101,7 @@ bool PreviewPage(const ProjectModel& model, const PageSource& page, const std::s
  * Applet Class files" after the page is written, unless the page plays through the
  * player, which needs no applet. Returns true when nothing failed.
  */
-bool BuildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
+bool buildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
                UserInterface& ui);
 
 /// The file filter of the build's save dialog.
@@ -112,6 +112,6 @@ inline constexpr const char* kPageFileFilter = "HTML (*.htm;*.html);;All Files (
  * followed by ".html"; cancelling writes nothing. Returns true when a build ran and
  * nothing failed.
  */
-bool BuildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui);
+bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui);
 
 } // namespace orvelin

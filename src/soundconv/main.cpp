@@ -21,7 +21,7 @@ constexpr const char* kUsage =
     "Sun audio: FILE.au, 8000 Hz, mono, 8-bit mu-law, beside each FILE or in DIR.\n"
     "Without files, opens the converter's window.\n";
 
-int ConvertOnCommandLine(int argc, char** argv) {
+int convertOnCommandLine(int argc, char** argv) {
     std::string folder;
     std::vector<std::string> files;
     for (int i = 1; i < argc; ++i) {
@@ -46,7 +46,7 @@ int ConvertOnCommandLine(int argc, char** argv) {
     }
     int status = 0;
     for (const std::string& file : files) {
-        const orvelin::ConversionResult result = orvelin::ConvertToAu(file, folder);
+        const orvelin::ConversionResult result = orvelin::convertToAu(file, folder);
         if (result.ok) {
             std::cout << result.output << '\n';
         } else {
@@ -61,7 +61,7 @@ int ConvertOnCommandLine(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     if (argc > 1)
-        return ConvertOnCommandLine(argc, argv);
+        return convertOnCommandLine(argc, argv);
     QApplication app(argc, argv);
     QApplication::setWindowIcon(orvelin::AppIcon());
     orvelin::SoundConvWindow window;

@@ -21,12 +21,12 @@ struct SndfileCloser {
 };
 using SoundFile = std::unique_ptr<SNDFILE, SndfileCloser>;
 
-ConversionResult Failure(const std::string& input, const std::string& reason) {
+ConversionResult failure(const std::string& input, const std::string& reason) {
     return {false, {}, input + ": " + reason};
 }
 
 // The whole sound, mixed down to one channel; button sounds are seconds long.
-bool ReadMono(SNDFILE* file, const SF_INFO& info, std::vector<float>& mono, std::string& error) {
+bool readMono(SNDFILE* file, const SF_INFO& info, std::vector<float>& mono, std::string& error) {
     const auto channels = static_cast<std::size_t>(info.channels);
     std::vector<float> block(4096 * channels);
     mono.reserve(static_cast<std::size_t>(info.frames));
@@ -52,7 +52,7 @@ bool ReadMono(SNDFILE* file, const SF_INFO& info, std::vector<float>& mono, std:
     return true;
 }
 
-bool Resample(std::vector<float>& samples, int fromRate, std::string& error) {
+bool resample(std::vector<float>& samples, int fromRate, std::string& error) {
     if (fromRate == kAuRate)
         return true;
     const double ratio = static_cast<double>(kAuRate) / fromRate;
@@ -77,7 +77,7 @@ bool Resample(std::vector<float>& samples, int fromRate, std::string& error) {
     return true;
 }
 
-bool WriteAu(const std::string& path, const std::vector<float>& samples, std::string& error) {
+bool writeAu(const std::string& path, const std::vector<float>& samples, std::string& error) {
     SF_INFO info{};
     info.samplerate = kAuRate;
     info.channels = 1;
@@ -99,40 +99,40 @@ bool WriteAu(const std::string& path, const std::vector<float>& samples, std::st
 
 } // namespace
 
-std::string AuPathFor(const std::string& input, const std::string& outputFolder) {
+std::string auPathFor(const std::string& input, const std::string& outputFolder) {
     fs::path source(input);
     const fs::path folder = outputFolder.empty() ? source.parent_path() : fs::path(outputFolder);
     return (folder / source.filename().replace_extension(".au")).string();
 }
 
-ConversionResult ConvertToAu(const std::string& input, const std::string& outputFolder) {
-    const std::string output = AuPathFor(input, outputFolder);
+ConversionResult convertToAu(const std::string& input, const std::string& outputFolder) {
+    const std::string output = auPathFor(input, outputFolder);
     std::error_code ec;
     if (fs::equivalent(input, output, ec))
-        return Failure(input, "the converted sound would replace the file itself; choose "
+        return failure(input, "the converted sound would replace the file itself; choose "
                               "another folder");
 
     SF_INFO info{};
     SoundFile source(sf_open(input.c_str(), SFM_READ, &info));
     if (!source)
-        return Failure(input, std::string("not a sound file that can be read (") +
+        return failure(input, std::string("not a sound file that can be read (") +
                                   sf_strerror(nullptr) + ")");
     std::vector<float> samples;
     std::string error;
-    if (!ReadMono(source.get(), info, samples, error) || !Resample(samples, info.samplerate, error))
-        return Failure(input, error);
+    if (!readMono(source.get(), info, samples, error) || !resample(samples, info.samplerate, error))
+        return failure(input, error);
 
     // Written beside the target under a temporary name, then renamed over it.
     const std::string temporary = output + ".part";
-    if (!WriteAu(temporary, samples, error)) {
+    if (!writeAu(temporary, samples, error)) {
         fs::remove(temporary, ec);
-        return Failure(output, "cannot be written (" + error + ")");
+        return failure(output, "cannot be written (" + error + ")");
     }
     fs::rename(temporary, output, ec);
     if (ec) {
         const std::string reason = ec.message();
         fs::remove(temporary, ec);
-        return Failure(output, "cannot be written (" + reason + ")");
+        return failure(output, "cannot be written (" + reason + ")");
     }
     return {true, output, {}};
 }

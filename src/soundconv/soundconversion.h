@@ -12,7 +12,7 @@ struct ConversionResult {
 };
 
 /// `input`'s name with the extension ".au", in `outputFolder` (beside `input` when empty).
-std::string AuPathFor(const std::string& input, const std::string& outputFolder);
+std::string auPathFor(const std::string& input, const std::string& outputFolder);
 
 /**
  * Converts any sound file libsndfile reads (WAV, FLAC, Ogg, AIFF...) into the form
@@ -21,6 +21,6 @@ std::string AuPathFor(const std::string& input, const std::string& outputFolder)
  * temporary file and renamed into place, so a failure leaves no output and never
  * touches an earlier file of the same name.
  */
-ConversionResult ConvertToAu(const std::string& input, const std::string& outputFolder = {});
+ConversionResult convertToAu(const std::string& input, const std::string& outputFolder = {});
 
 } // namespace orvelin

@@ -120,7 +120,7 @@ int SoundConvWindow::convertAll() {
     m_progress->setValue(0);
     m_convert->setEnabled(false);
     for (int i = 0; i < count; ++i) {
-        const ConversionResult result = ConvertToAu(m_files->item(i)->text().toStdString(), folder);
+        const ConversionResult result = convertToAu(m_files->item(i)->text().toStdString(), folder);
         m_log->appendPlainText(QString::fromStdString(result.ok ? "Written: " + result.output
                                                                 : "Failed: " + result.error));
         failed += result.ok ? 0 : 1;

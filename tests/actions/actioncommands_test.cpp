@@ -22,7 +22,7 @@ std::string Built(const CommandResult& r) {
     return "<?>";
 }
 
-CommandInputs Button(int button, int state = 1, const char* label = "") {
+CommandInputs button(int button, int state = 1, const char* label = "") {
     CommandInputs in;
     in.haveButtons = true;
     in.button = button;
@@ -31,7 +31,7 @@ CommandInputs Button(int button, int state = 1, const char* label = "") {
     return in;
 }
 CommandInputs Move(const char* x, const char* y, const char* w, const char* h) {
-    CommandInputs in = Button(2);
+    CommandInputs in = button(2);
     in.x = x;
     in.y = y;
     in.width = w;
@@ -59,10 +59,10 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
         {5, none, "<no buttons>"},
         {6, none, "6 300"},
         {7, none, "7 0 go()"},
-        {0, Button(1), "<silent>"},
-        {8, Button(1), "<silent>"},
-        {1, Button(2), "1 2"},
-        {2, Button(7), "2 7"},
+        {0, button(1), "<silent>"},
+        {8, button(1), "<silent>"},
+        {1, button(2), "1 2"},
+        {2, button(7), "2 7"},
         // Empty boxes leave a value as it is; halves round to the even number.
         {3, Move("10", "", "", ""), "3 2 10 -999 -999 -999"},
         {3, Move("", "", "", ""), "3 2 -999 -999 -999 -999"},
@@ -73,15 +73,15 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
         {3, Move("32768", "", "", ""), "<wrong: Overflow>"},
         {3, Move("", "", "", "-32769"), "<wrong: Overflow>"},
         {3, Move(" ", "", "", ""), "<wrong: Type mismatch>"},
-        {4, Button(1, 2, ""), "4 1 2 &nbsp"},
-        {4, Button(3, 3, "Hi there|\"x\";y"), "4 3 3 Hi&nbspthereI&y02x&y02;y"},
+        {4, button(1, 2, ""), "4 1 2 &nbsp"},
+        {4, button(3, 3, "Hi there|\"x\";y"), "4 3 3 Hi&nbspthereI&y02x&y02;y"},
         // A colour needs exactly six characters, not checked to be hexadecimal.
-        {5, Button(1, 2, ""), "<silent>"},
-        {5, Button(1, 2, "12345"), "<silent>"},
-        {5, Button(1, 2, "1234567"), "<silent>"},
-        {5, Button(1, 2, "FF8000"), "5 1 2 FF8000"},
-        {5, Button(1, 2, "zzzzzz"), "5 1 2 zzzzzz"},
-        {5, Button(1, 2, "äöüÄÖÜ"), "5 1 2 äöüÄÖÜ"}, // six characters in twelve bytes
+        {5, button(1, 2, ""), "<silent>"},
+        {5, button(1, 2, "12345"), "<silent>"},
+        {5, button(1, 2, "1234567"), "<silent>"},
+        {5, button(1, 2, "FF8000"), "5 1 2 FF8000"},
+        {5, button(1, 2, "zzzzzz"), "5 1 2 zzzzzz"},
+        {5, button(1, 2, "äöüÄÖÜ"), "5 1 2 äöüÄÖÜ"}, // six characters in twelve bytes
         // Wait stores the positive number, or 5.
         {6, Typed("-250"), "6 250"},
         {6, Typed("abc"), "6 5"},
@@ -93,6 +93,6 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
     };
     for (auto [command, inputs, expected] : cases) {
         SCOPED_TRACE(std::to_string(command) + " " + inputs.label + inputs.x + inputs.milliseconds);
-        EXPECT_EQ(Built(BuildCommand(command, inputs)), expected);
+        EXPECT_EQ(Built(buildCommand(command, inputs)), expected);
     }
 }

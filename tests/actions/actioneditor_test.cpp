@@ -19,12 +19,12 @@ protected:
     void SetUp() override {
         model.ButtonCount = 3;
         model.CurrentButton = 2;
-        model.Button(1).ProgramOVER = "1 1;";
-        model.Button(2).ProgramOVER = "2 1;6 500;";
+        model.button(1).ProgramOVER = "1 1;";
+        model.button(2).ProgramOVER = "2 1;6 500;";
     }
 
     void open(const std::string& program) {
-        model.Button(2).ProgramOVER = program;
+        model.button(2).ProgramOVER = program;
         editor.open("ProgramOVER");
     }
     bool add(int command, int button = 0) {
@@ -60,10 +60,10 @@ TEST_F(ActionEditorTest, OkCopiesTheProgramToEverySelectedButtonOnly) {
     editor.inputs().milliseconds = "250";
     ASSERT_TRUE(add(Wait));
     editor.ok({false, true, true});
-    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;6 250;");
-    EXPECT_EQ(model.Button(3).ProgramOVER, "2 1;6 500;6 250;");
-    EXPECT_EQ(model.Button(1).ProgramOVER, "1 1;");
-    EXPECT_EQ(model.Button(2).ProgramUP, "");
+    EXPECT_EQ(model.button(2).ProgramOVER, "2 1;6 500;6 250;");
+    EXPECT_EQ(model.button(3).ProgramOVER, "2 1;6 500;6 250;");
+    EXPECT_EQ(model.button(1).ProgramOVER, "1 1;");
+    EXPECT_EQ(model.button(2).ProgramUP, "");
     EXPECT_FALSE(model.Saved);
     EXPECT_EQ(editor.targetButtons({false, true, true}), std::vector<int>({2, 3}));
     editor.open("AppletProgramOVER");
@@ -89,7 +89,7 @@ TEST_F(ActionEditorTest, AppletKindsUseTheProjectsSlot) {
     ASSERT_TRUE(add(Show, 2));
     editor.ok({true, true, true});
     EXPECT_EQ(model.AppletProgramOUT, "7 0 bye();1 3;");
-    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
+    EXPECT_EQ(model.button(2).ProgramOVER, "2 1;6 500;");
 }
 
 TEST_F(ActionEditorTest, UnknownKindIsReportedAndStoresNothing) {
@@ -98,8 +98,8 @@ TEST_F(ActionEditorTest, UnknownKindIsReportedAndStoresNothing) {
     EXPECT_TRUE(editor.commandLines().empty() && editor.readableLines().empty());
     ASSERT_TRUE(add(Show));
     editor.ok({true, true, true});
-    EXPECT_EQ(model.Button(1).ProgramOVER, "1 1;");
-    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
+    EXPECT_EQ(model.button(1).ProgramOVER, "1 1;");
+    EXPECT_EQ(model.button(2).ProgramOVER, "2 1;6 500;");
     EXPECT_EQ(model.AppletProgramStart, "");
 }
 
@@ -113,7 +113,7 @@ TEST_F(ActionEditorTest, CancellingWritesNothing) {
         scratch.remove();
         scratch.paste();
     } // closed without OK
-    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
+    EXPECT_EQ(model.button(2).ProgramOVER, "2 1;6 500;");
     EXPECT_TRUE(model.Saved);
 }
 
@@ -187,7 +187,7 @@ TEST_F(ActionEditorTest, CopyThenPasteDoublesTheProgramAndPastedTextNeedsItsFina
     editor.paste();
     EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;");
     EXPECT_EQ(editor.readableLines().size(), 4u);
-    EXPECT_EQ(model.Button(2).ProgramOVER, "2 1;6 500;");
+    EXPECT_EQ(model.button(2).ProgramOVER, "2 1;6 500;");
     buffer.text = "1 3;2 3"; // without its final ";": the last command is lost
     editor.paste();
     EXPECT_EQ(editor.storeProgram(), "2 1;6 500;2 1;6 500;1 3;");
@@ -305,7 +305,7 @@ TEST_F(ActionEditorTest, ReplacedTextsShowInTheLists) {
     texts.at(15) = "Zeigen";
     texts.at(11) = "Höhe:";
     ActionEditor german(model, ui, buffer, texts, {"Oben", "Über", "Unten"});
-    model.Button(2).ProgramOVER = "1 2;3 1 1 2 3 4;4 1 2 x;";
+    model.button(2).ProgramOVER = "1 2;3 1 1 2 3 4;4 1 2 x;";
     german.open("ProgramOVER");
     EXPECT_EQ(german.readableLines(),
               Lines({"Zeigen Button 2", "Move Button 1  ->  x:1 y:2 width:3 Höhe:4",

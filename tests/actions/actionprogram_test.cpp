@@ -18,7 +18,7 @@ ReadableTexts FreshProjectTexts(int buttons) {
 }
 
 std::string Readable(std::string_view line, int buttons = 3) {
-    return ReadableLine(line, FreshProjectTexts(buttons)).value_or("<none>");
+    return readableLine(line, FreshProjectTexts(buttons)).value_or("<none>");
 }
 
 } // namespace
@@ -28,9 +28,9 @@ TEST(ProgramText, EverySemicolonClosesALineAndTextAfterTheLastIsDropped) {
         {"", {}},    {"1 2;;", {"1 2", ""}},          {";", {""}}, {"1 2;2 3", {"1 2"}},
         {"1 2", {}}, {"4 1 1 a;b;", {"4 1 1 a", "b"}}};
     for (const auto& [program, lines] : cases)
-        EXPECT_EQ(SplitProgram(program), lines) << program;
-    EXPECT_EQ(JoinProgram({}), "");
-    EXPECT_EQ(JoinProgram({"1 2", "", "2 3"}), "1 2;;2 3;");
+        EXPECT_EQ(splitProgram(program), lines) << program;
+    EXPECT_EQ(joinProgram({}), "");
+    EXPECT_EQ(joinProgram({"1 2", "", "2 3"}), "1 2;;2 3;");
 }
 
 TEST(ProgramText, GetWordCountsFromOneAndTwoBlanksMakeAnEmptyWord) {
@@ -90,5 +90,5 @@ TEST(ReadableLines, UseTheTextsTheyAreGiven) {
     t.buttons = {"Knopf 1", "Knopf 2"};
     t.widthCaption = "Breite:";
     t.heightCaption = "Höhe:";
-    EXPECT_EQ(ReadableLine("3 2 1 2 3 4", t), "Verschieben Knopf 2  ->  x:1 y:2 Breite:3 Höhe:4");
+    EXPECT_EQ(readableLine("3 2 1 2 3 4", t), "Verschieben Knopf 2  ->  x:1 y:2 Breite:3 Höhe:4");
 }

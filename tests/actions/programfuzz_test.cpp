@@ -41,15 +41,15 @@ TEST(ProgramFuzz, AnyTextSplitsJoinsAndReadsConsistently) {
     for (int round = 0; round < 5000; ++round) {
         const std::string text = RandomProgram(rng);
         SCOPED_TRACE(text);
-        const std::vector<std::string> lines = SplitProgram(text);
+        const std::vector<std::string> lines = splitProgram(text);
         // Joining gives back the text up to its last ";": the tail is what splitting drops.
         const std::size_t last = text.rfind(';');
-        EXPECT_EQ(JoinProgram(lines), last == std::string::npos ? "" : text.substr(0, last + 1));
+        EXPECT_EQ(joinProgram(lines), last == std::string::npos ? "" : text.substr(0, last + 1));
         for (const std::string& line : lines) {
             EXPECT_EQ(line.find(';'), std::string::npos);
-            const std::optional<std::string> readable = ReadableLine(line, texts);
+            const std::optional<std::string> readable = readableLine(line, texts);
             // A line the list shows is one the editor can load back, and no other.
-            EXPECT_EQ(readable.has_value(), CommandNumber(line) != 0);
+            EXPECT_EQ(readable.has_value(), commandNumber(line) != 0);
             for (int n = 1; n <= 8; ++n)
                 EXPECT_EQ(GetWord(line, n).find(' '), std::string::npos);
         }
@@ -63,8 +63,8 @@ TEST(ProgramFuzz, TheEditorKeepsItsListsInStepWithAnyStoredProgram) {
         ProjectModel model;
         model.ButtonCount = 2;
         model.CurrentButton = 1;
-        model.Button(1).ProgramOVER = RandomProgram(rng);
-        SCOPED_TRACE(model.Button(1).ProgramOVER);
+        model.button(1).ProgramOVER = RandomProgram(rng);
+        SCOPED_TRACE(model.button(1).ProgramOVER);
         orvelin::testing::FakeUserInterface ui;
         ProgramBuffer buffer{RandomProgram(rng)};
         ActionEditor editor(model, ui, buffer);
@@ -98,7 +98,7 @@ TEST(ProgramFuzz, TheEditorKeepsItsListsInStepWithAnyStoredProgram) {
             EXPECT_LT(editor.selection(), static_cast<int>(editor.readableLines().size()));
         }
         editor.ok({true, false});
-        EXPECT_EQ(model.Button(1).ProgramOVER, editor.storeProgram());
-        EXPECT_EQ(SplitProgram(model.Button(1).ProgramOVER), editor.commandLines());
+        EXPECT_EQ(model.button(1).ProgramOVER, editor.storeProgram());
+        EXPECT_EQ(splitProgram(model.button(1).ProgramOVER), editor.commandLines());
     }
 }

@@ -92,8 +92,8 @@ TEST(Designer, TheHandlesSurroundTheCurrentButtonFromStartUpAndAfterAdd) {
 TEST(Designer, TheCurrentButtonTakenOutOfTheSelectionIsShownButNotEdited) {
     Program p;
     QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
-    p.model().Button(2).x = 200;
-    p.design().RedrawAll();
+    p.model().button(2).x = 200;
+    p.design().redrawAll();
     QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, {}, QPoint(5, 5));
     for (int i = 0; i < 2; ++i)
         QTest::mouseClick(p.design().pButtons(2), Qt::LeftButton, Qt::ControlModifier,
@@ -103,7 +103,7 @@ TEST(Designer, TheCurrentButtonTakenOutOfTheSelectionIsShownButNotEdited) {
     EXPECT_FALSE(p.find<QLineEdit>("txtWidth")->isEnabled());
     EXPECT_TRUE(p.find<QLabel>("lblFieldNote")->text().startsWith(QStringLiteral("Button 2 ")));
 
-    p.model().Button(2).Width = 60; // changed behind the panel's back
+    p.model().button(2).Width = 60; // changed behind the panel's back
     QTest::mouseClick(p.design().pButtons(2), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_TRUE(p.find<QLineEdit>("txtWidth")->isEnabled());
     EXPECT_EQ(p.find<QLineEdit>("txtWidth")->text(), QStringLiteral("60"));
@@ -113,10 +113,10 @@ TEST(Designer, TheCurrentButtonTakenOutOfTheSelectionIsShownButNotEdited) {
 TEST(Designer, AFontSizeBeingTypedOrRefusedShowsNoMessageBoxesAndABrokenLabelOneMessage) {
     Program p;
     for (int i = 1; i < 101; ++i)
-        p.main().editor().AddButton();
+        p.main().editor().addButton();
     std::vector<int> all(101);
     std::iota(all.begin(), all.end(), 1);
-    p.main().editor().SetListSelection(all);
+    p.main().editor().setListSelection(all);
     p.ui.shown.clear();
 
     QLineEdit* size = p.find<QComboBox>("lsFontSize")->lineEdit();
@@ -126,19 +126,19 @@ TEST(Designer, AFontSizeBeingTypedOrRefusedShowsNoMessageBoxesAndABrokenLabelOne
     QTest::keyClicks(size, QStringLiteral("0"));
     EXPECT_TRUE(p.ui.shown.empty());
     EXPECT_FALSE(p.find<QLabel>("lblFieldNote")->text().isEmpty());
-    EXPECT_EQ(p.model().Button(57).FontSizeUP, p.model().Button(1).FontSizeUP);
+    EXPECT_EQ(p.model().button(57).FontSizeUP, p.model().button(1).FontSizeUP);
     QTest::keyClick(size, Qt::Key_Backspace);
     QTest::keyClicks(size, QStringLiteral("14"));
-    EXPECT_EQ(p.model().Button(101).FontSizeUP, 14);
+    EXPECT_EQ(p.model().button(101).FontSizeUP, 14);
     EXPECT_TRUE(p.find<QLabel>("lblFieldNote")->text().isEmpty());
 
     // A label that really cannot be drawn (a damaged project) says so once per action.
     for (int i = 1; i <= 101; ++i)
-        p.model().Button(i).FontSizeOVER = -3;
-    p.main().editor().SwitchState("OVER");
+        p.model().button(i).FontSizeOVER = -3;
+    p.main().editor().switchState("OVER");
     QCoreApplication::processEvents();
-    p.main().editor().SwitchState("UP");
-    p.main().editor().SwitchState("OVER");
+    p.main().editor().switchState("UP");
+    p.main().editor().switchState("OVER");
     EXPECT_EQ(p.ui.shown.size(), 2u);
 }
 
@@ -146,19 +146,19 @@ TEST(Designer, TypedTextKeepsOnlyWhatItsFieldCanStoreAndSaysSo) {
     Program p;
     QLabel* note = p.find<QLabel>("lblFieldNote");
     p.type("txtURL", QStringLiteral("a.html?x=1|2"));
-    EXPECT_EQ(p.model().Button(1).URL, "a.html?x=1%7C2");
+    EXPECT_EQ(p.model().button(1).URL, "a.html?x=1%7C2");
     EXPECT_FALSE(note->text().isEmpty());
     p.type("txtStatus", QStringLiteral("say \"hi\"|now"));
-    EXPECT_EQ(p.model().Button(1).Status, "say \"hi\"now");
+    EXPECT_EQ(p.model().button(1).Status, "say \"hi\"now");
     EXPECT_TRUE(note->text().contains(QStringLiteral("\"|\"")));
     // A pasted line break is the label's own line break, a blank elsewhere.
     QLineEdit* label = p.find<QLineEdit>("txtLabel");
     label->selectAll();
     label->insert(QStringLiteral("Home\r\npage"));
-    EXPECT_EQ(p.model().Button(1).LabelUP, "Home\\npage");
+    EXPECT_EQ(p.model().button(1).LabelUP, "Home\\npage");
     p.find<QComboBox>("lsFont")->lineEdit()->selectAll();
     p.find<QComboBox>("lsFont")->lineEdit()->insert(QStringLiteral("Ari|al\"\n"));
-    EXPECT_EQ(p.model().Button(1).FontUP, "Arial ");
+    EXPECT_EQ(p.model().button(1).FontUP, "Arial ");
     // What a browser would turn into another character is named beside the field.
     p.type("txtLabel", QStringLiteral("A&#124;B"));
     EXPECT_TRUE(note->text().contains(QStringLiteral("&#124;")));
@@ -174,7 +174,7 @@ TEST(Designer, DialogsComeUpAboveADesignWindowKeptOnTopAndTheTitleMarksChanges) 
     idle.exec();
     EXPECT_TRUE(p.main().isWindowModified());
 
-    p.design().SetOnTop(true);
+    p.design().setOnTop(true);
     bool onTop = false;
     QTimer::singleShot(0, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
@@ -189,7 +189,7 @@ TEST(Designer, DialogsComeUpAboveADesignWindowKeptOnTopAndTheTitleMarksChanges) 
 TEST(Designer, AfterNewThePanelIsEmpty) {
     Program p;
     p.model().Saved = true;
-    p.main().editor().New();
+    p.main().editor().newProject();
     EXPECT_TRUE(p.find<QLineEdit>("txtWidth")->text().isEmpty());
     EXPECT_TRUE(p.find<QLineEdit>("txtLabel")->text().isEmpty());
     EXPECT_FALSE(p.find<QLineEdit>("txtWidth")->isEnabled());
@@ -213,7 +213,7 @@ TEST(Designer, TypingInOneFieldIsOneStepAndUndoingToTheSavedProjectLeavesItUncha
 
     // The keys undo the document, also where a field would undo its own text.
     QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(p.model().Button(1).URL, "");
+    EXPECT_EQ(p.model().button(1).URL, "");
     EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Label"));
     QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), label);
@@ -222,12 +222,12 @@ TEST(Designer, TypingInOneFieldIsOneStepAndUndoingToTheSavedProjectLeavesItUncha
     EXPECT_FALSE(p.main().isWindowModified());
 
     QTest::keyClick(p.find<QLineEdit>("txtURL"), Qt::Key_Y, Qt::ControlModifier);
-    EXPECT_EQ(p.model().Button(1).LabelUP, "Hi!");
+    EXPECT_EQ(p.model().button(1).LabelUP, "Hi!");
     EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), QStringLiteral("Hi!"));
     EXPECT_FALSE(p.model().Saved);
 
     p.model().Saved = true;
-    p.main().editor().New();
+    p.main().editor().newProject();
     p.idle();
     EXPECT_EQ(p.main().history().stack().count(), 0);
 }
@@ -235,11 +235,11 @@ TEST(Designer, TypingInOneFieldIsOneStepAndUndoingToTheSavedProjectLeavesItUncha
 TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollows) {
     Program p;
     QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
-    p.model().Button(2).x = 200;
-    p.design().RedrawAll();
+    p.model().button(2).x = 200;
+    p.design().redrawAll();
     p.idle();
     p.main().history().clear();
-    const std::string start = ProjectText(p.model());
+    const std::string start = projectText(p.model());
 
     ButtonPicture* picture = p.design().pButtons(2);
     QTest::mousePress(picture, Qt::LeftButton, {}, QPoint(5, 5));
@@ -249,13 +249,13 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     }
     QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(35, 5));
     p.idle();
-    ASSERT_NE(p.model().Button(2).x, 200);
+    ASSERT_NE(p.model().button(2).x, 200);
     EXPECT_EQ(p.main().history().stack().count(), 1);
     EXPECT_EQ(p.undoText(), QStringLiteral("Undo Move Button"));
 
-    p.main().editor().DuplicateButton();
+    p.main().editor().duplicateButton();
     p.idle();
-    p.main().editor().RemoveButton();
+    p.main().editor().removeButton();
     p.idle();
     // The offset dialog previews as the user turns its boxes: one step, on OK.
     QTimer::singleShot(0, [&] {
@@ -267,28 +267,28 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     });
     p.find<QPushButton>("btnBgOffset")->click();
     p.idle();
-    const std::string end = ProjectText(p.model());
+    const std::string end = projectText(p.model());
     EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Background Offset"));
     EXPECT_EQ(p.main().history().stack().count(), 4);
 
     for (int i = 0; i < 4; ++i)
         p.main().history().undo();
-    EXPECT_EQ(ProjectText(p.model()), start);
+    EXPECT_EQ(projectText(p.model()), start);
     // Nothing but the restored document told the surface what to show.
     EXPECT_EQ(p.design().pButtons(2)->x(), 200);
     EXPECT_EQ(p.design().pButtons(3), nullptr);
     EXPECT_EQ(p.find<QListWidget>("lstButtons")->count(), 2);
     for (int i = 0; i < 4; ++i)
         p.main().history().redo();
-    EXPECT_EQ(ProjectText(p.model()), end);
+    EXPECT_EQ(projectText(p.model()), end);
 }
 
 TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
     Program a;
-    a.main().editor().AddButton();
-    a.main().editor().AddButton();
-    a.model().Button(3).LabelUP = "Copied | \"label\"";
-    a.main().editor().SetListSelection({2, 3});
+    a.main().editor().addButton();
+    a.main().editor().addButton();
+    a.model().button(3).LabelUP = "Copied | \"label\"";
+    a.main().editor().setListSelection({2, 3});
     QTest::keyClick(a.find("lstButtons"), Qt::Key_C, Qt::ControlModifier);
 
     Program b;
@@ -296,11 +296,11 @@ TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
     b.main().history().clear();
     QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
     ASSERT_EQ(b.model().ButtonCount, 3);
-    ButtonRecord expected = a.model().Button(3);
+    ButtonRecord expected = a.model().button(3);
     expected.x += kDuplicateOffset;
     expected.y += kDuplicateOffset;
     // As a project file keeps it: a "|" in a label comes back as "I".
-    EXPECT_EQ(SerializeButton(b.model().Button(3)), SerializeButton(expected));
+    EXPECT_EQ(serializeButton(b.model().button(3)), serializeButton(expected));
     EXPECT_EQ(b.designer.selection().selectedButtons(), std::vector<int>({2, 3}));
     EXPECT_NE(b.design().pButtons(3), nullptr);
     b.idle();
@@ -308,7 +308,7 @@ TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
 
     // Past the limit nothing is added; text that is not buttons is ignored.
     while (b.model().ButtonCount < 100)
-        b.main().editor().AddButton();
+        b.main().editor().addButton();
     b.ui.shown.clear();
     QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(b.model().ButtonCount, 100);
@@ -327,16 +327,16 @@ TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {
     const QRect screen(0, 0, 1280, 800);
     const QSize wanted(560, 300), minimum(300, 180);
     // Room below the editor: there, shortened to fit.
-    QRect place = PlaceDesignWindow(screen, QRect(16, 16, 900, 560), wanted, minimum);
+    QRect place = placeDesignWindow(screen, QRect(16, 16, 900, 560), wanted, minimum);
     EXPECT_FALSE(place.intersects(QRect(16, 16, 900, 560)));
     EXPECT_TRUE(screen.contains(place));
     EXPECT_EQ(place.height(), 800 - (16 + 560 + 8));
     // A tall editor: to its right.
-    place = PlaceDesignWindow(screen, QRect(16, 16, 700, 700), wanted, minimum);
+    place = placeDesignWindow(screen, QRect(16, 16, 700, 700), wanted, minimum);
     EXPECT_EQ(place.left(), 16 + 700 + 8);
     EXPECT_TRUE(screen.contains(place));
     // No room anywhere: the minimum size at the bottom of the screen.
-    place = PlaceDesignWindow(screen, QRect(0, 0, 1200, 780), wanted, minimum);
+    place = placeDesignWindow(screen, QRect(0, 0, 1200, 780), wanted, minimum);
     EXPECT_EQ(place.bottom(), 799);
     EXPECT_EQ(place.height(), 180);
 }
@@ -346,10 +346,10 @@ TEST(Designer, ArrangeCommandsFollowTheSelectionAndEachIsOneNamedStep) {
     QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
     QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
     for (int i = 1; i <= 3; ++i) {
-        p.model().Button(i).x = static_cast<std::int16_t>(40 * i);
-        p.model().Button(i).y = static_cast<std::int16_t>(3 * i);
+        p.model().button(i).x = static_cast<std::int16_t>(40 * i);
+        p.model().button(i).y = static_cast<std::int16_t>(3 * i);
     }
-    p.design().RedrawAll();
+    p.design().redrawAll();
     p.idle();
     p.main().history().clear();
     const auto action = [&](const char* name) {
@@ -370,30 +370,30 @@ TEST(Designer, ArrangeCommandsFollowTheSelectionAndEachIsOneNamedStep) {
     action("mnuAlignLeft")->trigger();
     p.idle();
     for (int i = 1; i <= 3; ++i) {
-        EXPECT_EQ(p.model().Button(i).x, 80) << i;
+        EXPECT_EQ(p.model().button(i).x, 80) << i;
         EXPECT_EQ(p.design().pButtons(i)->x(), 80) << i;
     }
     EXPECT_EQ(p.main().history().stack().count(), 1);
     EXPECT_EQ(p.undoText(), QStringLiteral("Undo Align Left"));
     p.main().history().undo();
-    EXPECT_EQ(p.model().Button(1).x, 40);
+    EXPECT_EQ(p.model().button(1).x, 40);
     EXPECT_EQ(p.design().pButtons(3)->x(), 120);
 }
 
 TEST(Designer, ADragSnapsToAnotherButtonWithAGuideUnlessAltIsHeldOrSnappingIsOff) {
     Program p;
     QTest::mouseClick(p.find("btnAdd"), Qt::LeftButton);
-    p.model().Button(1).x = 10;
-    p.model().Button(1).y = 10;
-    p.model().Button(2).x = 150;
-    p.model().Button(2).y = 100;
-    p.design().RedrawAll();
+    p.model().button(1).x = 10;
+    p.model().button(1).y = 10;
+    p.model().button(2).x = 150;
+    p.model().button(2).y = 100;
+    p.design().redrawAll();
     p.idle();
     auto* guides = p.design().findChild<QWidget*>(QStringLiteral("picSnapGuides"));
     ASSERT_NE(guides, nullptr);
     // Button 2 dragged up to 3 pixels below button 1's top edge.
     const auto dragUp = [&](Qt::KeyboardModifiers modifiers) {
-        p.model().Button(2).y = 100;
+        p.model().button(2).y = 100;
         p.design().RedrawButton(2, true, false, false);
         ButtonPicture* picture = p.design().pButtons(2);
         QTest::mousePress(picture, Qt::LeftButton, {}, QPoint(5, 50));
@@ -405,7 +405,7 @@ TEST(Designer, ADragSnapsToAnotherButtonWithAGuideUnlessAltIsHeldOrSnappingIsOff
         QTest::mouseRelease(picture, Qt::LeftButton, {},
                             picture->mapFromGlobal(move.globalPosition().toPoint()));
         EXPECT_FALSE(guides->isVisible());
-        return std::pair{int(p.model().Button(2).y), shown};
+        return std::pair{int(p.model().button(2).y), shown};
     };
     EXPECT_EQ(dragUp({}), (std::pair{10, true}));
     EXPECT_EQ(p.design().pButtons(2)->y(), 10);
@@ -415,10 +415,10 @@ TEST(Designer, ADragSnapsToAnotherButtonWithAGuideUnlessAltIsHeldOrSnappingIsOff
     EXPECT_EQ(dragUp({}), (std::pair{13, false}));
     p.design().findChild<QAction*>(QStringLiteral("mnuSnapToButtons"))->trigger();
     // A right handle pulled to 3 pixels short of button 2's left edge: the edge snaps.
-    ButtonRecord& one = p.model().Button(1);
+    ButtonRecord& one = p.model().button(1);
     one.Width = 50;
-    p.model().Button(2).x = 200;
-    p.design().RedrawAll();
+    p.model().button(2).x = 200;
+    p.design().redrawAll();
     QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, {}, QPoint(3, 3));
     SizerHandle* right = p.design().picSizer(1);
     QTest::mousePress(right, Qt::LeftButton, {}, QPoint(3, 3));

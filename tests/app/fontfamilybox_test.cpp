@@ -29,7 +29,7 @@ TEST(FontFamilyBox, FillsOnceWithEachFamilyOnceAndTheWebFontsAndKeepsTheFontShow
     EXPECT_EQ(chosen.count(), 0) << "filling the list is no choice of font";
     // Without Microsoft's fonts, Arial is drawn with a metric-compatible face, and says so.
     EXPECT_EQ(box.itemData(box.currentIndex(), Qt::UserRole + 1).toString(),
-              FontFamilyBox::Substitute(QStringLiteral("Arial")));
+              FontFamilyBox::substitute(QStringLiteral("Arial")));
 
     const int count = box.count();
     box.fillFamilies();

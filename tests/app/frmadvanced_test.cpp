@@ -26,7 +26,7 @@ struct Dialog {
     FrmAdvanced form{settings, ui};
 
     Dialog() {
-        settings.SetDefaultButton("1|2|3|4|");
+        settings.setDefaultButton("1|2|3|4|");
         settings.setFlag(SettingKey::AutoTile, false);
         form.show(); // shows the stored values
     }
@@ -65,13 +65,13 @@ TEST(FrmAdvanced, RestoreDefaultsAsksAndPutsBackTheFactoryButtonAndOptions) {
     d.click("btnRestoreDefaults");
     ASSERT_EQ(d.ui.shown.size(), 1u);
     EXPECT_EQ(d.ui.shown[0].kind, "okcancel");
-    EXPECT_EQ(d.settings.DefaultButton(), "1|2|3|4|");
+    EXPECT_EQ(d.settings.defaultButton(), "1|2|3|4|");
     EXPECT_EQ(d.autoTile(), "0");
 
     d.click("btnRestoreDefaults");
-    EXPECT_EQ(d.backend.get(SectionPath(SettingsSection::Params), "strDefaultBtn", "missing"),
+    EXPECT_EQ(d.backend.get(sectionPath(SettingsSection::Params), "strDefaultBtn", "missing"),
               kFactoryDefaultButton);
-    EXPECT_EQ(d.autoTile(), SettingDefinition(SettingKey::AutoTile).defaultValue);
+    EXPECT_EQ(d.autoTile(), settingDefinition(SettingKey::AutoTile).defaultValue);
     EXPECT_EQ(d.form.chkAutoTile()->isChecked(), d.settings.flag(SettingKey::AutoTile));
     EXPECT_EQ(d.settings.value(SettingKey::Html5Player), "1");
     EXPECT_TRUE(d.form.chkHtml5Player()->isChecked());

@@ -24,8 +24,8 @@ namespace {
 struct RecordingEditor : SurfaceEditorLink {
     QStringList calls;
     void ShowProp(int index) override { calls << QStringLiteral("prop %1").arg(index); }
-    void ShowGeometry(int index) override { calls << QStringLiteral("geometry %1").arg(index); }
-    void ShowSelection() override { calls << QStringLiteral("selection"); }
+    void showGeometry(int index) override { calls << QStringLiteral("geometry %1").arg(index); }
+    void showSelection() override { calls << QStringLiteral("selection"); }
 };
 
 /// A design window on a green applet with buttons 1..n of 100 by 30 in a row at
@@ -41,27 +41,27 @@ struct Window {
     explicit Window(int count) {
         model.BackGround = 0x00FF00;
         for (int i = 1; i <= count; ++i) {
-            model.Button(i).x = static_cast<std::int16_t>(10 + 120 * (i - 1));
-            model.Button(i).y = 20;
-            model.Button(i).Width = 100;
-            model.Button(i).Height = 30;
+            model.button(i).x = static_cast<std::int16_t>(10 + 120 * (i - 1));
+            model.button(i).y = 20;
+            model.button(i).Width = 100;
+            model.button(i).Height = 30;
             list.append();
         }
         model.ButtonCount = static_cast<std::int16_t>(count);
         model.CurrentButton = count > 0 ? 1 : 0;
         list.selectOnly(1);
-        design.AppletChanged();
+        design.appletChanged();
         for (int i = 1; i <= count; ++i)
             design.LoadButton(i);
         design.show();
         if (count > 0)
-            design.MoveSizer(1);
+            design.moveSizer(1);
         QCoreApplication::processEvents();
     }
 
     ButtonPicture* picture(int i) const { return design.pButtons(i); }
     QPoint pictureAt(int i) const { return picture(i)->pos(); }
-    QPoint recordAt(int i) const { return {model.Button(i).x, model.Button(i).y}; }
+    QPoint recordAt(int i) const { return {model.button(i).x, model.button(i).y}; }
     QRgb pixel(int i, int x, int y) const { return picture(i)->picture().pixel(x, y); }
 
     void click(int i, Qt::KeyboardModifiers keys = {}, Qt::MouseButton b = Qt::LeftButton) {
@@ -89,20 +89,20 @@ TEST(FrmDesign, ShowsOnePicturePerButtonPlacedFromItsRecordInZOrder) {
     EXPECT_EQ(w.design.appletArea()->size(), QSize(510, 170));
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 255, 0)); // UP colour 65535, red in the low byte
 
-    w.model.Button(3).x = 135; // now overlaps button 2 and lies above it
+    w.model.button(3).x = 135; // now overlaps button 2 and lies above it
     w.design.RedrawButton(3, false, false, false);
     EXPECT_EQ(w.design.appletArea()->childAt(200, 30), w.picture(3));
-    w.design.HideLastButton(3);
+    w.design.hideLastButton(3);
     EXPECT_EQ(w.design.pictureCount(), 2);
-    w.design.ClearButtons();
+    w.design.clearButtons();
     EXPECT_EQ(w.design.pictureCount(), 0);
 }
 
 TEST(FrmDesign, MovingAButtonThroughRedrawButtonPaintsItOnce) {
     Window w(1);
     const int before = w.design.paintCount();
-    w.model.Button(1).x = 40;
-    w.model.Button(1).Width = 70;
+    w.model.button(1).x = 40;
+    w.model.button(1).Width = 70;
     w.design.RedrawButton(1, false, false, false);
     QCoreApplication::processEvents();
     EXPECT_EQ(w.design.paintCount(), before + 1);
@@ -113,7 +113,7 @@ TEST(FrmDesign, RedrawFollowsTheEditedStateAndTheSelection) {
     Window w(2);
     w.model.CurrentState = ButtonState::DOWN;
     w.list.addSelection(2);
-    w.design.RedrawAll();
+    w.design.redrawAll();
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 0, 0));
     EXPECT_EQ(w.pixel(1, 0, 0), qRgb(0, 0, 0));
     EXPECT_EQ(w.pixel(2, 2, 2), qRgb(255, 255, 255));
@@ -123,14 +123,14 @@ TEST(FrmDesign, HandlesAndThePositionerStandWhereTheRecordSays) {
     Window w(1);
     const QPoint b(FrmDesign::kMargin + 10, FrmDesign::kMargin + 20);
     EXPECT_EQ(w.design.picSizer(SizerRight)->pos(), b + QPoint(102, 15 - SizerHandle::kSide / 2));
-    w.design.HideMarks();
+    w.design.hideMarks();
     EXPECT_FALSE(w.design.picSizer(SizerRight)->isVisible());
 
     // The label positioner shows only for a positioned label.
     w.design.RedrawButton(1, false, true, false);
     EXPECT_FALSE(w.design.labelPositioner()->isVisible());
-    w.model.Button(1).PositionTextUP = 1;
-    w.model.Button(1).LabelPosXUP = 7;
+    w.model.button(1).PositionTextUP = 1;
+    w.model.button(1).LabelPosXUP = 7;
     w.design.RedrawButton(1, false, true, false);
     EXPECT_TRUE(w.design.labelPositioner()->isVisible());
     EXPECT_EQ(w.design.labelPositioner()->centre(), b + QPoint(7, 25));
@@ -138,7 +138,7 @@ TEST(FrmDesign, HandlesAndThePositionerStandWhereTheRecordSays) {
 
 TEST(FrmDesign, TransparentButtonsShowTheBackgroundAndFollowTheSwitch) {
     Window w(1);
-    w.model.Button(1).noBackGround = 1;
+    w.model.button(1).noBackGround = 1;
     w.design.UpdateTransparentBtns();
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(0, 255, 0));
 
@@ -211,9 +211,9 @@ TEST(DesignInteraction, RightClickMenuSendsTheButtonBack) {
     w.click(3, {}, Qt::RightButton);
     EXPECT_TRUE(w.interaction.mnuMove()->isVisible());
     EXPECT_FALSE(w.interaction.mnuBringToFront()->isEnabled());
-    w.model.Button(3).LabelUP = "third";
+    w.model.button(3).LabelUP = "third";
     w.interaction.mnuSendBack()->trigger();
-    EXPECT_EQ(w.model.Button(2).LabelUP, "third");
+    EXPECT_EQ(w.model.button(2).LabelUP, "third");
     EXPECT_EQ(w.pictureAt(2), QPoint(250, 20)); // the picture stays where its record says
     EXPECT_EQ(w.editor.calls.last(), QStringLiteral("prop 2"));
 }
@@ -224,7 +224,7 @@ TEST(DesignInteraction, TheBottomHandleResizesTheCurrentButton) {
     w.editor.calls.clear();
     Window::drag(w.design.picSizer(SizerBottom), QPoint(3, 3), QPoint(0, 10));
     EXPECT_EQ(w.picture(1)->geometry(), QRect(10, 20, 100, 44)); // 30 + 10 + 4
-    EXPECT_EQ(w.model.Button(1).Height, 44);
+    EXPECT_EQ(w.model.button(1).Height, 44);
     EXPECT_EQ(w.editor.calls, QStringList({QStringLiteral("geometry 1")}));
     EXPECT_EQ(w.design.paintCount() - paints, 1);
 }
@@ -233,14 +233,14 @@ TEST(DesignInteraction, HandlesFollowTheCurrentButtonSoAHandleDragResizesByItsDi
     Window w(3);
     w.click(3, Qt::ControlModifier); // button 3 joins the group and becomes current
     Window::drag(w.design.picSizer(SizerRight), QPoint(3, 3), QPoint(5, 0));
-    EXPECT_EQ(w.model.Button(3).Width, 109); // 100 + 5 + the first step's 4
-    EXPECT_EQ(w.model.Button(1).Width, 100);
+    EXPECT_EQ(w.model.button(3).Width, 109); // 100 + 5 + the first step's 4
+    EXPECT_EQ(w.model.button(1).Width, 100);
 
     // A new last button that is current gets the handles as soon as it is drawn.
     w.model.ButtonCount = 4;
     w.model.CurrentButton = 4;
-    w.model.Button(4) = w.model.Button(1);
-    w.model.Button(4).x = 400;
+    w.model.button(4) = w.model.button(1);
+    w.model.button(4).x = 400;
     w.list.append();
     w.design.LoadButton(4);
     const QRect handle = w.design.picSizer(SizerRight)->geometry();

@@ -30,8 +30,8 @@ TEST(FrmHTML, ShowsAndCopiesExactlyTheGeneratedCodeAndNamesTheAppletAsTyped) {
     Settings settings(backend);
     QtShell shell;
     ProjectModel model;
-    model.AddButton(kFactoryDefaultButton);
-    model.Button(1).URL = "JavaScript:go()";
+    model.addButton(kFactoryDefaultButton);
+    model.button(1).URL = "JavaScript:go()";
     FrmHTML window(model, ui, settings, shell);
     window.MakeHTML();
     EXPECT_EQ(model.AppletName, "Orvelin");
@@ -57,7 +57,7 @@ TEST(FrmHTML, ShowsAndCopiesExactlyTheGeneratedCodeAndNamesTheAppletAsTyped) {
 TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
     orvelin::testing::TestApplication();
     const orvelin::testing::TempFolder temp;
-    SetProgramFolderOverride(temp.path(""));
+    setProgramFolderOverride(temp.path(""));
     temp.write("orvelin-player.js", "player"); // the page plays by default
     // A browser that writes down the arguments it was started with.
     const std::string browser = temp.write(
@@ -68,11 +68,11 @@ TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
     orvelin::testing::FakeUserInterface ui;
     MemorySettingsBackend backend;
     Settings settings(backend);
-    SaveBrowsers(settings, {{kDefaultBrowserName, ""}, {"Fake", browser}});
-    SetSelectedBrowser(settings, 1);
+    saveBrowsers(settings, {{kDefaultBrowserName, ""}, {"Fake", browser}});
+    setSelectedBrowser(settings, 1);
     QtShell shell;
     ProjectModel model;
-    model.AddButton(kFactoryDefaultButton);
+    model.addButton(kFactoryDefaultButton);
     FrmHTML window(model, ui, settings, shell);
     window.showAndGenerate();
     auto* chooser = window.findChild<QComboBox*>("cmbBrowser");
@@ -80,15 +80,15 @@ TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
     EXPECT_EQ(chooser->currentText(), "Fake");
 
     window.findChild<QPushButton*>("btnPreview")->click();
-    const std::string page = PreviewPagePath();
+    const std::string page = previewPagePath();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !temp.read("args").empty(); }, 10000));
     EXPECT_EQ(temp.read("args"), page + "\n");
     EXPECT_TRUE(ui.messages().empty());
     EXPECT_NE(orvelin::testing::ReadBytes(page).find("</Center>\r\n<script src="),
               std::string::npos);
     window.close();
-    EXPECT_NE(settings.StoredGeometry("frmHTML").width, 0);
-    SetProgramFolderOverride("");
+    EXPECT_NE(settings.storedGeometry("frmHTML").width, 0);
+    setProgramFolderOverride("");
 }
 
 TEST(FrmBrowserSetup, TheDefaultBrowserStaysFirstWhileOthersMoveAndGo) {

@@ -44,7 +44,7 @@ struct MainWindow {
     FrmMain window{model, list, ui, settings, design, shell};
 
     explicit MainWindow(const std::string& commandLine = {}) {
-        window.editor().Startup(commandLine);
+        window.editor().startup(commandLine);
     }
 
     template <typename T = QWidget> T* find(const char* name) const {
@@ -64,7 +64,7 @@ struct MainWindow {
     }
     void addButtons(int n) {
         for (int i = 0; i < n; ++i)
-            window.editor().AddButton();
+            window.editor().addButton();
     }
     /// Shown and active, for clicks that need a laid-out window and for shortcuts.
     void showActive() {
@@ -120,26 +120,26 @@ TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromAQuotedCommandLine) {
     EXPECT_EQ(w.action("mnuFile1")->text().toStdString(), kExample);
     EXPECT_FALSE(w.action("mnuFile2")->isVisible());
     // An ampersand in a path shows as itself.
-    w.window.SetRecentEntry(2, "/home/a&b/p.orv", true);
+    w.window.setRecentEntry(2, "/home/a&b/p.orv", true);
     EXPECT_EQ(w.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
 }
 
 TEST(MainWindow, ShowingAnotherButtonWritesNothingBack) {
     MainWindow w;
     w.addButtons(1);
-    ButtonRecord& second = w.model.Button(2);
+    ButtonRecord& second = w.model.button(2);
     second.LabelUP = "Second";
     second.Border = 0;
     second.PositionTextUP = 1;
     w.model.Saved = true;
-    const ButtonRecord first = w.model.Button(1), secondBefore = second;
+    const ButtonRecord first = w.model.button(1), secondBefore = second;
     w.buttons()->setCurrentRow(0); // every control changes to button 1's values
     w.buttons()->setCurrentRow(1);
     EXPECT_EQ(w.field("txtLabel")->text(), QStringLiteral("Second"));
     EXPECT_TRUE(w.find<QCheckBox>("chkPositionText")->isChecked());
     EXPECT_FALSE(w.find<QCheckBox>("chkBorder")->isChecked());
-    EXPECT_EQ(w.model.Button(1), first);
-    EXPECT_EQ(w.model.Button(2), secondBefore);
+    EXPECT_EQ(w.model.button(1), first);
+    EXPECT_EQ(w.model.button(2), secondBefore);
     EXPECT_TRUE(w.model.Saved);
 }
 
@@ -173,13 +173,13 @@ TEST(MainWindow, ClosingAsksToSaveStaysOpenOnCancelAndRemembersWhereItWas) {
     EXPECT_EQ(closed.count(), 0);
     EXPECT_TRUE(w.window.close());
     EXPECT_EQ(closed.count(), 1);
-    EXPECT_NE(w.settings.StoredGeometry("frmMain").width, 0);
+    EXPECT_NE(w.settings.storedGeometry("frmMain").width, 0);
 }
 
 TEST(PropertyPanel, EveryButtonFieldWritesItsOwnRecordField) {
     MainWindow w;
     w.showActive();
-    ButtonRecord expected = w.model.Button(1);
+    ButtonRecord expected = w.model.button(1);
     w.design.clear();
     w.type("txtX", QStringLiteral("42"));
     ASSERT_FALSE(w.design.redrawn.empty());
@@ -200,13 +200,13 @@ TEST(PropertyPanel, EveryButtonFieldWritesItsOwnRecordField) {
     expected.ImgStyleOVER = 2;
     expected.FontStyleOVER = "2";
     expected.noBackGround = 1;
-    EXPECT_EQ(SerializeButton(w.model.Button(1)), SerializeButton(expected));
+    EXPECT_EQ(serializeButton(w.model.button(1)), serializeButton(expected));
     EXPECT_FALSE(w.model.Saved);
 }
 
 TEST(PropertyPanel, StateButtonsShowThatStatesValuesAndRetitleTheActionCommand) {
     MainWindow w;
-    ButtonRecord& b = w.model.Button(1);
+    ButtonRecord& b = w.model.button(1);
     b.LabelDOWN = "Pressed";
     b.FontStyleDOWN = "2";
     b.ImgStyleDOWN = 1;
@@ -231,7 +231,7 @@ TEST(PropertyPanel, StateButtonsShowThatStatesValuesAndRetitleTheActionCommand) 
 TEST(PropertyPanel, ListClicksAndSelectionsGoThroughTheCore) {
     MainWindow w;
     w.addButtons(2);
-    w.model.Button(2).LabelUP = "Two";
+    w.model.button(2).LabelUP = "Two";
     w.showActive();
     QListWidget* list = w.buttons();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
@@ -288,17 +288,17 @@ TEST(MainMenus, LanguageDefaultButtonAndOptionCommandsReachTheSettings) {
     EXPECT_EQ(w.settings.value(SettingKey::LanguageCurrent), "rus");
     EXPECT_TRUE(w.action("mnuRussian")->isChecked());
 
-    w.model.Button(1).URL = "default.html";
+    w.model.button(1).URL = "default.html";
     w.action("mnuMakeDefault")->trigger();
-    EXPECT_EQ(w.settings.DefaultButton(), SerializeButton(w.model.Button(1)));
+    EXPECT_EQ(w.settings.defaultButton(), serializeButton(w.model.button(1)));
     w.action("mnuDesignOnTop")->trigger();
     EXPECT_TRUE(w.action("mnuDesignOnTop")->isChecked() && w.design.onTop);
 }
 
 TEST(MainMenus, RecentEntryOpensItsProject) {
     MainWindow w;
-    w.settings.SetRecentFile(1, kExample);
-    w.window.editor().Recent().GetRecent();
+    w.settings.setRecentFile(1, kExample);
+    w.window.editor().recent().GetRecent();
     ASSERT_TRUE(w.action("mnuFile1")->isVisible());
     w.action("mnuFile1")->trigger();
     EXPECT_EQ(w.model.ProjectFileName, kExample);

@@ -10,9 +10,9 @@
 using namespace orvelin;
 
 TEST(MultiLineLabel, LineBreaksAndBackslashPairsTurnIntoEachOther) {
-    EXPECT_EQ(LabelToEditorText(QStringLiteral("a\\nb\\n")), QStringLiteral("a\nb\n"));
-    EXPECT_EQ(EditorTextToLabel(QStringLiteral("a\r\nb\nc\rd")), QStringLiteral("a\\nb\\nc\\nd"));
-    EXPECT_EQ(EditorTextToLabel(LabelToEditorText(QStringLiteral("one\\n\\ntwo"))),
+    EXPECT_EQ(labelToEditorText(QStringLiteral("a\\nb\\n")), QStringLiteral("a\nb\n"));
+    EXPECT_EQ(editorTextToLabel(QStringLiteral("a\r\nb\nc\rd")), QStringLiteral("a\\nb\\nc\\nd"));
+    EXPECT_EQ(editorTextToLabel(labelToEditorText(QStringLiteral("one\\n\\ntwo"))),
               QStringLiteral("one\\n\\ntwo"));
 }
 

@@ -24,7 +24,7 @@ protected:
         orvelin::testing::TestApplication();
         model.ButtonCount = 3;
         model.CurrentButton = 2;
-        model.Button(2).ProgramDOWN = "2 1;6 500;";
+        model.button(2).ProgramDOWN = "2 1;6 500;";
         dialog =
             std::make_unique<FrmSetAction>(model, ui, buffer, std::vector<bool>{false, true, true});
         dialog->load("ProgramDOWN", "Set Action: On Button Press...");
@@ -119,15 +119,15 @@ TEST_F(FrmSetActionTest, OkWritesEverySelectedButtonAndCancelNothing) {
     click("btnAdd");
     click("btnCancel");
     EXPECT_EQ(dialog->result(), QDialog::Rejected);
-    EXPECT_EQ(model.Button(2).ProgramDOWN, "2 1;6 500;");
+    EXPECT_EQ(model.button(2).ProgramDOWN, "2 1;6 500;");
     EXPECT_TRUE(model.Saved);
 
     dialog->load("ProgramDOWN", "again");
     click("btnAdd");
     click("btnOk");
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    EXPECT_EQ(model.Button(2).ProgramDOWN, "2 1;6 500;1 1;");
-    EXPECT_EQ(model.Button(3).ProgramDOWN, "2 1;6 500;1 1;");
-    EXPECT_EQ(model.Button(1).ProgramDOWN, "");
+    EXPECT_EQ(model.button(2).ProgramDOWN, "2 1;6 500;1 1;");
+    EXPECT_EQ(model.button(3).ProgramDOWN, "2 1;6 500;1 1;");
+    EXPECT_EQ(model.button(1).ProgramDOWN, "");
     EXPECT_FALSE(model.Saved);
 }

@@ -34,15 +34,15 @@ TEST(ProgressWindow, ShowsTitleTextAndPercentWithOneBusyPointer) {
 }
 
 TEST(QtUserInterface, MessagesGetTheProgramTitleAndSingleLineBreaks) {
-    EXPECT_EQ(QtUserInterface::MessageTitle(""), QStringLiteral("Orvelin"));
-    EXPECT_EQ(QtUserInterface::MessageTitle("Warning"), QStringLiteral("Warning"));
-    EXPECT_EQ(QtUserInterface::DisplayText("Error loading project.\r\nFile not found"),
+    EXPECT_EQ(QtUserInterface::messageTitle(""), QStringLiteral("Orvelin"));
+    EXPECT_EQ(QtUserInterface::messageTitle("Warning"), QStringLiteral("Warning"));
+    EXPECT_EQ(QtUserInterface::displayText("Error loading project.\r\nFile not found"),
               QStringLiteral("Error loading project.\nFile not found"));
 }
 
 TEST(ColorButton, ModelColoursKeepRedInTheLowByteAndSettingOneDoesNotReportIt) {
-    EXPECT_EQ(ColorFromRef(65535), QColor(255, 255, 0));
-    EXPECT_EQ(ColorToRef(QColor(0x12, 0x34, 0x56)), 0x563412);
+    EXPECT_EQ(colorFromRef(65535), QColor(255, 255, 0));
+    EXPECT_EQ(colorToRef(QColor(0x12, 0x34, 0x56)), 0x563412);
 
     orvelin::testing::TestApplication();
     ColorButton button(QStringLiteral("picFontColor"));

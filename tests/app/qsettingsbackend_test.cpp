@@ -16,20 +16,20 @@ TEST(QSettingsBackend, ValuesSurviveInTheGivenFileUnderTheVersionedGroup) {
         QSettingsBackend backend(file);
         EXPECT_EQ(backend.fileName(), file);
         Settings settings(backend);
-        settings.SetDefaultButton(kFactoryDefaultButton);
-        settings.SetRecentFile(1, "/home/u/My Projects/a.orv");
+        settings.setDefaultButton(kFactoryDefaultButton);
+        settings.setRecentFile(1, "/home/u/My Projects/a.orv");
         settings.setValue(SettingKey::BrowsersName, label, 1);
-        settings.SaveGeometry("frmDesign", {10, 20, 300, 200});
+        settings.saveGeometry("frmDesign", {10, 20, 300, 200});
     }
     QSettingsBackend reopened(file);
     Settings settings(reopened);
-    EXPECT_EQ(settings.DefaultButton(), kFactoryDefaultButton);
+    EXPECT_EQ(settings.defaultButton(), kFactoryDefaultButton);
     EXPECT_EQ(reopened.get("1.0  Beta 6\\Params", "strDefaultBtn", "-1"), kFactoryDefaultButton)
         << "written under \"...\\Params\\\", read under \"...\\Params\"";
-    EXPECT_EQ(settings.RecentFile(1), "/home/u/My Projects/a.orv");
-    EXPECT_EQ(settings.RecentFile(2), "-1");
+    EXPECT_EQ(settings.recentFile(1), "/home/u/My Projects/a.orv");
+    EXPECT_EQ(settings.recentFile(2), "-1");
     EXPECT_EQ(settings.value(SettingKey::BrowsersName, 1), label);
-    EXPECT_EQ(settings.StoredGeometry("frmDesign"), (WindowGeometry{10, 20, 300, 200}));
+    EXPECT_EQ(settings.storedGeometry("frmDesign"), (WindowGeometry{10, 20, 300, 200}));
     EXPECT_TRUE(settings.flag(SettingKey::AutoTile)) << "a missing key gives the default";
 }
 

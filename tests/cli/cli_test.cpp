@@ -60,8 +60,8 @@ const std::string kBin = ORVELIN_BIN_DIR;
 
 class OrvelinCli : public ::testing::Test {
 protected:
-    void SetUp() override { SetProgramFolderOverride(kBin); }
-    void TearDown() override { SetProgramFolderOverride(""); }
+    void SetUp() override { setProgramFolderOverride(kBin); }
+    void TearDown() override { setProgramFolderOverride(""); }
 
     /// The applet code the generator makes for `project`, in this process.
     static std::string Generated(const std::string& project, const std::string& typedName = {}) {
@@ -70,8 +70,8 @@ protected:
         if (!LoadProject(model, project).loaded())
             return "<not loaded>";
         if (!typedName.empty())
-            SetAppletNameFromBox(model, typedName);
-        const std::string& name = NameTheApplet(model);
+            setAppletNameFromBox(model, typedName);
+        const std::string& name = nameTheApplet(model);
         return MakeHTML(model, name, GetJSCaller(name)).text;
     }
     std::string path(const std::string& name) const { return dir.path(name); }
@@ -185,10 +185,10 @@ TEST_F(OrvelinCli, HelpExplainsEveryCommandAndExitStatus) {
 TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportItsMessages) {
     const CliRun page = RunCli({"page", kExample, "--applet-name", "Top"});
     ASSERT_EQ(page.status, 0) << page.err;
-    EXPECT_EQ(page.out, PageText(Generated(kExample, "Top"), true, true));
+    EXPECT_EQ(page.out, pageText(Generated(kExample, "Top"), true, true));
     const CliRun plain = RunCli({"page", kExample, "--no-player", "--applet-name", "Top"});
     ASSERT_EQ(plain.status, 0) << plain.err;
-    EXPECT_EQ(plain.out, PageText(Generated(kExample, "Top"), true));
+    EXPECT_EQ(plain.out, pageText(Generated(kExample, "Top"), true));
     EXPECT_EQ(RunCli({"html", kExample, "--no-player"}).status, 2);
 
     // A program folder with the player but no applet files: the page plays, and only the
@@ -215,7 +215,7 @@ TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSave) {
     SilentUserInterface ui;
     ProjectModel model;
     ASSERT_TRUE(LoadProject(model, kExample).loaded());
-    EXPECT_EQ(dir.read("copy.orv"), ProjectText(model));
+    EXPECT_EQ(dir.read("copy.orv"), projectText(model));
     // Under the same name the copy makes the same applet code, and saving it again
     // changes nothing.
     EXPECT_EQ(Generated(path("copy.orv"), "navbar"), Generated(kExample));
@@ -245,7 +245,7 @@ TEST_F(OrvelinCli, LegacyOptionReadsTheIniFormat) {
     SilentUserInterface ui;
     ProjectModel model;
     ASSERT_TRUE(LoadProject_OLD(model, path("old.ini")).loaded());
-    EXPECT_EQ(dir.read("new.orv"), ProjectText(model));
+    EXPECT_EQ(dir.read("new.orv"), projectText(model));
 }
 
 TEST_F(OrvelinCli, FailedSaveExitsWithOneAndKeepsTheOldFile) {

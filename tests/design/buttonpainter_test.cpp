@@ -240,14 +240,14 @@ TEST(DrawMultiSelector, MarksEveryButtonOfAGroupButNotASingleSelection) {
     ProjectModel model;
     ButtonList list;
     for (int i = 1; i <= 3; ++i) {
-        model.Button(i) = PlainButton(40, 20);
+        model.button(i) = PlainButton(40, 20);
         list.append();
     }
     model.ButtonCount = 3;
     for (QRgb colour : {0x000000u, 0xFFFFFFu, 0x00FFFFu}) {
         for (int i = 1; i <= 3; ++i)
-            model.Button(i).BackColorUP = static_cast<std::int32_t>(colour);
-        const QRgb back = ColorFromRef(static_cast<std::int32_t>(colour)).rgb() & 0xFFFFFFu;
+            model.button(i).BackColorUP = static_cast<std::int32_t>(colour);
+        const QRgb back = colorFromRef(static_cast<std::int32_t>(colour)).rgb() & 0xFFFFFFu;
         list.selectOnly(1);
         EXPECT_TRUE(InkBox(Paint(model, 1, nullptr, &list), back).isEmpty());
         list.addSelection(2);

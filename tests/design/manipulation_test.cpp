@@ -15,8 +15,8 @@ struct Surface {
 
     explicit Surface(int count) {
         for (int i = 1; i <= count; ++i) {
-            model.Button(i).x = static_cast<std::int16_t>(10 + 30 * i + (i % 2));
-            model.Button(i).y = static_cast<std::int16_t>(5 + 7 * i);
+            model.button(i).x = static_cast<std::int16_t>(10 + 30 * i + (i % 2));
+            model.button(i).y = static_cast<std::int16_t>(5 + 7 * i);
             list.append();
         }
         model.ButtonCount = static_cast<std::int16_t>(count);
@@ -25,10 +25,10 @@ struct Surface {
     }
     PressOutcome press(int n, MouseButton b = MouseButton::Left, bool ctrl = false, double x = 5,
                        double y = 5) {
-        return PressOnButton(model, list, drag, n, b, ctrl, x, y);
+        return pressOnButton(model, list, drag, n, b, ctrl, x, y);
     }
-    bool drag_to(double x, double y) { return DragOnButton(model, list, drag, x, y).moved; }
-    PixelPoint at(int n) const { return {model.Button(n).x, model.Button(n).y}; }
+    bool drag_to(double x, double y) { return dragOnButton(model, list, drag, x, y).moved; }
+    PixelPoint at(int n) const { return {model.button(n).x, model.button(n).y}; }
 };
 
 /// One current, selected button of the given geometry, with handles of 7 by 7.
@@ -37,7 +37,7 @@ struct Sizing {
     SizerState sizers;
 
     explicit Sizing(PixelRect r) {
-        ButtonRecord& b = s.model.Button(1);
+        ButtonRecord& b = s.model.button(1);
         b.x = static_cast<std::int16_t>(r.left);
         b.y = static_cast<std::int16_t>(r.top);
         b.Width = static_cast<std::int16_t>(r.width);
@@ -45,13 +45,13 @@ struct Sizing {
     }
     /// Presses `handle` at (3, 3) of its own, moves the pointer by (dx, dy), releases.
     bool pull(int handle, double dx, double dy) {
-        const PixelPoint at = SizerPosition(handle, rect(), 7, 7);
-        PressSizer(sizers, handle, 3, 3);
-        const bool changed = DragSizer(s.model, sizers, handle, at, 7, 7, 3 + dx, 3 + dy).changed;
-        ReleaseSizer(sizers, handle);
+        const PixelPoint at = sizerPosition(handle, rect(), 7, 7);
+        pressSizer(sizers, handle, 3, 3);
+        const bool changed = dragSizer(s.model, sizers, handle, at, 7, 7, 3 + dx, 3 + dy).changed;
+        releaseSizer(sizers, handle);
         return changed;
     }
-    PixelRect rect() const { return ButtonRect(s.model, 1); }
+    PixelRect rect() const { return buttonRect(s.model, 1); }
 };
 
 } // namespace
@@ -139,7 +139,7 @@ TEST(DragOnButton, AGroupDragKeepsRelativePositionsAndLeavesOthersAlone) {
 
     // Half-pixel offsets over buttons of odd and even left: rounding each button on its
     // own would pull the group apart.
-    const MoveOutcome out = DragOnButton(s.model, s.list, s.drag, 17.5, 4.5);
+    const MoveOutcome out = dragOnButton(s.model, s.list, s.drag, 17.5, 4.5);
     EXPECT_EQ(out.buttons, Ints({3, 1, 4}));
     ASSERT_TRUE(s.drag_to(10.5, 13.5));
     const int dx = s.at(3).x - before3.x, dy = s.at(3).y - before3.y;
@@ -166,26 +166,26 @@ TEST(NudgeSelection, ArrowsMoveTheSelectionOnePixelOrTenWithShift) {
     Surface s(3);
     s.list.addSelection(3);
     const PixelPoint one = s.at(1), two = s.at(2), three = s.at(3);
-    NudgeSelection(s.model, s.list, NudgeDirection::Right, false);
-    NudgeSelection(s.model, s.list, NudgeDirection::Down, true);
-    NudgeSelection(s.model, s.list, NudgeDirection::Up, false);
-    NudgeSelection(s.model, s.list, NudgeDirection::Left, true);
+    nudgeSelection(s.model, s.list, NudgeDirection::Right, false);
+    nudgeSelection(s.model, s.list, NudgeDirection::Down, true);
+    nudgeSelection(s.model, s.list, NudgeDirection::Up, false);
+    nudgeSelection(s.model, s.list, NudgeDirection::Left, true);
     EXPECT_EQ(s.at(1), (PixelPoint{one.x - 9, one.y + 9}));
     EXPECT_EQ(s.at(3), (PixelPoint{three.x - 9, three.y + 9}));
     EXPECT_EQ(s.at(2), two);
     EXPECT_FALSE(s.model.Saved);
 
     Surface none(0);
-    EXPECT_FALSE(NudgeSelection(none.model, none.list, NudgeDirection::Right, false).moved);
+    EXPECT_FALSE(nudgeSelection(none.model, none.list, NudgeDirection::Right, false).moved);
     EXPECT_TRUE(none.model.Saved);
 }
 
 TEST(ReleaseOnButton, ATransparentReleasedButtonRepaintsAndTheDragEnds) {
     Surface s(3);
-    s.model.Button(2).noBackGround = 1;
+    s.model.button(2).noBackGround = 1;
     s.press(2);
     s.drag_to(30, 30);
-    const ReleaseOutcome out = ReleaseOnButton(s.model, s.list, s.drag, 2);
+    const ReleaseOutcome out = releaseOnButton(s.model, s.list, s.drag, 2);
     EXPECT_EQ(out.redrawReleased, 2);
     EXPECT_EQ(out.placeSizer, 2);
     const PixelPoint after = s.at(2);
@@ -195,15 +195,15 @@ TEST(ReleaseOnButton, ATransparentReleasedButtonRepaintsAndTheDragEnds) {
 
 TEST(ReleaseOnButton, AnOpaqueButtonIsNotRedrawnAndMovedTransparentOnesAre) {
     Surface s(3);
-    s.model.Button(3).noBackGround = 1;
+    s.model.button(3).noBackGround = 1;
     s.list.addSelection(3);
     s.press(1);
-    const ReleaseOutcome still = ReleaseOnButton(s.model, s.list, s.drag, 1);
+    const ReleaseOutcome still = releaseOnButton(s.model, s.list, s.drag, 1);
     EXPECT_EQ(still.redrawReleased + still.placeSizer, 0); // a group keeps its handles
     EXPECT_TRUE(still.redrawMovedTransparent.empty());     // nothing moved
     s.press(1);
     s.drag_to(15, 15);
-    EXPECT_EQ(ReleaseOnButton(s.model, s.list, s.drag, 1).redrawMovedTransparent, Ints({3}));
+    EXPECT_EQ(releaseOnButton(s.model, s.list, s.drag, 1).redrawMovedTransparent, Ints({3}));
 }
 
 TEST(PressOnSurface, ALeftClickCollapsesAGroupToTheCurrentButtonARightClickNot) {
@@ -211,22 +211,22 @@ TEST(PressOnSurface, ALeftClickCollapsesAGroupToTheCurrentButtonARightClickNot) 
     s.press(2);
     s.press(3, MouseButton::Left, true);
     s.press(4, MouseButton::Left, true);
-    EXPECT_EQ(PressOnSurface(s.model, s.list, MouseButton::Right), 0);
+    EXPECT_EQ(pressOnSurface(s.model, s.list, MouseButton::Right), 0);
     EXPECT_EQ(s.list.selectedCount(), 3);
-    EXPECT_EQ(PressOnSurface(s.model, s.list, MouseButton::Left), 4);
+    EXPECT_EQ(pressOnSurface(s.model, s.list, MouseButton::Left), 4);
     EXPECT_EQ(s.list.selectedButtons(), Ints({4}));
 
     Surface empty(0);
-    EXPECT_EQ(PressOnSurface(empty.model, empty.list, MouseButton::Left), 0);
+    EXPECT_EQ(pressOnSurface(empty.model, empty.list, MouseButton::Left), 0);
 }
 
 TEST(Stacking, SwapsWithTheNeighbourFollowsTheButtonAndStopsAtTheEnds) {
     Surface s(3);
     s.press(2, MouseButton::Right);
-    const ButtonRecord one = s.model.Button(1), two = s.model.Button(2), three = s.model.Button(3);
+    const ButtonRecord one = s.model.button(1), two = s.model.button(2), three = s.model.button(3);
     EXPECT_EQ(BringToFront(s.model, s.list), 3);
-    EXPECT_EQ(s.model.Button(3), two);
-    EXPECT_EQ(s.model.Button(2), three);
+    EXPECT_EQ(s.model.button(3), two);
+    EXPECT_EQ(s.model.button(2), three);
     EXPECT_EQ(s.model.CurrentButton, 3);
     EXPECT_EQ(s.list.selectedButtons(), Ints({3}));
     EXPECT_FALSE(s.model.Saved);
@@ -234,21 +234,21 @@ TEST(Stacking, SwapsWithTheNeighbourFollowsTheButtonAndStopsAtTheEnds) {
 
     s.press(2, MouseButton::Right);
     EXPECT_EQ(SendBack(s.model, s.list), 1);
-    EXPECT_EQ(s.model.Button(1), three);
-    EXPECT_EQ(s.model.Button(2), one);
+    EXPECT_EQ(s.model.button(1), three);
+    EXPECT_EQ(s.model.button(2), one);
     EXPECT_EQ(s.model.CurrentButton, 1);
     EXPECT_EQ(SendBack(s.model, s.list), 0);
-    EXPECT_EQ(s.model.Button(1), three);
+    EXPECT_EQ(s.model.button(1), three);
 }
 
 TEST(SizerPosition, EveryHandleStandsTwoPixelsOutsideTheMiddleOfItsEdge) {
     const PixelRect b{100, 50, 107, 40};
-    EXPECT_EQ(SizerPosition(SizerBottom, b, 7, 7), (PixelPoint{150, 92}));
-    EXPECT_EQ(SizerPosition(SizerRight, b, 7, 7), (PixelPoint{209, 67}));
-    EXPECT_EQ(SizerPosition(SizerTop, b, 7, 7), (PixelPoint{150, 41}));
-    EXPECT_EQ(SizerPosition(SizerLeft, b, 7, 7), (PixelPoint{91, 67}));
+    EXPECT_EQ(sizerPosition(SizerBottom, b, 7, 7), (PixelPoint{150, 92}));
+    EXPECT_EQ(sizerPosition(SizerRight, b, 7, 7), (PixelPoint{209, 67}));
+    EXPECT_EQ(sizerPosition(SizerTop, b, 7, 7), (PixelPoint{150, 41}));
+    EXPECT_EQ(sizerPosition(SizerLeft, b, 7, 7), (PixelPoint{91, 67}));
     // Even handles on an odd edge: each half is taken in whole pixels.
-    EXPECT_EQ(SizerPosition(SizerTop, {0, 10, 9, 9}, 6, 4), (PixelPoint{1, 4}));
+    EXPECT_EQ(sizerPosition(SizerTop, {0, 10, 9, 9}, 6, 4), (PixelPoint{1, 4}));
 }
 
 TEST(DragSizer, TheTopHandleRefusesAHeightOfFourWhileTheBottomOneClampsAtFive) {
@@ -291,10 +291,10 @@ TEST(DragSizer, TheLeftHandleRefusesALeftOfZeroOrLessAndAWidthBelowFive) {
 
 TEST(DragSizer, OnlyTheHeldHandleMoves) {
     Sizing s({10, 10, 107, 40});
-    const PixelPoint at = SizerPosition(SizerBottom, s.rect(), 7, 7);
-    EXPECT_FALSE(DragSizer(s.s.model, s.sizers, SizerBottom, at, 7, 7, 3, 30).changed);
-    PressSizer(s.sizers, SizerRight, 3, 3);
-    EXPECT_FALSE(DragSizer(s.s.model, s.sizers, SizerBottom, at, 7, 7, 3, 30).changed);
+    const PixelPoint at = sizerPosition(SizerBottom, s.rect(), 7, 7);
+    EXPECT_FALSE(dragSizer(s.s.model, s.sizers, SizerBottom, at, 7, 7, 3, 30).changed);
+    pressSizer(s.sizers, SizerRight, 3, 3);
+    EXPECT_FALSE(dragSizer(s.s.model, s.sizers, SizerBottom, at, 7, 7, 3, 30).changed);
     EXPECT_EQ(s.rect(), (PixelRect{10, 10, 107, 40}));
 }
 
@@ -303,29 +303,29 @@ TEST(LabelPositioner, DraggingSetsTheEditedStatesPositionAndTurnsCenteringOff) {
     s.model.CurrentState = ButtonState::OVER;
     s.list.addSelection(2);
     PositionerState p;
-    PressLabelPositioner(p, 2, 2);
-    const LabelMoveOutcome out = DragLabelPositioner(s.model, s.list, p, 12, -8);
+    pressLabelPositioner(p, 2, 2);
+    const LabelMoveOutcome out = dragLabelPositioner(s.model, s.list, p, 12, -8);
     EXPECT_EQ(out.buttons, Ints({1, 2}));
     EXPECT_EQ(out.position, (PixelPoint{63, 21}));
     for (int i : {1, 2}) {
-        const ButtonRecord& b = s.model.Button(i);
+        const ButtonRecord& b = s.model.button(i);
         EXPECT_EQ(b.LabelPosXOVER, 63);
         EXPECT_EQ(b.LabelPosYOVER, 21);
         EXPECT_EQ(b.PositionTextOVER, 1);
         EXPECT_EQ(b.PositionTextUP, 0); // other states untouched
         EXPECT_EQ(b.LabelPosYUP, 25);
     }
-    EXPECT_EQ(s.model.Button(3).PositionTextOVER, 0);
+    EXPECT_EQ(s.model.button(3).PositionTextOVER, 0);
     EXPECT_FALSE(s.model.Saved);
 }
 
 TEST(LabelPositioner, StaysInsideTheButtonAndDoesNothingUnlessHeld) {
     Surface s(1);
     PositionerState p;
-    EXPECT_TRUE(DragLabelPositioner(s.model, s.list, p, 40, 40).buttons.empty());
-    PressLabelPositioner(p, 0, 0);
-    DragLabelPositioner(s.model, s.list, p, 500, -500);
-    EXPECT_EQ(LabelAnchor(s.model, 1), (PixelPoint{41 + 107, 12}));
-    ReleaseLabelPositioner(p);
-    EXPECT_TRUE(DragLabelPositioner(s.model, s.list, p, -50, 0).buttons.empty());
+    EXPECT_TRUE(dragLabelPositioner(s.model, s.list, p, 40, 40).buttons.empty());
+    pressLabelPositioner(p, 0, 0);
+    dragLabelPositioner(s.model, s.list, p, 500, -500);
+    EXPECT_EQ(labelAnchor(s.model, 1), (PixelPoint{41 + 107, 12}));
+    releaseLabelPositioner(p);
+    EXPECT_TRUE(dragLabelPositioner(s.model, s.list, p, -50, 0).buttons.empty());
 }

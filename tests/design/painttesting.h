@@ -58,7 +58,7 @@ inline ButtonRecord PlainButton(int width, int height, const std::string& label 
 /// A model holding `button` as its only, current button.
 inline ProjectModel OneButton(const ButtonRecord& button) {
     ProjectModel model;
-    model.Button(1) = button;
+    model.button(1) = button;
     model.ButtonCount = 1;
     model.CurrentButton = 1;
     return model;
@@ -74,9 +74,9 @@ inline QImage Paint(const ProjectModel& model, int index = 1, const QImage* back
     painter.setBackground(background);
     painter.setSelection(selection);
     painter.setUserInterface(ui);
-    QImage picture = NewPicture(QSize(model.Button(index).Width, model.Button(index).Height));
+    QImage picture = newPicture(QSize(model.button(index).Width, model.button(index).Height));
     QPainter p(&picture);
-    painter.PaintButton(p, index);
+    painter.paintButton(p, index);
     p.end();
     return picture;
 }

@@ -20,7 +20,7 @@ protected:
         model.AppletHeight = 40;
         model.BackGround = 0x00FF00;
     }
-    QImage render(bool switchedOff = false) { return RenderBackground(model, images, switchedOff); }
+    QImage render(bool switchedOff = false) { return renderBackground(model, images, switchedOff); }
 };
 
 /// An applet of 120 by 60 on a black background with `count` plain buttons of 30 by 20.
@@ -30,7 +30,7 @@ ProjectModel Applet(int count) {
     model.AppletHeight = 60;
     model.BackGround = 0;
     for (int i = 1; i <= count; ++i)
-        model.Button(i) = PlainButton(30, 20);
+        model.button(i) = PlainButton(30, 20);
     model.ButtonCount = static_cast<std::int16_t>(count);
     return model;
 }
@@ -112,29 +112,29 @@ TEST(ImageCacheTest, ReadsAnImageAgainWhenItsFileChangesOnTheNextPass) {
 
 TEST(RenderSurface, PaintsTheBackgroundThenTheButtonsInZOrderEachInItsState) {
     ProjectModel model = Applet(2);
-    model.Button(1).x = 10;
-    model.Button(1).y = 10;
-    model.Button(1).BackColorUP = 255;
-    model.Button(2).x = 30;
-    model.Button(2).y = 20;
-    model.Button(2).BackColorUP = 0xFF0000; // later, so on top
-    model.Button(2).BackColorOVER = 0x00FF00;
-    const QImage surface = RenderSurface(model, ButtonState::UP);
+    model.button(1).x = 10;
+    model.button(1).y = 10;
+    model.button(1).BackColorUP = 255;
+    model.button(2).x = 30;
+    model.button(2).y = 20;
+    model.button(2).BackColorUP = 0xFF0000; // later, so on top
+    model.button(2).BackColorOVER = 0x00FF00;
+    const QImage surface = renderSurface(model, ButtonState::UP);
     EXPECT_EQ(surface.size(), QSize(120, 60));
     EXPECT_EQ(Pixel(surface, 0, 0), 0u);
     EXPECT_EQ(Pixel(surface, 15, 15), kRed);
     EXPECT_EQ(Pixel(surface, 35, 25), kBlue);
     EXPECT_EQ(Pixel(surface, 60, 40), 0u);
-    EXPECT_EQ(Pixel(RenderSurface(model, ButtonState::OVER), 35, 25), kGreen);
+    EXPECT_EQ(Pixel(renderSurface(model, ButtonState::OVER), 35, 25), kGreen);
 }
 
 TEST(RenderSurface, ClipsEachButtonToItsRectangle) {
     ProjectModel model = Applet(1);
-    model.Button(1).x = 40;
-    model.Button(1).y = 20;
-    model.Button(1).LabelUP = "WWWWWWWWWWWWWWWWWWWW"; // far wider than the button
-    model.Button(1).BackColorUP = 0x00FF00;
-    const QImage surface = RenderSurface(model, ButtonState::UP);
+    model.button(1).x = 40;
+    model.button(1).y = 20;
+    model.button(1).LabelUP = "WWWWWWWWWWWWWWWWWWWW"; // far wider than the button
+    model.button(1).BackColorUP = 0x00FF00;
+    const QImage surface = renderSurface(model, ButtonState::UP);
     EXPECT_EQ(Pixel(surface, 45, 22), kGreen);
     EXPECT_TRUE(InkBox(surface, 0, QRect(0, 0, 40, 60)).isEmpty());
     EXPECT_TRUE(InkBox(surface, 0, QRect(70, 0, 50, 60)).isEmpty());
@@ -147,17 +147,17 @@ TEST(RenderSurface, ATransparentButtonShowsTheBackgroundButNotTheButtonsBelow) {
     model.ProjectFileName = dir.filePath("t.orv").toStdString();
     model.BackImg = "bg.png";
     model.BackImgStyle = 1;
-    model.Button(1).x = 20;
-    model.Button(1).y = 10;
-    model.Button(1).BackColorUP = 255;
-    model.Button(2).x = 25;
-    model.Button(2).y = 15;
-    model.Button(2).noBackGround = 1;
-    const QImage surface = RenderSurface(model, ButtonState::UP);
+    model.button(1).x = 20;
+    model.button(1).y = 10;
+    model.button(1).BackColorUP = 255;
+    model.button(2).x = 25;
+    model.button(2).y = 15;
+    model.button(2).noBackGround = 1;
+    const QImage surface = renderSurface(model, ButtonState::UP);
     ImageCache images;
     images.setProjectFile(model.ProjectFileName);
     EXPECT_EQ(surface.copy(25, 15, 30, 20).convertToFormat(QImage::Format_RGB32),
-              RenderBackground(model, images, false)
+              renderBackground(model, images, false)
                   .copy(25, 15, 30, 20)
                   .convertToFormat(QImage::Format_RGB32));
     EXPECT_EQ(Pixel(surface, 22, 12), kRed);

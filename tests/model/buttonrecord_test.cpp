@@ -25,10 +25,10 @@ std::vector<std::string> SplitFields(const std::string& line) {
 ButtonRecord Unusual() {
     ButtonRecord r;
     for (int pos = 0; pos < kButtonFieldCount; ++pos) {
-        const FieldKind kind = ButtonFields()[static_cast<std::size_t>(pos)].kind;
+        const FieldKind kind = buttonFields()[static_cast<std::size_t>(pos)].kind;
         const bool number = kind == FieldKind::Int16 || kind == FieldKind::Color;
         EXPECT_FALSE(
-            SetFieldText(r, pos, number ? std::to_string(1000 + pos) : "t" + std::to_string(pos)));
+            setFieldText(r, pos, number ? std::to_string(1000 + pos) : "t" + std::to_string(pos)));
     }
     return r;
 }
@@ -38,13 +38,13 @@ ButtonRecord Unusual() {
 TEST(ButtonRecord, FactoryStringParsesToTheDefaultsAndBack) {
     ButtonRecord record = Unusual();
     record.LabelUP = std::string(500, 'x'); // a longer earlier text leaves no trace
-    ASSERT_FALSE(ParseButton(kFactoryDefaultButton, record));
+    ASSERT_FALSE(parseButton(kFactoryDefaultButton, record));
     EXPECT_EQ(record, ButtonRecord{});
-    EXPECT_EQ(SerializeButton(ButtonRecord{}), kFactoryDefaultButton);
+    EXPECT_EQ(serializeButton(ButtonRecord{}), kFactoryDefaultButton);
     EXPECT_EQ(SplitFields(kFactoryDefaultButton).size(), 50U);
     std::string text = "before\r\n";
-    AppendSerializedButton(text, Unusual());
-    EXPECT_EQ(text, "before\r\n" + SerializeButton(Unusual()));
+    appendSerializedButton(text, Unusual());
+    EXPECT_EQ(text, "before\r\n" + serializeButton(Unusual()));
 }
 
 TEST(ButtonRecord, FieldPositionsMatchTheNamedMembersAndTheStateAccessors) {
@@ -60,20 +60,20 @@ TEST(ButtonRecord, FieldPositionsMatchTheNamedMembersAndTheStateAccessors) {
     for (const ButtonState s : {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN}) {
         const int k = static_cast<int>(s);
         const auto t = [k](int pos) { return "t" + std::to_string(pos + k); };
-        EXPECT_EQ(r.Label(s) + r.Image(s) + r.Font(s) + r.FontStyle(s) + r.Sound(s) + r.Program(s),
+        EXPECT_EQ(r.label(s) + r.image(s) + r.font(s) + r.fontStyle(s) + r.sound(s) + r.Program(s),
                   t(4) + t(13) + t(22) + t(25) + t(31) + t(47));
         const ButtonRecord& c = r;
-        EXPECT_EQ((std::vector<int>{c.BackColor(s), c.FontColor(s), c.FontSize(s), c.ImgStyle(s),
-                                    c.PositionText(s), c.LabelPosX(s), c.LabelPosY(s)}),
+        EXPECT_EQ((std::vector<int>{c.backColor(s), c.fontColor(s), c.fontSize(s), c.ImgStyle(s),
+                                    c.positionText(s), c.labelPosX(s), c.labelPosY(s)}),
                   (std::vector<int>{1016 + k, 1019 + k, 1028 + k, 1034 + k, 1037 + k, 1040 + 2 * k,
                                     1041 + 2 * k}));
     }
-    const std::vector<std::string> fields = SplitFields(SerializeButton(r));
+    const std::vector<std::string> fields = SplitFields(serializeButton(r));
     ASSERT_EQ(fields.size(), 50U);
     for (int pos = 0; pos < kButtonFieldCount; ++pos)
-        EXPECT_EQ(fields[static_cast<std::size_t>(pos)], FieldText(r, pos)) << pos;
-    EXPECT_STREQ(ButtonFields()[16].name, "BackColorUP");
-    EXPECT_STREQ(ButtonFields()[49].name, "ProgramDOWN");
+        EXPECT_EQ(fields[static_cast<std::size_t>(pos)], fieldText(r, pos)) << pos;
+    EXPECT_STREQ(buttonFields()[16].name, "BackColorUP");
+    EXPECT_STREQ(buttonFields()[49].name, "ProgramDOWN");
 }
 
 TEST(ButtonRecord, ParsingStopsAtTheFirstBadFieldAndIgnoresWhatFollowsTheLastBar) {
@@ -97,17 +97,17 @@ TEST(ButtonRecord, ParsingStopsAtTheFirstBadFieldAndIgnoresWhatFollowsTheLastBar
                           {"1|y|3|", false, 1, "Type mismatch", "1000|1001|1002|1003|t4"}};
     for (const Case& c : cases) {
         ButtonRecord record = Unusual();
-        const FieldError e = ParseButton(c.line, record, c.applyPosition);
+        const FieldError e = parseButton(c.line, record, c.applyPosition);
         EXPECT_EQ(e.position, c.errorAt) << c.line;
         EXPECT_EQ(e.description, c.error) << c.line;
         std::string head;
         for (int pos = 0; pos < 5; ++pos)
-            head += FieldText(record, pos) + (pos < 4 ? "|" : "");
+            head += fieldText(record, pos) + (pos < 4 ? "|" : "");
         EXPECT_EQ(head, c.head) << c.line;
         EXPECT_EQ(record.ProgramDOWN, "t49") << c.line;
     }
     ButtonRecord record;
-    ASSERT_FALSE(ParseButton(std::string(kFactoryDefaultButton) + "junk|", record));
+    ASSERT_FALSE(parseButton(std::string(kFactoryDefaultButton) + "junk|", record));
     EXPECT_EQ(record, ButtonRecord{});
 }
 
@@ -117,11 +117,11 @@ TEST(ButtonRecord, FieldsReadNumbersAsTheTypedNumberConversionDoes) {
                                    "-2147483648", "2147483648", "12.5", "1e3", "", "0x1"}) {
         for (const int pos : {2, 16}) {
             const bool wide = pos == 16;
-            const WholeNumber expected = wide ? ParseWholeNumber(text, INT32_MIN, INT32_MAX)
-                                              : ParseWholeNumber(text, INT16_MIN, INT16_MAX);
+            const WholeNumber expected = wide ? parseWholeNumber(text, INT32_MIN, INT32_MAX)
+                                              : parseWholeNumber(text, INT16_MIN, INT16_MAX);
             ButtonRecord record;
-            const FieldError e = SetFieldText(record, pos, text);
-            EXPECT_EQ(e.description, NumberErrorText(expected.error)) << text;
+            const FieldError e = setFieldText(record, pos, text);
+            EXPECT_EQ(e.description, numberErrorText(expected.error)) << text;
             EXPECT_EQ(e.position, expected.error == NumberError::None ? -1 : pos) << text;
             const std::int64_t value = wide ? record.BackColorUP : record.Width;
             const std::int64_t unchanged = wide ? ButtonRecord().BackColorUP : ButtonRecord().Width;
@@ -134,22 +134,22 @@ TEST(ButtonRecord, FieldsReadNumbersAsTheTypedNumberConversionDoes) {
 TEST(ButtonRecord, FontStyleCodesAndStateNamesConvertBothWays) {
     for (const bool bold : {false, true}) {
         for (const bool italic : {false, true}) {
-            const std::string code = FontStyleCode(bold, italic);
+            const std::string code = fontStyleCode(bold, italic);
             EXPECT_EQ(code, std::to_string(bold + 2 * italic));
             bool b = !bold, i = !italic;
-            FontStyleFlags(code, b, i);
+            fontStyleFlags(code, b, i);
             EXPECT_TRUE(b == bold && i == italic) << code;
         }
     }
     bool b = true, i = true;
-    FontStyleFlags("7", b, i);
+    fontStyleFlags("7", b, i);
     EXPECT_FALSE(b || i);
     ButtonState s = ButtonState::UP;
-    EXPECT_TRUE(StateFromName("DOWN", s));
+    EXPECT_TRUE(stateFromName("DOWN", s));
     EXPECT_EQ(s, ButtonState::DOWN);
-    EXPECT_FALSE(StateFromName("over", s));
+    EXPECT_FALSE(stateFromName("over", s));
     EXPECT_EQ(s, ButtonState::DOWN);
-    EXPECT_STREQ(StateName(ButtonState::OVER), "OVER");
+    EXPECT_STREQ(stateName(ButtonState::OVER), "OVER");
 }
 
 TEST(ButtonRecord, FieldsHoldOnlyWhatTheirEncodingsCarry) {
@@ -160,9 +160,9 @@ TEST(ButtonRecord, FieldsHoldOnlyWhatTheirEncodingsCarry) {
                                                        {FieldKind::Raw, "abcde \xC3\xA9;&"}};
     for (const auto& [kind, kept] : cases) {
         bool removed = false;
-        EXPECT_EQ(CleanFieldText(kind, mixed, &removed), kept);
+        EXPECT_EQ(cleanFieldText(kind, mixed, &removed), kept);
         EXPECT_TRUE(removed);
-        EXPECT_EQ(CleanFieldText(kind, kept, &removed), kept);
+        EXPECT_EQ(cleanFieldText(kind, kept, &removed), kept);
         EXPECT_FALSE(removed);
     }
 }
@@ -170,46 +170,46 @@ TEST(ButtonRecord, FieldsHoldOnlyWhatTheirEncodingsCarry) {
 TEST(ProjectModel, TheHundredAndFirstButtonIsAcceptedTheNextRefused) {
     ProjectModel model;
     for (int i = 1; i <= kMaxButtons; ++i)
-        ASSERT_EQ(model.AddButton(kFactoryDefaultButton), ProjectModel::AddResult::Added) << i;
+        ASSERT_EQ(model.addButton(kFactoryDefaultButton), ProjectModel::AddResult::Added) << i;
     EXPECT_EQ(model.ButtonCount, 101);
     EXPECT_EQ(model.CurrentButton, 101);
     model.Saved = true;
     model.CurrentButton = 5;
-    const ButtonRecord spare = model.Button(102);
-    EXPECT_EQ(model.AddButton(kFactoryDefaultButton), ProjectModel::AddResult::LimitReached);
-    EXPECT_EQ(model.DuplicateButton(1), ProjectModel::AddResult::LimitReached);
+    const ButtonRecord spare = model.button(102);
+    EXPECT_EQ(model.addButton(kFactoryDefaultButton), ProjectModel::AddResult::LimitReached);
+    EXPECT_EQ(model.duplicateButton(1), ProjectModel::AddResult::LimitReached);
     EXPECT_EQ(model.ButtonCount, 101);
     EXPECT_EQ(model.CurrentButton, 5);
     EXPECT_TRUE(model.Saved);
-    EXPECT_EQ(model.Button(102), spare);
+    EXPECT_EQ(model.button(102), spare);
 }
 
 TEST(ProjectModel, CorruptDefaultLeavesTheModelUnchanged) {
     ProjectModel model;
-    ASSERT_EQ(model.AddButton(kFactoryDefaultButton), ProjectModel::AddResult::Added);
+    ASSERT_EQ(model.addButton(kFactoryDefaultButton), ProjectModel::AddResult::Added);
     model.Saved = true;
-    model.Button(2) = Unusual();
+    model.button(2) = Unusual();
     FieldError error;
-    EXPECT_EQ(model.AddButton("0|0|wide|40|", &error), ProjectModel::AddResult::CorruptDefault);
+    EXPECT_EQ(model.addButton("0|0|wide|40|", &error), ProjectModel::AddResult::CorruptDefault);
     EXPECT_EQ(error.position, 2);
     EXPECT_EQ(error.description, "Type mismatch");
-    EXPECT_EQ(model.AddButton("x|0|", &error), ProjectModel::AddResult::CorruptDefault);
+    EXPECT_EQ(model.addButton("x|0|", &error), ProjectModel::AddResult::CorruptDefault);
     EXPECT_EQ(error.position, 0);
     EXPECT_EQ(model.ButtonCount, 1);
     EXPECT_EQ(model.CurrentButton, 1);
     EXPECT_TRUE(model.Saved);
-    EXPECT_EQ(model.Button(2), Unusual());
+    EXPECT_EQ(model.button(2), Unusual());
 }
 
 TEST(ProjectModel, ProgramSlotsNameTheSevenPrograms) {
     ProjectModel model;
-    EXPECT_EQ(model.ProgramSlot("ProgramOVER", 3), &model.Button(3).ProgramOVER);
-    EXPECT_EQ(model.ProgramSlot("ProgramDOWN", 1), &model.Button(1).ProgramDOWN);
-    EXPECT_EQ(model.ProgramSlot("AppletProgramStart", 0), &model.AppletProgramStart);
-    EXPECT_EQ(model.ProgramSlot("AppletProgramOUT", 0), &model.AppletProgramOUT);
-    EXPECT_EQ(model.ProgramSlot("ProgramUP", 0), nullptr);
-    EXPECT_EQ(model.ProgramSlot("ProgramUP", 103), nullptr);
-    EXPECT_EQ(model.ProgramSlot("Program", 1), nullptr);
-    EXPECT_TRUE(IsButtonProgramKind("ProgramUP") && IsAppletProgramKind("AppletProgramDOWN"));
-    EXPECT_FALSE(IsButtonProgramKind("AppletProgramOVER"));
+    EXPECT_EQ(model.programSlot("ProgramOVER", 3), &model.button(3).ProgramOVER);
+    EXPECT_EQ(model.programSlot("ProgramDOWN", 1), &model.button(1).ProgramDOWN);
+    EXPECT_EQ(model.programSlot("AppletProgramStart", 0), &model.AppletProgramStart);
+    EXPECT_EQ(model.programSlot("AppletProgramOUT", 0), &model.AppletProgramOUT);
+    EXPECT_EQ(model.programSlot("ProgramUP", 0), nullptr);
+    EXPECT_EQ(model.programSlot("ProgramUP", 103), nullptr);
+    EXPECT_EQ(model.programSlot("Program", 1), nullptr);
+    EXPECT_TRUE(isButtonProgramKind("ProgramUP") && isAppletProgramKind("AppletProgramDOWN"));
+    EXPECT_FALSE(isButtonProgramKind("AppletProgramOVER"));
 }

@@ -75,22 +75,22 @@ TEST_F(DesktopIntegrationTest, SettingsAndTheDesktopDecideWhichPromptsStartUpSho
     for (const Case& c : cases) {
         settings.setValue(SettingKey::ShortCut, c.shortCut);
         settings.setValue(SettingKey::DontAskToAssociate, c.dontAsk);
-        const StartupOffers offers = DecideStartupOffers(settings, c.fromBuild, c.associated);
+        const StartupOffers offers = decideStartupOffers(settings, c.fromBuild, c.associated);
         EXPECT_EQ(offers.shortCut, c.offerShortCut) << c.shortCut << " " << c.fromBuild;
         EXPECT_EQ(offers.associate, c.askAssociate) << c.dontAsk;
     }
 }
 
 TEST_F(DesktopIntegrationTest, AssociatedOnlyWhenXdgMimeNamesOrvelinsEntry) {
-    EXPECT_EQ(IsAssociated(tools), false);
+    EXPECT_EQ(isAssociated(tools), false);
     tools.defaultApp = std::string(kDesktopId) + "\n";
-    EXPECT_EQ(IsAssociated(tools), true);
+    EXPECT_EQ(isAssociated(tools), true);
     tools.missing = {"xdg-mime"};
-    EXPECT_EQ(IsAssociated(tools), std::nullopt);
+    EXPECT_EQ(isAssociated(tools), std::nullopt);
 }
 
 TEST_F(DesktopIntegrationTest, RegisteringWritesTheUsersFilesThenRunsTheToolsInOrder) {
-    ASSERT_EQ(RegisterFileType(tools, places), "");
+    ASSERT_EQ(registerFileType(tools, places), "");
     const std::string data = places.dataHome;
     EXPECT_EQ(tools.calls,
               (std::vector<std::string>{
@@ -107,15 +107,15 @@ TEST_F(DesktopIntegrationTest, RegisteringWritesTheUsersFilesThenRunsTheToolsInO
 
 TEST_F(DesktopIntegrationTest, AFailureNamesTheToolAndWhatToInstallAndStopsThere) {
     tools.missing = {"update-mime-database"};
-    EXPECT_EQ(RegisterFileType(tools, places),
+    EXPECT_EQ(registerFileType(tools, places),
               "update-mime-database is not installed (install the package shared-mime-info)");
     EXPECT_EQ(tools.calls.size(), 2u); // xdg-mime default never ran
     tools.missing.clear();
     tools.failing = {"update-desktop-database"};
-    EXPECT_EQ(AddToApplicationsMenu(tools, places),
+    EXPECT_EQ(addToApplicationsMenu(tools, places),
               "update-desktop-database failed (exit status 3): no space left");
     std::filesystem::remove(folder.dir() / "program/desktop/orvelin.xml");
     tools.failing.clear();
-    EXPECT_EQ(RegisterFileType(tools, places),
+    EXPECT_EQ(registerFileType(tools, places),
               places.programFolder + "/desktop/orvelin.xml is missing from the program folder");
 }

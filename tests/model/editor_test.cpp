@@ -44,8 +44,8 @@ struct EditorFixture : ::testing::Test {
     std::string WriteProject(const std::string& name, int count) {
         ProjectModel source;
         for (int i = 1; i <= count; ++i) {
-            source.AddButton(kFactoryDefaultButton);
-            source.Button(i).LabelUP = name + std::to_string(i);
+            source.addButton(kFactoryDefaultButton);
+            source.button(i).LabelUP = name + std::to_string(i);
         }
         orvelin::testing::FakeUserInterface quiet;
         EXPECT_TRUE(SaveProject(source, PathOf(name + ".orv"), quiet));
@@ -54,9 +54,9 @@ struct EditorFixture : ::testing::Test {
 
     // The state right after start-up plus `more` added buttons: the clean slate.
     void Start(int more = 0) {
-        ASSERT_EQ(editor.Startup(""), StartupResult::Ready);
+        ASSERT_EQ(editor.startup(""), StartupResult::Ready);
         for (int i = 0; i < more; ++i)
-            editor.AddButton();
+            editor.addButton();
         model.Saved = true;
         ui.shown.clear();
         design.clear();
@@ -87,25 +87,25 @@ TEST(EditorText, CommandLinePathDropsBlanksAndSurroundingQuotesAndTitlesNameTheS
         {"\"/a/b.orv", "/a/b.or"}, // the last character goes with the missing quote
         {"\"", ""}};
     for (const auto& [line, path] : lines)
-        EXPECT_EQ(ProjectPathFromCommandLine(line), path) << line;
-    EXPECT_STREQ(AskToSaveText(SaveAnswer::Saved), "SAVED");
-    EXPECT_STREQ(AskToSaveText(SaveAnswer::Cancel), "CANCEL");
+        EXPECT_EQ(projectPathFromCommandLine(line), path) << line;
+    EXPECT_STREQ(askToSaveText(SaveAnswer::Saved), "SAVED");
+    EXPECT_STREQ(askToSaveText(SaveAnswer::Cancel), "CANCEL");
 }
 
 TEST(EditorText, SaveAsAddsTheProjectExtensionToANameWithoutOneUnderTheProjectFilter) {
     const std::string orv = "Orvelin Files (*.orv)";
-    EXPECT_EQ(ProjectSavePath("/a.b/bar", orv) + ProjectSavePath("/a/.bar", orv),
+    EXPECT_EQ(projectSavePath("/a.b/bar", orv) + projectSavePath("/a/.bar", orv),
               "/a.b/bar.orv/a/.bar.orv");
-    EXPECT_EQ(ProjectSavePath("/a/b.ar", orv) + ProjectSavePath("/a/bar", "All Files (*.*)"),
+    EXPECT_EQ(projectSavePath("/a/b.ar", orv) + projectSavePath("/a/bar", "All Files (*.*)"),
               "/a/b.ar/a/bar");
 }
 
 TEST_F(EditorFixture, StartupWithAnEmptyStoreShowsOneSavedButton) {
     settings.setFlag(SettingKey::AutoTile, false);
-    ASSERT_EQ(editor.Startup(""), StartupResult::Ready);
+    ASSERT_EQ(editor.startup(""), StartupResult::Ready);
     EXPECT_EQ(Shown(), "1 buttons, current 1, list 1 selecting 1, saved");
     EXPECT_EQ(model.CurrentState, ButtonState::UP);
-    EXPECT_EQ(model.Button(1), ButtonRecord{});
+    EXPECT_EQ(model.button(1), ButtonRecord{});
     EXPECT_EQ(view.caption, kTitle);
     EXPECT_EQ(view.actionTitle, "Set Action: On Leaving Button...");
     EXPECT_EQ(view.language, "English");
@@ -115,16 +115,16 @@ TEST_F(EditorFixture, StartupWithAnEmptyStoreShowsOneSavedButton) {
     EXPECT_EQ(design.count("LoadButton 1"), 1);
     EXPECT_EQ(view.props.back().caption, "Properties for Button # 1");
     EXPECT_TRUE(ui.shown.empty());
-    EXPECT_TRUE(editor.MayAskToAssociate());
+    EXPECT_TRUE(editor.mayAskToAssociate());
     backend.set(kParams, "DontAskToAssociate", "1");
-    EXPECT_FALSE(editor.MayAskToAssociate());
+    EXPECT_FALSE(editor.mayAskToAssociate());
 }
 
 TEST_F(EditorFixture, StartupAppliesTheStoredOptions) {
     settings.setFlag(SettingKey::frmDesignOnTop, true);
     settings.setValue(SettingKey::LanguageCurrent, "rus");
-    settings.SetRecentFile(1, "/x/a.orv");
-    ASSERT_EQ(editor.Startup(""), StartupResult::Ready);
+    settings.setRecentFile(1, "/x/a.orv");
+    ASSERT_EQ(editor.startup(""), StartupResult::Ready);
     EXPECT_TRUE(design.onTop && view.onTopChecked && view.autoTileChecked);
     EXPECT_EQ(view.language, "rus");
     EXPECT_EQ(view.recent[1], (std::pair<std::string, bool>{"/x/a.orv", true}));
@@ -132,26 +132,26 @@ TEST_F(EditorFixture, StartupAppliesTheStoredOptions) {
 
 TEST_F(EditorFixture, AQuotedCommandLineOpensTheFileNamedInsideTheQuotes) {
     const std::string path = WriteProject("my project", 3);
-    ASSERT_EQ(editor.Startup("  \"" + path + "\" "), StartupResult::Ready);
+    ASSERT_EQ(editor.startup("  \"" + path + "\" "), StartupResult::Ready);
     EXPECT_EQ(Shown(), "3 buttons, current 1, list 3 selecting 1, saved");
-    EXPECT_EQ(model.Button(2).LabelUP, "my project2");
+    EXPECT_EQ(model.button(2).LabelUP, "my project2");
     EXPECT_EQ(model.ProjectFileName, path);
     EXPECT_EQ(view.caption, kTitle + " " + path);
-    EXPECT_EQ(settings.RecentFile(1), path);
+    EXPECT_EQ(settings.recentFile(1), path);
     EXPECT_EQ(design.count("ClearButtons") + design.count("LoadButton 3"), 2);
     EXPECT_TRUE(ui.messages().empty());
 }
 
 TEST_F(EditorFixture, AnUnreadableCommandLinePathReportsAndKeepsTheEditorOpen) {
-    ASSERT_EQ(editor.Startup(PathOf("missing.orv")), StartupResult::Ready);
+    ASSERT_EQ(editor.startup(PathOf("missing.orv")), StartupResult::Ready);
     EXPECT_EQ(ui.messages(), Texts{"Error loading project.\r\nFile not found"});
     EXPECT_EQ(Shown(), "0 buttons, current 0, list 0 selecting, saved");
-    EXPECT_EQ(settings.RecentFile(1), "-1");
+    EXPECT_EQ(settings.recentFile(1), "-1");
 }
 
 TEST_F(EditorFixture, ADamagedDefaultButtonIsRepairedAndEndsTheProgram) {
     backend.set(kParams, "strDefaultBtn", "0|0|wide|40|");
-    EXPECT_EQ(editor.Startup(""), StartupResult::Quit);
+    EXPECT_EQ(editor.startup(""), StartupResult::Quit);
     const Texts repair = {"Registry settings were currupted. Program will try to restore "
                           "previous settings.",
                           "Settings restored. Please restart the program."};
@@ -163,24 +163,24 @@ TEST_F(EditorFixture, ADamagedDefaultButtonIsRepairedAndEndsTheProgram) {
     // Damaged later, the next Add repairs it and ends the program itself.
     ui.shown.clear();
     settings.setValue(SettingKey::strDefaultBtn, "0|0|107|40||||||_self|x|");
-    editor.AddButton();
+    editor.addButton();
     EXPECT_EQ(view.quits, 1);
     EXPECT_EQ(ui.messages(), repair);
     EXPECT_EQ(model.ButtonCount, 0);
-    EXPECT_EQ(settings.DefaultButton(), kFactoryDefaultButton);
+    EXPECT_EQ(settings.defaultButton(), kFactoryDefaultButton);
 }
 
 TEST_F(EditorFixture, AddMakesTheStoredDefaultButtonAtItsSlotsPosition) {
     Start();
-    settings.SetDefaultButton("5|6|80|30|Hi&nbspthere|||||_top|");
-    model.Button(2).x = 33;
-    model.Button(2).y = 44;
-    model.Button(2).ProgramDOWN = "stale"; // the rest comes from the default
+    settings.setDefaultButton("5|6|80|30|Hi&nbspthere|||||_top|");
+    model.button(2).x = 33;
+    model.button(2).y = 44;
+    model.button(2).ProgramDOWN = "stale"; // the rest comes from the default
 
-    editor.AddButton();
+    editor.addButton();
     ButtonRecord expected;
-    ParseButton("33|44|80|30|Hi&nbspthere|||||_top|", expected);
-    EXPECT_EQ(model.Button(2), expected);
+    parseButton("33|44|80|30|Hi&nbspthere|||||_top|", expected);
+    EXPECT_EQ(model.button(2), expected);
     EXPECT_EQ(Shown(), "2 buttons, current 2, list 2 selecting 2, changed");
     EXPECT_EQ(design.calls.front(), "LoadButton 2");
     EXPECT_EQ(view.props.back().index, 2);
@@ -188,45 +188,45 @@ TEST_F(EditorFixture, AddMakesTheStoredDefaultButtonAtItsSlotsPosition) {
 
 TEST_F(EditorFixture, The102ndButtonIsRefusedWithTheTwoLineMessage) {
     Start(99);
-    editor.AddButton();
+    editor.addButton();
     EXPECT_EQ(model.ButtonCount, 101);
     EXPECT_TRUE(ui.shown.empty());
     model.Saved = true;
-    const ButtonRecord spare = model.Button(102);
-    editor.AddButton();
-    editor.DuplicateButton();
+    const ButtonRecord spare = model.button(102);
+    editor.addButton();
+    editor.duplicateButton();
     EXPECT_EQ(ui.messages(), (Texts{kLimitMessage, kLimitMessage}));
     EXPECT_EQ(Shown(), "101 buttons, current 101, list 101 selecting 101, saved");
-    EXPECT_EQ(model.Button(102), spare);
+    EXPECT_EQ(model.button(102), spare);
 }
 
 TEST_F(EditorFixture, DuplicateCopiesTheCurrentButtonAsTheNewLast) {
     Start(2);
-    model.Button(2).LabelUP = "two";
-    editor.ClickList(2);
-    editor.DuplicateButton();
+    model.button(2).LabelUP = "two";
+    editor.clickList(2);
+    editor.duplicateButton();
     EXPECT_EQ(Shown(), "4 buttons, current 4, list 4 selecting 4, changed");
-    ButtonRecord moved = model.Button(2);
+    ButtonRecord moved = model.button(2);
     moved.x = static_cast<std::int16_t>(moved.x + 10);
     moved.y = static_cast<std::int16_t>(moved.y + 10);
-    EXPECT_EQ(model.Button(4), moved); // offset so that the copy is seen
+    EXPECT_EQ(model.button(4), moved); // offset so that the copy is seen
     EXPECT_EQ(design.count("LoadButton 4"), 1);
     // At the edge of the coordinate range the copy stays on it.
-    model.Button(4).x = 32765;
-    editor.DuplicateButton();
-    EXPECT_EQ(model.Button(5).x, 32767);
+    model.button(4).x = 32765;
+    editor.duplicateButton();
+    EXPECT_EQ(model.button(5).x, 32767);
 }
 
 TEST_F(EditorFixture, RemovingButton2Of4MovesTheLaterOnesDownAndSelectsButton1) {
     Start(3);
     for (int i = 1; i <= 4; ++i)
-        model.Button(i).LabelUP = "b" + std::to_string(i);
-    editor.SetListSelection({2, 3, 4});
-    editor.ClickList(2);
+        model.button(i).LabelUP = "b" + std::to_string(i);
+    editor.setListSelection({2, 3, 4});
+    editor.clickList(2);
     design.clear();
-    editor.RemoveButton();
+    editor.removeButton();
     EXPECT_EQ(Shown(), "3 buttons, current 1, list 3 selecting 1, changed");
-    EXPECT_EQ(model.Button(1).LabelUP + model.Button(2).LabelUP + model.Button(3).LabelUP,
+    EXPECT_EQ(model.button(1).LabelUP + model.button(2).LabelUP + model.button(3).LabelUP,
               "b1b3b4");
     EXPECT_EQ(design.calls.front(), "HideLastButton 4");
     EXPECT_EQ(design.calls.back(), "RedrawAll");
@@ -235,28 +235,28 @@ TEST_F(EditorFixture, RemovingButton2Of4MovesTheLaterOnesDownAndSelectsButton1) 
 
 TEST_F(EditorFixture, RemovingTheLastButtonLeavesCurrentButton1AndTheNextAddMakesButton1) {
     Start();
-    editor.RemoveButton();
+    editor.removeButton();
     EXPECT_EQ(design.count("HideMarks"), 1);
     const std::size_t shown = view.props.size();
     model.Saved = true;
-    editor.RemoveButton(); // CurrentButton 1 points at no button: nothing to remove
-    editor.DuplicateButton();
+    editor.removeButton(); // CurrentButton 1 points at no button: nothing to remove
+    editor.duplicateButton();
     EXPECT_EQ(Shown(), "0 buttons, current 1, list 0 selecting, saved");
     EXPECT_EQ(view.props.size(), shown);
-    editor.AddButton();
+    editor.addButton();
     EXPECT_EQ(Shown(), "1 buttons, current 1, list 1 selecting 1, changed");
 }
 
 TEST_F(EditorFixture, ListClicksMakeTheCurrentButtonAndKeepTheListsSelection) {
     Start(2);
-    editor.SetListSelection({1, 3});
-    editor.ClickList(3);
+    editor.setListSelection({1, 3});
+    editor.clickList(3);
     EXPECT_EQ(Shown(), "3 buttons, current 3, list 3 selecting 1 3, saved");
     EXPECT_EQ(view.props.back().caption, "Properties for Button # 3");
     EXPECT_TRUE(view.props.back().updating);
     EXPECT_EQ(design.calls.back(), "RedrawAll");
-    editor.ClickList(4);
-    editor.ClickList(0);
+    editor.clickList(4);
+    editor.clickList(0);
     EXPECT_EQ(Shown(), "3 buttons, current 3, list 3 selecting 1 3, saved");
 }
 
@@ -268,11 +268,11 @@ TEST_F(EditorFixture, SwitchingTheStateRetitlesTheActionAndShowsThatState) {
         {"SIDEWAYS", "DOWN", "Set Action: On Button Press..."},
         {"UP", "UP", "Set Action: On Leaving Button..."}};
     for (const auto& [state, shown, title] : states) {
-        editor.SwitchState(state);
-        EXPECT_EQ(StateName(model.CurrentState), std::string(shown));
+        editor.switchState(state);
+        EXPECT_EQ(stateName(model.CurrentState), std::string(shown));
         EXPECT_EQ(view.state, model.CurrentState);
         EXPECT_EQ(view.actionTitle, title);
-        EXPECT_EQ(editor.ActionProgramKind(), "Program" + std::string(shown));
+        EXPECT_EQ(editor.actionProgramKind(), "Program" + std::string(shown));
         EXPECT_EQ(view.props.back().state, shown);
         EXPECT_EQ(view.props.back().index, 2);
     }
@@ -294,29 +294,29 @@ TEST_F(EditorFixture, AskToSaveOnAnUnchangedProjectAsksNothingAndOnYesSavesUnder
     EXPECT_EQ(ui.shown[0].title, "Orvelin");
     EXPECT_TRUE(model.Saved);
     EXPECT_TRUE(fs::exists(PathOf("a.orv")));
-    EXPECT_EQ(settings.RecentFile(1), PathOf("a.orv"));
+    EXPECT_EQ(settings.recentFile(1), PathOf("a.orv"));
 }
 
 TEST_F(EditorFixture, ClosingEndsOnNoOrASaveAndStaysOnCancelOrAFailedSave) {
     Start();
     Unsaved({Answer::Yes});
     ui.chosenFiles = {std::nullopt};
-    EXPECT_FALSE(editor.Close()) << "Save As on an unnamed project was cancelled";
+    EXPECT_FALSE(editor.close()) << "Save As on an unnamed project was cancelled";
     EXPECT_EQ(ui.shown.back().kind, "save");
     ui.answers = {Answer::Cancel};
-    EXPECT_FALSE(editor.Close());
+    EXPECT_FALSE(editor.close());
     ui.answers = {Answer::No};
-    EXPECT_TRUE(editor.Close());
+    EXPECT_TRUE(editor.close());
     EXPECT_FALSE(model.Saved);
     model.ProjectFileName = PathOf("no such folder/p.orv");
     ui.answers = {Answer::Yes};
-    EXPECT_FALSE(editor.Close());
+    EXPECT_FALSE(editor.close());
     EXPECT_EQ(ui.messages().back(), kSaveError);
     model.ProjectFileName = PathOf("p.orv");
     ui.answers = {Answer::Yes};
-    EXPECT_TRUE(editor.Close());
+    EXPECT_TRUE(editor.close());
     ui.shown.clear();
-    EXPECT_TRUE(editor.Close());
+    EXPECT_TRUE(editor.close());
     EXPECT_TRUE(ui.shown.empty());
 }
 
@@ -331,9 +331,9 @@ TEST_F(EditorFixture, NewEmptiesTheProjectAndTheSurfaceUnlessCancelled) {
     model.AppletProgramOUT = "b;";
     model.ProjectFileName = "/old.orv";
     Unsaved({Answer::Cancel, Answer::No});
-    editor.New();
+    editor.newProject();
     EXPECT_EQ(model.ButtonCount, 3) << "cancel stops";
-    editor.New();
+    editor.newProject();
     EXPECT_EQ(Shown(), "0 buttons, current 0, list 0 selecting, saved");
     EXPECT_EQ((std::vector<int>{model.AppletWidth, model.BackGround}),
               (std::vector<int>{300, 255}));
@@ -351,19 +351,19 @@ TEST_F(EditorFixture, OpenLoadsTheChosenFileAndShowsButton1AloneUnlessCancelled)
     Start();
     const std::string path = WriteProject("open", 4);
     Unsaved({Answer::Cancel, Answer::No, Answer::No});
-    editor.Open();
+    editor.open();
     EXPECT_EQ(ui.shown.size(), 1u) << "no file dialog after Cancel";
     ui.chosenFiles = {std::nullopt, path};
-    editor.Open();
+    editor.open();
     EXPECT_EQ(model.ButtonCount, 1) << "a closed dialog changes nothing";
-    editor.Open();
+    editor.open();
     EXPECT_EQ(ui.shown.back().kind, "open");
     EXPECT_EQ(ui.shown.back().text, kProjectFilter);
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
-    EXPECT_EQ(model.Button(4).LabelUP, "open4");
+    EXPECT_EQ(model.button(4).LabelUP, "open4");
     EXPECT_EQ(view.props.back().index, 1);
     EXPECT_EQ(view.caption, kTitle + " " + path);
-    EXPECT_EQ(settings.RecentFile(1), path);
+    EXPECT_EQ(settings.recentFile(1), path);
 }
 
 TEST_F(EditorFixture, AFileCutOffKeepsTheButtonsReadSoFarInListAndSurface) {
@@ -374,18 +374,18 @@ TEST_F(EditorFixture, AFileCutOffKeepsTheButtonsReadSoFarInListAndSurface) {
     const std::string path = folder.write(
         "sub/cut.orv", text.substr(0, text.rfind("\r\n", text.find("cut5")) + 2) + "0|0|107|");
     ui.chosenFiles = {good, path, PathOf("missing.orv")};
-    editor.Open();
-    editor.Open();
+    editor.open();
+    editor.open();
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
     EXPECT_EQ(design.count("LoadButton 4") + design.count("LoadButton 5"), 1);
     EXPECT_EQ(ui.messages(), Texts{"Error loading project.\r\nInput past end of file"});
     // What is shown has no file name, and its images are found beside the file it is from.
     EXPECT_EQ(model.ProjectFileName, "");
     EXPECT_EQ(view.caption, kTitle);
-    EXPECT_EQ(model.FileForRelativePaths(), path);
-    EXPECT_EQ(settings.RecentFile(1), good);
-    editor.Open(); // a file that cannot be read replaces nothing the surface shows
-    EXPECT_EQ(model.FileForRelativePaths(), path);
+    EXPECT_EQ(model.fileForRelativePaths(), path);
+    EXPECT_EQ(settings.recentFile(1), good);
+    editor.open(); // a file that cannot be read replaces nothing the surface shows
+    EXPECT_EQ(model.fileForRelativePaths(), path);
 }
 
 TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
@@ -393,22 +393,22 @@ TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
     settings.setFlag(SettingKey::frmDesignOnTop, true);
     ui.chosenFiles = {PathOf("first.orv")};
     model.Saved = false;
-    EXPECT_TRUE(editor.Save());
+    EXPECT_TRUE(editor.save());
     EXPECT_EQ(ui.shown[0].kind, "save");
     EXPECT_EQ(ui.shown[0].title, "untitled.orv");
     EXPECT_EQ(model.ProjectFileName, PathOf("first.orv"));
     EXPECT_EQ(view.caption, kTitle + " " + PathOf("first.orv"));
     EXPECT_TRUE(model.Saved);
-    EXPECT_EQ(settings.RecentFile(1), PathOf("first.orv"));
+    EXPECT_EQ(settings.recentFile(1), PathOf("first.orv"));
     EXPECT_TRUE(design.onTop) << "the design surface is put on top again";
 
     ui.shown.clear();
     model.Saved = false;
-    EXPECT_TRUE(editor.Save());
+    EXPECT_TRUE(editor.save());
     EXPECT_TRUE(ui.shown.empty()) << "a named project saves without a dialog";
     ui.chosenFiles = {PathOf("missing folder/x.orv")};
     model.Saved = false;
-    EXPECT_FALSE(editor.SaveAs());
+    EXPECT_FALSE(editor.saveAs());
     EXPECT_EQ(ui.shown[0].title, PathOf("first.orv"));
     EXPECT_EQ(model.ProjectFileName, PathOf("first.orv"));
     EXPECT_FALSE(model.Saved);
@@ -417,10 +417,10 @@ TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
     ui.shown.clear();
     ui.chosenFiles = {PathOf("first"), PathOf("first")};
     ui.answers = {Answer::Cancel, Answer::Ok};
-    EXPECT_FALSE(editor.SaveAs());
+    EXPECT_FALSE(editor.saveAs());
     EXPECT_EQ(ui.shown[1].text,
               PathOf("first.orv") + " already exists.\r\nDo you want to replace it?");
-    EXPECT_TRUE(editor.SaveAs());
+    EXPECT_TRUE(editor.saveAs());
     EXPECT_EQ(ui.shown.size(), 4u);
     EXPECT_EQ(folder.entries(), 1) << "first.orv, and no file \"first\"";
 }
@@ -429,35 +429,35 @@ TEST_F(EditorFixture, SavingFiveProjectsThenReopeningTheThirdLeavesTheRecentList
     Start();
     for (const char* name : {"P", "Q", "R", "S", "T"}) {
         ui.chosenFiles = {PathOf(std::string(name) + ".orv")};
-        ASSERT_TRUE(editor.SaveAs());
+        ASSERT_TRUE(editor.saveAs());
     }
     const std::array<std::string, 4> expected{PathOf("T.orv"), PathOf("S.orv"), PathOf("R.orv"),
                                               PathOf("Q.orv")};
-    EXPECT_EQ(editor.Recent().Slots(), expected);
+    EXPECT_EQ(editor.recent().entries(), expected);
     EXPECT_EQ(view.recent[4], (std::pair<std::string, bool>{PathOf("Q.orv"), true}));
-    editor.OpenRecent(3);
+    editor.openRecent(3);
     EXPECT_EQ(model.ProjectFileName, PathOf("R.orv"));
-    EXPECT_EQ(editor.Recent().Slots(), expected);
+    EXPECT_EQ(editor.recent().entries(), expected);
     // The comparison is exact: another spelling is another file.
-    editor.Recent().WriteRecent(PathOf("r.orv"));
-    EXPECT_EQ(editor.Recent().Path(1), PathOf("r.orv"));
-    EXPECT_EQ(editor.Recent().Path(4), PathOf("R.orv"));
-    EXPECT_EQ(editor.Recent().Path(0) + editor.Recent().Path(5), "");
+    editor.recent().WriteRecent(PathOf("r.orv"));
+    EXPECT_EQ(editor.recent().path(1), PathOf("r.orv"));
+    EXPECT_EQ(editor.recent().path(4), PathOf("R.orv"));
+    EXPECT_EQ(editor.recent().path(0) + editor.recent().path(5), "");
 }
 
 TEST_F(EditorFixture, OpenRecentAsksFirstAndIgnoresAnEmptySlot) {
     Start();
     const std::string path = WriteProject("recent", 2);
-    editor.Recent().WriteRecent(path);
+    editor.recent().WriteRecent(path);
     EXPECT_EQ(view.recent[1], (std::pair<std::string, bool>{path, true}));
     EXPECT_FALSE(view.recent[2].second);
-    EXPECT_EQ(editor.Recent().Path(2), "");
-    editor.OpenRecent(2);
+    EXPECT_EQ(editor.recent().path(2), "");
+    editor.openRecent(2);
     EXPECT_EQ(model.ButtonCount, 1);
     Unsaved({Answer::Cancel, Answer::No});
-    editor.OpenRecent(1);
+    editor.openRecent(1);
     EXPECT_EQ(model.ButtonCount, 1);
-    editor.OpenRecent(1);
+    editor.openRecent(1);
     EXPECT_EQ(model.ButtonCount, 2);
     EXPECT_EQ(model.ProjectFileName, path);
 }
@@ -465,47 +465,47 @@ TEST_F(EditorFixture, OpenRecentAsksFirstAndIgnoresAnEmptySlot) {
 TEST_F(EditorFixture, ImportingALegacyProjectLeavesItUnnamedAndUnsaved) {
     Start();
     ui.chosenFiles = {std::string(ORVELIN_TEST_DATA) + "/legacy_project.ini"};
-    editor.ImportLegacy();
+    editor.importLegacy();
     EXPECT_EQ(ui.shown[0].text, kLegacyProjectFilter);
     EXPECT_EQ(Shown(), "2 buttons, current 1, list 2 selecting 1, changed");
     EXPECT_EQ(model.AppletWidth, 400);
     EXPECT_EQ(model.ProjectFileName, "");
-    EXPECT_EQ(settings.RecentFile(1), "-1");
+    EXPECT_EQ(settings.recentFile(1), "-1");
     EXPECT_EQ(view.caption, kTitle);
 }
 
 TEST_F(EditorFixture, MakeDefaultStoresTheCurrentButtonForNewOnes) {
     Start();
-    editor.RemoveButton();
+    editor.removeButton();
     model.CurrentButton = 0;
-    editor.MakeDefault();
+    editor.makeDefault();
     EXPECT_EQ(ui.messages(), Texts{"Nothing selected"});
     EXPECT_EQ(settings.value(SettingKey::strDefaultBtn), "-1");
-    editor.AddButton();
-    model.Button(1).LabelUP = "Say \"hi\"";
-    model.Button(1).FontColorDOWN = 7;
-    editor.MakeDefault();
+    editor.addButton();
+    model.button(1).LabelUP = "Say \"hi\"";
+    model.button(1).FontColorDOWN = 7;
+    editor.makeDefault();
     EXPECT_EQ(ui.messages().back(), "Properties of this button will be used to create new ones.");
-    EXPECT_EQ(settings.DefaultButton(), SerializeButton(model.Button(1)));
-    editor.AddButton();
-    EXPECT_EQ(model.Button(2).LabelUP, "Say \"hi\"");
-    EXPECT_EQ(model.Button(2).FontColorDOWN, 7);
+    EXPECT_EQ(settings.defaultButton(), serializeButton(model.button(1)));
+    editor.addButton();
+    EXPECT_EQ(model.button(2).LabelUP, "Say \"hi\"");
+    EXPECT_EQ(model.button(2).FontColorDOWN, 7);
 }
 
 TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     Start();
     const std::string dir = folder.dir().string();
     const std::string page = dir + "/help/help.htm";
-    SetProgramFolderOverride(dir);
-    editor.Help(); // no page: not handed to the desktop at all
+    setProgramFolderOverride(dir);
+    editor.help(); // no page: not handed to the desktop at all
     std::filesystem::create_directories(dir + "/help");
     orvelin::testing::WriteBytes(page, "<html></html>");
-    editor.SoundConverter();
-    editor.Help();
+    editor.soundConverter();
+    editor.help();
     shell.succeed = false;
-    editor.SoundConverter();
-    editor.Help();
-    SetProgramFolderOverride("");
+    editor.soundConverter();
+    editor.help();
+    setProgramFolderOverride("");
     ASSERT_EQ(shell.started.size(), 2u);
     EXPECT_EQ(shell.started[0].first, dir + "/SoundConv");
     EXPECT_TRUE(shell.started[0].second.empty());
@@ -520,22 +520,22 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
 
 TEST_F(EditorFixture, OptionCommandsStoreTheChoiceAndShowIt) {
     Start();
-    editor.ToggleKeepOnTop();
-    EXPECT_TRUE(editor.KeepOnTop() && view.onTopChecked && design.onTop);
+    editor.toggleKeepOnTop();
+    EXPECT_TRUE(editor.keepOnTop() && view.onTopChecked && design.onTop);
     EXPECT_EQ(backend.get(kParams, "frmDesignOnTop", ""), "1");
-    editor.ToggleKeepOnTop();
-    EXPECT_FALSE(editor.KeepOnTop() || view.onTopChecked);
+    editor.toggleKeepOnTop();
+    EXPECT_FALSE(editor.keepOnTop() || view.onTopChecked);
     EXPECT_EQ(design.calls, (Texts{"SetOnTop 1", "SetOnTop 0"}));
 
-    editor.SetLanguage("heb");
+    editor.setLanguage("heb");
     EXPECT_EQ(settings.value(SettingKey::LanguageCurrent), "heb");
     EXPECT_EQ(view.language, "heb");
     EXPECT_TRUE(ui.shown.empty());
-    editor.SetLanguage("English");
+    editor.setLanguage("English");
     EXPECT_EQ(settings.value(SettingKey::LanguageCurrent), "English");
     EXPECT_EQ(ui.messages(),
               Texts{"Change will take effect the next time the Program is started."});
 
-    editor.SetAutoTile(false);
+    editor.setAutoTile(false);
     EXPECT_EQ(settings.value(SettingKey::AutoTile), "0");
 }

@@ -22,10 +22,10 @@ public:
     bool onTop = false;
 
     void LoadButton(int index) override { calls.push_back("LoadButton " + std::to_string(index)); }
-    void HideLastButton(int index) override {
+    void hideLastButton(int index) override {
         calls.push_back("HideLastButton " + std::to_string(index));
     }
-    void ClearButtons() override { calls.push_back("ClearButtons"); }
+    void clearButtons() override { calls.push_back("ClearButtons"); }
     void RedrawButton(int index, bool placeHandles, bool placePositioner,
                       bool keepGeometry) override {
         calls.push_back("RedrawButton " + std::to_string(index) + " " +
@@ -33,11 +33,11 @@ public:
                         std::to_string(keepGeometry));
         redrawn.push_back(index);
     }
-    void RedrawAll() override { calls.push_back("RedrawAll"); }
+    void redrawAll() override { calls.push_back("RedrawAll"); }
     void UpdateTransparentBtns() override { calls.push_back("UpdateTransparentBtns"); }
-    void AppletChanged() override { calls.push_back("AppletChanged"); }
-    void HideMarks() override { calls.push_back("HideMarks"); }
-    void SetOnTop(bool top) override {
+    void appletChanged() override { calls.push_back("AppletChanged"); }
+    void hideMarks() override { calls.push_back("HideMarks"); }
+    void setOnTop(bool top) override {
         onTop = top;
         calls.push_back(top ? "SetOnTop 1" : "SetOnTop 0");
     }
@@ -82,7 +82,7 @@ public:
     std::function<void()> onFill;
 
     void ShowProp(int index, const std::string& text) override {
-        props.push_back({index, text, StateName(m_model.CurrentState), m_model.Updating});
+        props.push_back({index, text, stateName(m_model.CurrentState), m_model.Updating});
         if (onFill)
             onFill();
     }
@@ -91,22 +91,22 @@ public:
         if (onFill)
             onFill();
     }
-    void ShowButtonList() override { ++listShows; }
-    void SetCaption(const std::string& text) override { caption = text; }
-    void SetRecentEntry(int slot, const std::string& text, bool visible) override {
+    void showButtonList() override { ++listShows; }
+    void setCaption(const std::string& text) override { caption = text; }
+    void setRecentEntry(int slot, const std::string& text, bool visible) override {
         recent.at(static_cast<std::size_t>(slot)) = {text, visible};
     }
-    void SetActionTitle(const std::string& title) override { actionTitle = title; }
-    void ShowState(ButtonState s) override {
+    void setActionTitle(const std::string& title) override { actionTitle = title; }
+    void showState(ButtonState s) override {
         state = s;
         ++stateShows;
     }
-    void SetOnTopChecked(bool checked) override { onTopChecked = checked; }
-    void SetLanguageChecked(const std::string& lang) override { language = lang; }
-    void SetAutoTileChecked(bool checked) override { autoTileChecked = checked; }
-    void CloseLabelEditor() override { ++labelEditorCloses; }
-    void QuitProgram() override { ++quits; }
-    std::optional<ImageSize> ImageSizeOf(const std::string& path) override {
+    void setOnTopChecked(bool checked) override { onTopChecked = checked; }
+    void setLanguageChecked(const std::string& lang) override { language = lang; }
+    void setAutoTileChecked(bool checked) override { autoTileChecked = checked; }
+    void closeLabelEditor() override { ++labelEditorCloses; }
+    void quitProgram() override { ++quits; }
+    std::optional<ImageSize> imageSizeOf(const std::string& path) override {
         const auto it = imageSizes.find(path);
         return it == imageSizes.end() ? std::nullopt : std::optional<ImageSize>(it->second);
     }
@@ -122,11 +122,11 @@ public:
     std::vector<std::pair<std::string, std::vector<std::string>>> started;
     bool succeed = true;
 
-    bool OpenDocument(const std::string& path) override {
+    bool openDocument(const std::string& path) override {
         opened.push_back(path);
         return succeed;
     }
-    bool StartProgram(const std::string& program,
+    bool startProgram(const std::string& program,
                       const std::vector<std::string>& arguments) override {
         started.emplace_back(program, arguments);
         return succeed;

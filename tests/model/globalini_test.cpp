@@ -34,11 +34,11 @@ protected:
 
 TEST_F(GlobalIniTest, WritingInAWritableProgramFolderChangesOnlyThatLine) {
     GlobalIni ini(program.string(), program.string());
-    EXPECT_TRUE(ini.NoBackGround());
+    EXPECT_TRUE(ini.noBackGround());
     EXPECT_EQ(ini.value("Missing", "dflt"), "dflt");
-    EXPECT_FALSE(GlobalIni(root.path("nowhere"), root.path("nowhere")).NoBackGround());
-    ASSERT_TRUE(ini.SetNoBackGround(false));
-    EXPECT_FALSE(ini.NoBackGround());
+    EXPECT_FALSE(GlobalIni(root.path("nowhere"), root.path("nowhere")).noBackGround());
+    ASSERT_TRUE(ini.setNoBackGround(false));
+    EXPECT_FALSE(ini.noBackGround());
     std::string expected = kIni;
     expected.replace(expected.find("CHKNOBACKGROUND = 1"), 19, "CHKNOBACKGROUND=0");
     EXPECT_EQ(read(program), expected);
@@ -46,20 +46,20 @@ TEST_F(GlobalIniTest, WritingInAWritableProgramFolderChangesOnlyThatLine) {
 
 TEST_F(GlobalIniTest, AnUnwritableProgramFolderIsShadowedByThePerUserCopy) {
     GlobalIni ini(program.string(), user.string());
-    EXPECT_TRUE(ini.NoBackGround()) << "nothing in the copy yet";
-    ASSERT_TRUE(ini.SetNoBackGround(false));
-    EXPECT_FALSE(ini.NoBackGround());
+    EXPECT_TRUE(ini.noBackGround()) << "nothing in the copy yet";
+    ASSERT_TRUE(ini.setNoBackGround(false));
+    EXPECT_FALSE(ini.noBackGround());
     EXPECT_EQ(read(program), kIni);
     EXPECT_EQ(read(user), "[Global]\r\nchkNoBackGround=0\r\n");
-    ASSERT_TRUE(ini.SetNoBackGround(true));
-    EXPECT_TRUE(GlobalIni(program.string(), user.string()).NoBackGround());
+    ASSERT_TRUE(ini.setNoBackGround(true));
+    EXPECT_TRUE(GlobalIni(program.string(), user.string()).noBackGround());
 }
 
 TEST_F(GlobalIniTest, AFailedWriteReportsAndKeepsTheOldValue) {
     GlobalIni ini(program.string(), root.write("blocker", "a file where a folder should be"));
     TextFileError error;
-    EXPECT_FALSE(ini.SetNoBackGround(false, &error));
+    EXPECT_FALSE(ini.setNoBackGround(false, &error));
     EXPECT_FALSE(error.description.empty());
-    EXPECT_TRUE(ini.NoBackGround());
+    EXPECT_TRUE(ini.noBackGround());
     EXPECT_EQ(read(program), kIni);
 }

@@ -25,7 +25,7 @@ protected:
 } // namespace
 
 TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLacks) {
-    ButtonRecord& slot = model.Button(1);
+    ButtonRecord& slot = model.button(1);
     slot.ImgStyleDOWN = 2;
     slot.LabelPosYUP = -3;
     slot.Hidden = 1;
@@ -44,7 +44,7 @@ TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLack
 
     // The first of two spellings of a key counts; values lose their blanks.
     ButtonRecord expected;
-    ASSERT_FALSE(ParseButton("5|6|90|30||Go&nbsphome|Home|index.htm|Back to the start|_top|0|1|1|"
+    ASSERT_FALSE(parseButton("5|6|90|30||Go&nbsphome|Home|index.htm|Back to the start|_top|0|1|1|"
                              "up.gif|over.gif|down.gif|255|65280|16711680|1|2|3|Verdana|"
                              "Courier New|Times New Roman|1|2|3|12|14|16|up.au|over.au|down.au|",
                              expected));
@@ -53,7 +53,7 @@ TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLack
     expected.LabelPosYUP = -3;
     expected.Hidden = 1;
     expected.ProgramUP = "HideButton(1);";
-    EXPECT_EQ(model.Button(1), expected);
+    EXPECT_EQ(model.button(1), expected);
     EXPECT_EQ(ui.progressTexts,
               (Texts{"Please Wait...|Loading Project...", "Please Wait...|Loading Button # 1 of 2",
                      "Please Wait...|Loading Button # 2 of 2"}));
@@ -63,8 +63,8 @@ TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLack
 
 TEST_F(LegacyProjectTest, MissingKeysTakeTheOldFormatsDefaults) {
     // These differ from a new button's on purpose: size 0, no target, black.
-    model.Button(2).Width = 50;
-    model.Button(2).Target = "_blank";
+    model.button(2).Width = 50;
+    model.button(2).Target = "_blank";
     ASSERT_TRUE(LoadProject_OLD(model, kFixture, &ui).loaded());
     ButtonRecord expected;
     expected.x = 120;
@@ -73,7 +73,7 @@ TEST_F(LegacyProjectTest, MissingKeysTakeTheOldFormatsDefaults) {
     expected.Target = "";
     expected.BackColorUP = expected.BackColorOVER = expected.BackColorDOWN = 0;
     expected.FontColorOVER = expected.FontColorDOWN = 0;
-    EXPECT_EQ(model.Button(2), expected);
+    EXPECT_EQ(model.button(2), expected);
 
     model.AppletWidth = 300;
     EXPECT_TRUE(LoadProject_OLD(model, folder.write("other.ini", "[Other]\nButtonCount=4\n"), &ui)
@@ -98,7 +98,7 @@ TEST_F(LegacyProjectTest, DamagedFilesKeepTheButtonsBeforeTheDamage) {
         ASSERT_TRUE(result.error) << cause;
         EXPECT_EQ(result.error->cause, cause);
         EXPECT_EQ(loaded.ButtonCount, kept) << cause;
-        EXPECT_EQ(loaded.Button(kept).x, kept);
+        EXPECT_EQ(loaded.button(kept).x, kept);
         EXPECT_EQ(loaded.ProjectFileName, "");
         EXPECT_FALSE(fresh.progressVisible);
     }

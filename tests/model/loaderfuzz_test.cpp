@@ -39,13 +39,13 @@ void ExpectSoundResult(const LoadResult& result, ProjectModel& model, const Fake
     ProjectModel reread;
     reread.AppletName = model.AppletName; // the writer does not write it where it is read
     std::FILE* out = std::fopen(again.c_str(), "wb");
-    const std::string text = ProjectText(model);
+    const std::string text = projectText(model);
     std::fwrite(text.data(), 1, text.size(), out);
     std::fclose(out);
     const LoadResult second = LoadProject(reread, again);
     ASSERT_FALSE(second.error) << second.error->cause;
     ASSERT_TRUE(second.cleaned.empty());
-    ASSERT_EQ(ProjectText(reread), text);
+    ASSERT_EQ(projectText(reread), text);
 }
 
 class LoaderFuzz : public ::testing::Test {
@@ -74,14 +74,14 @@ std::string ValidProject(int count, std::mt19937& random) {
     m.ButtonCount = static_cast<std::int16_t>(count);
     m.AppletProgramStart = "ShowButton(1);";
     for (int b = 1; b <= count; ++b) {
-        ButtonRecord& r = m.Button(b);
+        ButtonRecord& r = m.button(b);
         r.x = static_cast<std::int16_t>(random() % 600);
         r.LabelUP = "Menu \"" + std::to_string(b) + "\"\\nline; é";
         r.URL = "javascript:go(" + std::to_string(b) + ")";
         r.BackColorOVER = static_cast<std::int32_t>(random() % 16777216);
         r.ProgramDOWN = "SetLabel(" + std::to_string(b) + ",\"x y\");";
     }
-    return ProjectText(m);
+    return projectText(m);
 }
 
 std::string LoaderFuzz::mutate(std::string text) {
@@ -168,10 +168,10 @@ TEST_F(LoaderFuzz, DamagedProjectsLoadOrFailAndWhatIsKeptSavesBackToItself) {
 TEST_F(LoaderFuzz, AFileCutShortFailsAndKeepsTheButtonsBeforeTheCut) {
     ProjectModel saved;
     for (int i = 0; i < 5; ++i)
-        saved.AddButton(kFactoryDefaultButton);
+        saved.addButton(kFactoryDefaultButton);
     for (int i = 1; i <= 5; ++i)
-        saved.Button(i).LabelUP = "Item \"" + std::to_string(i) + "\"";
-    const std::string full = ProjectText(saved);
+        saved.button(i).LabelUP = "Item \"" + std::to_string(i) + "\"";
+    const std::string full = projectText(saved);
     const std::size_t lastBar = full.rfind('|');
     for (std::size_t cut = 0; cut < lastBar; cut += 1 + below(7)) {
         const std::string part = full.substr(0, cut);
@@ -184,7 +184,7 @@ TEST_F(LoaderFuzz, AFileCutShortFailsAndKeepsTheButtonsBeforeTheCut) {
         const auto ended = static_cast<int>(std::count(part.begin(), part.end(), '\n'));
         ASSERT_GE(model.ButtonCount, std::max(0, ended - 2));
         for (int i = 1; i <= model.ButtonCount; ++i)
-            ASSERT_EQ(model.Button(i), saved.Button(i)) << "button " << i;
+            ASSERT_EQ(model.button(i), saved.button(i)) << "button " << i;
     }
 }
 
@@ -220,11 +220,11 @@ TEST_F(LoaderFuzz, RandomRecordsParseOrStopAtTheBadField) {
             line += below(8) == 0 ? std::string(1, static_cast<char>(random() & 0xFF))
                                   : kPieces[below(kPieces.size())];
         ButtonRecord record;
-        const FieldError error = ParseButton(line, record);
+        const FieldError error = parseButton(line, record);
         if (error) {
             ASSERT_GE(error.position, 0);
             ASSERT_LT(error.position, kButtonFieldCount);
-            ASSERT_NE(ButtonFields()[static_cast<std::size_t>(error.position)].kind,
+            ASSERT_NE(buttonFields()[static_cast<std::size_t>(error.position)].kind,
                       FieldKind::Label);
             ASSERT_TRUE(error.description == "Type mismatch" || error.description == "Overflow")
                 << error.description;
@@ -232,7 +232,7 @@ TEST_F(LoaderFuzz, RandomRecordsParseOrStopAtTheBadField) {
         }
         // What was read is written and read back to the same record.
         ButtonRecord again;
-        ASSERT_FALSE(ParseButton(SerializeButton(record), again)) << line;
+        ASSERT_FALSE(parseButton(serializeButton(record), again)) << line;
         ASSERT_EQ(again, record) << line;
     }
 }

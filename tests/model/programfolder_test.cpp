@@ -35,7 +35,7 @@ private:
 
 class ProgramFolderTest : public ::testing::Test {
 protected:
-    void TearDown() override { SetProgramFolderOverride(""); }
+    void TearDown() override { setProgramFolderOverride(""); }
     orvelin::testing::TempFolder folder;
 };
 
@@ -51,37 +51,37 @@ TEST(ProgramFolderPaths, JoinAcceptsBothSeparatorsAndFolderOfKeepsTheLastOne) {
         {"", "images\\home.gif", "images/home.gif"},
         {"/srv", "", "/srv"}};
     for (const auto& [folder, name, joined] : joins)
-        EXPECT_EQ(JoinPath(folder, name), joined);
-    EXPECT_EQ(FolderOf("C:\\Sites\\Top Menu.orv"), "C:\\Sites\\");
-    EXPECT_EQ(FolderOf("/home/ann\\mixed/x\\nav.orv"), "/home/ann\\mixed/x\\");
-    EXPECT_EQ(FolderOf("nav.orv") + FolderOf(""), "");
+        EXPECT_EQ(joinPath(folder, name), joined);
+    EXPECT_EQ(folderOf("C:\\Sites\\Top Menu.orv"), "C:\\Sites\\");
+    EXPECT_EQ(folderOf("/home/ann\\mixed/x\\nav.orv"), "/home/ann\\mixed/x\\");
+    EXPECT_EQ(folderOf("nav.orv") + folderOf(""), "");
 }
 
 TEST_F(ProgramFolderTest, OverrideWinsOverTheEnvironmentWhichWinsOverTheExecutablesFolder) {
     ScopedEnvironment env("ORVELIN_PROGRAM_DIR", "/from/environment");
-    EXPECT_EQ(ProgramFolder(), "/from/environment");
-    SetProgramFolderOverride(folder.dir().string());
-    EXPECT_EQ(ProgramFolder(), folder.dir().string());
-    EXPECT_EQ(WritableProgramFolder(), folder.dir().string());
-    SetProgramFolderOverride("");
-    EXPECT_EQ(ProgramFolder(), "/from/environment");
+    EXPECT_EQ(programFolder(), "/from/environment");
+    setProgramFolderOverride(folder.dir().string());
+    EXPECT_EQ(programFolder(), folder.dir().string());
+    EXPECT_EQ(writableProgramFolder(), folder.dir().string());
+    setProgramFolderOverride("");
+    EXPECT_EQ(programFolder(), "/from/environment");
     // Test programs are built into bin/, where the build copies the data files.
     for (const std::optional<std::string>& value : {std::optional<std::string>(), {""}}) {
         ScopedEnvironment unset("ORVELIN_PROGRAM_DIR", value);
         ASSERT_TRUE(fs::exists(fs::path(ORVELIN_BIN_DIR) / "Orvel.ini"));
-        EXPECT_TRUE(fs::equivalent(ProgramFolder(), ORVELIN_BIN_DIR)) << ProgramFolder();
+        EXPECT_TRUE(fs::equivalent(programFolder(), ORVELIN_BIN_DIR)) << programFolder();
     }
 }
 
 TEST_F(ProgramFolderTest, MissingProgramFolderFallsBackToTheUserDataFolder) {
-    SetProgramFolderOverride(folder.path("not-there"));
+    setProgramFolderOverride(folder.path("not-there"));
     {
         ScopedEnvironment data("XDG_DATA_HOME", folder.path("data"));
-        EXPECT_EQ(WritableProgramFolder(), folder.path("data/Orvelin"));
+        EXPECT_EQ(writableProgramFolder(), folder.path("data/Orvelin"));
         EXPECT_TRUE(fs::is_directory(folder.path("data/Orvelin")));
     }
     ScopedEnvironment data("XDG_DATA_HOME", std::nullopt);
     ScopedEnvironment home("HOME", folder.path("home"));
-    EXPECT_EQ(WritableProgramFolder(), folder.path("home/.local/share/Orvelin"));
+    EXPECT_EQ(writableProgramFolder(), folder.path("home/.local/share/Orvelin"));
     EXPECT_FALSE(fs::exists(folder.path("not-there")));
 }

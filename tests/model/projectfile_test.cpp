@@ -44,7 +44,7 @@ Texts ButtonsUpTo(int count) {
     return lines;
 }
 
-auto AppletFields(const ProjectModel& m) {
+auto appletFields(const ProjectModel& m) {
     return std::tie(m.AppletWidth, m.AppletHeight, m.ButtonCount, m.Behaviour, m.DOWNBtn,
                     m.BackGround, m.BackImg, m.BackImgStyle, m.AppletProgramOVER,
                     m.AppletProgramDOWN, m.AppletProgramOUT, m.BgOffsetX, m.BgOffsetY,
@@ -56,16 +56,16 @@ auto AppletFields(const ProjectModel& m) {
 ProjectModel ThreeButtons() {
     ProjectModel m;
     for (int b = 1; b <= 3; ++b)
-        m.AddButton(kFactoryDefaultButton);
+        m.addButton(kFactoryDefaultButton);
     return m;
 }
 
 // A read followed by what the editor shows of it.
 bool Load(ProjectModel& m, const std::string& path, FakeUserInterface& ui) {
-    return ShowLoadResult(LoadProject(m, path, &ui), ui);
+    return showLoadResult(LoadProject(m, path, &ui), ui);
 }
 bool Load_OLD(ProjectModel& m, const std::string& path, FakeUserInterface& ui) {
-    return ShowLoadResult(LoadProject_OLD(m, path, &ui), ui);
+    return showLoadResult(LoadProject_OLD(m, path, &ui), ui);
 }
 
 class ProjectFileTest : public ::testing::Test {
@@ -88,10 +88,10 @@ TEST_F(ProjectFileTest, SmallProjectIsWrittenLetterForLetterInUtf8WithoutByteOrd
     model.AppletProgramStart = "ShowButton(1);";
     model.AppletName = "bar";
     model.ButtonCount = 1;
-    model.Button(1).x = -5;
-    model.Button(1).LabelUP = "Say \"Hi\" | bye";
-    model.Button(1).URL = "http://x.org/a b";
-    model.Button(1).Status = "é€";
+    model.button(1).x = -5;
+    model.button(1).LabelUP = "Say \"Hi\" | bye";
+    model.button(1).URL = "http://x.org/a b";
+    model.button(1).Status = "é€";
     ASSERT_TRUE(SaveProject(model, path(), ui));
     EXPECT_EQ(
         folder.read("project.orv"),
@@ -126,7 +126,7 @@ TEST_F(ProjectFileTest, EarlierHeadersWarnAndUnknownOnesLoadSilently) {
         FakeUserInterface fresh;
         ProjectModel loaded;
         EXPECT_TRUE(Load(loaded, write(ProjectWith(2, ButtonsUpTo(2), header)), fresh));
-        EXPECT_EQ(loaded.Button(2).x, 2);
+        EXPECT_EQ(loaded.button(2).x, 2);
         ASSERT_EQ(fresh.shown.size(), warns ? 1u : 0u) << header;
         if (warns) {
             EXPECT_EQ(fresh.shown[0].title, "Warning");
@@ -147,8 +147,8 @@ TEST_F(ProjectFileTest, LinesAfterTheLastButtonAndLoneLineFeedsAreAccepted) {
         ProjectModel loaded;
         EXPECT_TRUE(Load(loaded, write(text), ui)) << text.substr(0, 60);
         EXPECT_EQ(loaded.ButtonCount, count);
-        EXPECT_EQ(loaded.Button(count).x, count);
-        EXPECT_TRUE(count == 102 || loaded.Button(count + 1) == ButtonRecord{});
+        EXPECT_EQ(loaded.button(count).x, count);
+        EXPECT_TRUE(count == 102 || loaded.button(count + 1) == ButtonRecord{});
     }
     EXPECT_TRUE(ui.messages().empty());
     // The applet name is read from the field after the ones the writer produces.
@@ -186,7 +186,7 @@ TEST_F(ProjectFileTest, DamagedFilesKeepTheButtonsReadBeforeTheDamage) {
         loaded.Saved = false;
         EXPECT_FALSE(Load(loaded, path(), fresh));
         EXPECT_EQ(loaded.ButtonCount, kept);
-        EXPECT_EQ(loaded.Button(kept).x, kept);
+        EXPECT_EQ(loaded.button(kept).x, kept);
         EXPECT_EQ(loaded.AppletWidth, 510);
         EXPECT_EQ(loaded.CurrentButton, 0);
         EXPECT_EQ(loaded.ProjectFileName, "");
@@ -199,7 +199,7 @@ TEST_F(ProjectFileTest, DamagedFilesKeepTheButtonsReadBeforeTheDamage) {
 
 TEST_F(ProjectFileTest, OldCodePageFileIsDecoded) {
     EXPECT_TRUE(Load(model, ORVELIN_TEST_DATA "/project_cp1252.orv", ui));
-    EXPECT_EQ(model.Button(1).LabelUP, "Café € “ok”");
+    EXPECT_EQ(model.button(1).LabelUP, "Café € “ok”");
 }
 
 TEST_F(ProjectFileTest, FailedSaveLeavesTheOldFileAlone) {
@@ -224,10 +224,10 @@ TEST_F(ProjectFileTest, FailedSaveLeavesTheOldFileAlone) {
 
 TEST_F(ProjectFileTest, ProgressCountsTheButtonsInTheMessageTablesWords) {
     model = ThreeButtons();
-    const std::string saving = Messages()[Msg::SavingButton];
-    Messages().set(Msg::SavingButton, "Sohranenie # ");
+    const std::string saving = messages()[Msg::SavingButton];
+    messages().set(Msg::SavingButton, "Sohranenie # ");
     const bool saved = SaveProject(model, path(), ui);
-    Messages().set(Msg::SavingButton, saving);
+    messages().set(Msg::SavingButton, saving);
     ASSERT_TRUE(saved);
     EXPECT_EQ(ui.progressTexts[2], "Please Wait...|Sohranenie # 2 of 3");
     EXPECT_EQ(ui.progressPercents, (std::vector<int>{-1, 33, 66, 100}));
@@ -246,13 +246,13 @@ TEST_F(ProjectFileTest, CharactersAFieldCannotHoldAreRemovedWithOneWarning) {
     std::string text = ProjectWith(3, buttons);
     text.replace(text.find("|0|0|||\r\n"), 9, "|0|0|1 \"2\";||\r\n");
     ASSERT_TRUE(Load(model, write(text), ui));
-    EXPECT_EQ(model.Button(1).FontUP, "Arial><script>");
-    EXPECT_EQ(model.Button(1).ProgramUP, "1 2;6 5;");
-    EXPECT_EQ(model.Button(3).Target, "_self");
+    EXPECT_EQ(model.button(1).FontUP, "Arial><script>");
+    EXPECT_EQ(model.button(1).ProgramUP, "1 2;6 5;");
+    EXPECT_EQ(model.button(3).Target, "_self");
     EXPECT_EQ(model.AppletProgramStart, "1 2;");
     ASSERT_TRUE(Load_OLD(
         model, folder.write("old.ini", "[Buttons]\nButtonCount=1\nFontDOWN_1=Ari\"al\n"), ui));
-    EXPECT_EQ(model.Button(1).FontDOWN, "Arial");
+    EXPECT_EQ(model.button(1).FontDOWN, "Arial");
     const std::string note = "Characters that these fields cannot hold were removed:\r\n";
     EXPECT_EQ(ui.messages(), (Texts{note + "Applet: AppletProgramStart\r\nButton 1: FontUP, "
                                            "ProgramUP\r\nButton 3: Target",
@@ -281,7 +281,7 @@ TEST_F(ProjectFileTest, EverySavedProjectLoadsBackUnchanged) {
         std::string value;
         for (int n = static_cast<int>(random() % 8); n > 0; --n) {
             const std::string& c = pieces[random() % std::size(pieces)];
-            if (CleanFieldText(kind, c) == c && !(kind == FieldKind::Label && c == "&"))
+            if (cleanFieldText(kind, c) == c && !(kind == FieldKind::Label && c == "&"))
                 value += c;
         }
         return value;
@@ -300,9 +300,9 @@ TEST_F(ProjectFileTest, EverySavedProjectLoadsBackUnchanged) {
         saved.ButtonCount = static_cast<std::int16_t>(round == 0 ? kMaxButtons : random() % 5);
         for (int i = 1; i <= saved.ButtonCount; ++i)
             for (int pos = 0; pos < kButtonFieldCount; ++pos) {
-                const FieldKind kind = ButtonFields()[static_cast<std::size_t>(pos)].kind;
-                ASSERT_FALSE(SetFieldText(
-                    saved.Button(i), pos,
+                const FieldKind kind = buttonFields()[static_cast<std::size_t>(pos)].kind;
+                ASSERT_FALSE(setFieldText(
+                    saved.button(i), pos,
                     kind == FieldKind::Int16   ? std::to_string(static_cast<std::int16_t>(random()))
                     : kind == FieldKind::Color ? std::to_string(static_cast<std::int32_t>(random()))
                                                : text(kind)));
@@ -313,12 +313,12 @@ TEST_F(ProjectFileTest, EverySavedProjectLoadsBackUnchanged) {
         ASSERT_TRUE(Load(loaded, path(), ui));
         ASSERT_TRUE(ui.messages().empty()) << ui.messages()[0];
         saved.ProjectFileName = saved.LoadedFrom = path();
-        ASSERT_EQ(AppletFields(loaded), AppletFields(saved));
+        ASSERT_EQ(appletFields(loaded), appletFields(saved));
         for (int i = 1; i <= saved.ButtonCount; ++i) {
             for (ButtonState s : {ButtonState::UP, ButtonState::OVER, ButtonState::DOWN})
-                std::replace(saved.Button(i).Label(s).begin(), saved.Button(i).Label(s).end(), '|',
+                std::replace(saved.button(i).label(s).begin(), saved.button(i).label(s).end(), '|',
                              'I');
-            ASSERT_EQ(loaded.Button(i), saved.Button(i)) << "round " << round << " button " << i;
+            ASSERT_EQ(loaded.button(i), saved.button(i)) << "round " << round << " button " << i;
         }
     }
 }

@@ -13,13 +13,13 @@ struct Document {
 
     explicit Document(int buttons) {
         for (int i = 1; i <= buttons; ++i) {
-            model.AddButton(kFactoryDefaultButton);
-            model.Button(i).x = static_cast<std::int16_t>(i * 20);
-            model.Button(i).LabelUP = "B" + std::to_string(i);
+            model.addButton(kFactoryDefaultButton);
+            model.button(i).x = static_cast<std::int16_t>(i * 20);
+            model.button(i).LabelUP = "B" + std::to_string(i);
             list.append();
         }
     }
-    ProjectSnapshot snap() const { return MakeSnapshot(model, list); }
+    ProjectSnapshot snap() const { return makeSnapshot(model, list); }
 };
 
 } // namespace
@@ -30,25 +30,25 @@ TEST(ProjectSnapshot, PutsBackTheSavedTextTheSelectionAndWhereTheNextButtonGoes)
     d.list.selectOnly(2);
     d.list.addSelection(3);
     const ProjectSnapshot before = d.snap();
-    const std::string text = ProjectText(d.model);
-    const std::int16_t slot5x = d.model.Button(5).x;
+    const std::string text = projectText(d.model);
+    const std::int16_t slot5x = d.model.button(5).x;
 
-    d.model.RemoveButton(2);
-    d.model.RemoveButton(1);
+    d.model.removeButton(2);
+    d.model.removeButton(1);
     d.list.removeLast();
     d.list.removeLast();
     d.list.selectOnly(1);
     d.model.BgOffsetX = 7;
     d.model.AppletProgramOUT = "Beep;";
-    d.model.Button(5).x = 999; // a slot past the last button
-    ASSERT_FALSE(SameDocument(before, d.model));
+    d.model.button(5).x = 999; // a slot past the last button
+    ASSERT_FALSE(sameDocument(before, d.model));
 
-    RestoreSnapshot(before, d.model, d.list);
-    EXPECT_EQ(ProjectText(d.model), text);
-    EXPECT_TRUE(SameDocument(before, d.model));
+    restoreSnapshot(before, d.model, d.list);
+    EXPECT_EQ(projectText(d.model), text);
+    EXPECT_TRUE(sameDocument(before, d.model));
     EXPECT_EQ(d.list.selectedButtons(), std::vector<int>({2, 3}));
     EXPECT_EQ(d.model.CurrentButton, 3);
-    EXPECT_EQ(d.model.Button(5).x, slot5x);
+    EXPECT_EQ(d.model.button(5).x, slot5x);
 }
 
 TEST(ProjectSnapshot, NamesEachKindOfStepAndSaysWhatChanged) {
@@ -57,37 +57,37 @@ TEST(ProjectSnapshot, NamesEachKindOfStepAndSaysWhatChanged) {
     const auto after = [&](auto edit) {
         Document e = d;
         edit(e.model);
-        return DescribeChange(start, e.snap());
+        return describeChange(start, e.snap());
     };
     EXPECT_EQ(after([](ProjectModel& m) {
                   for (int i : {1, 2, 4})
-                      m.Button(i).y += 5;
+                      m.button(i).y += 5;
               }),
               "Move 3 Buttons");
-    EXPECT_EQ(after([](ProjectModel& m) { m.Button(2).Width = 9; }), "Resize Button");
-    EXPECT_EQ(after([](ProjectModel& m) { m.Button(2).LabelOVER = "x"; }), "Change Label");
-    EXPECT_EQ(after([](ProjectModel& m) { m.Button(3).FontColorDOWN = 1; }), "Change Font Color");
-    EXPECT_EQ(after([](ProjectModel& m) { m.Button(3).LabelPosYUP = 1; }), "Place Label");
+    EXPECT_EQ(after([](ProjectModel& m) { m.button(2).Width = 9; }), "Resize Button");
+    EXPECT_EQ(after([](ProjectModel& m) { m.button(2).LabelOVER = "x"; }), "Change Label");
+    EXPECT_EQ(after([](ProjectModel& m) { m.button(3).FontColorDOWN = 1; }), "Change Font Color");
+    EXPECT_EQ(after([](ProjectModel& m) { m.button(3).LabelPosYUP = 1; }), "Place Label");
     EXPECT_EQ(after([](ProjectModel& m) { m.BgOffsetY = 3; }), "Change Background Offset");
-    EXPECT_EQ(after([](ProjectModel& m) { m.AddButton(kFactoryDefaultButton); }), "Add Button");
+    EXPECT_EQ(after([](ProjectModel& m) { m.addButton(kFactoryDefaultButton); }), "Add Button");
     EXPECT_EQ(after([](ProjectModel& m) {
-                  m.DuplicateButton(2);
-                  m.Button(5).x += 10;
+                  m.duplicateButton(2);
+                  m.button(5).x += 10;
               }),
               "Duplicate Button");
-    EXPECT_EQ(after([](ProjectModel& m) { m.RemoveButton(1); }), "Remove Button");
+    EXPECT_EQ(after([](ProjectModel& m) { m.removeButton(1); }), "Remove Button");
     EXPECT_EQ(after([](ProjectModel& m) {
-                  const ButtonRecord b = m.Button(2);
-                  m.RemoveButton(2);
-                  m.Button(4) = b;
+                  const ButtonRecord b = m.button(2);
+                  m.removeButton(2);
+                  m.button(4) = b;
                   ++m.ButtonCount;
               }),
               "Bring to Front");
 
     Document e = d;
-    e.model.Button(2).URL = "a.htm";
+    e.model.button(2).URL = "a.htm";
     e.model.DOWNBtn = 1;
-    const DocumentChange change = ChangeBetween(start, e.snap());
+    const DocumentChange change = changeBetween(start, e.snap());
     EXPECT_TRUE(change.applet);
     EXPECT_FALSE(change.countChanged);
     EXPECT_EQ(change.buttons, std::vector<int>({2}));

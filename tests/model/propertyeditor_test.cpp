@@ -27,7 +27,7 @@ struct PropertyFixture : ::testing::Test {
     // Buttons 1..count, the given ones selected, `current` current, nothing unsaved.
     void MakeButtons(int count, std::vector<int> selected, int current) {
         for (int i = 0; i < count; ++i) {
-            ASSERT_EQ(model.AddButton(kFactoryDefaultButton), ProjectModel::AddResult::Added);
+            ASSERT_EQ(model.addButton(kFactoryDefaultButton), ProjectModel::AddResult::Added);
             list.append();
         }
         for (int i : selected)
@@ -42,12 +42,12 @@ struct PropertyFixture : ::testing::Test {
 TEST_F(PropertyFixture, FontColourInOverChangesOnlyThatFieldOfEverySelectedButton) {
     MakeButtons(4, {1, 2, 3}, 2);
     model.CurrentState = ButtonState::OVER;
-    props.SetFontColor(0x123456);
+    props.setFontColor(0x123456);
     ButtonRecord expected;
     expected.FontColorOVER = 0x123456;
     for (int i = 1; i <= 3; ++i)
-        EXPECT_EQ(model.Button(i), expected) << "button " << i;
-    EXPECT_EQ(model.Button(4), ButtonRecord{});
+        EXPECT_EQ(model.button(i), expected) << "button " << i;
+    EXPECT_EQ(model.button(4), ButtonRecord{});
     EXPECT_EQ(design.redrawn, (std::vector<int>{1, 2, 3}));
     EXPECT_EQ(design.calls[1], "RedrawButton 2 110") << "the current one gets its handles";
     EXPECT_FALSE(model.Saved);
@@ -56,63 +56,63 @@ TEST_F(PropertyFixture, FontColourInOverChangesOnlyThatFieldOfEverySelectedButto
 TEST_F(PropertyFixture, EverySetterWritesItsFieldOfTheSelectedButtonsInTheEditedState) {
     MakeButtons(3, {1, 3}, 3);
     model.CurrentState = ButtonState::DOWN;
-    props.SetLabel("Go\\nthere");
-    props.SetLabelPosX("7");
-    props.SetLabelPosY("8");
-    props.SetFont("Courier");
-    props.SetFontSize("14");
-    props.SetFontStyle(false, true);
-    props.SetBackColor(42);
-    props.SetImage("/img/a.gif");
-    props.SetImgStyle(2);
-    props.SetSound("/snd/a.au");
-    props.SetURL("http://a.b/");
-    props.SetStatus("Home");
-    props.SetTarget("_blank");
-    props.SetBorder(false);
-    props.SetTransparent(true);
-    props.SetShowHand(true);
-    props.SetHidden(true);
+    props.setLabel("Go\\nthere");
+    props.setLabelPosX("7");
+    props.setLabelPosY("8");
+    props.setFont("Courier");
+    props.setFontSize("14");
+    props.setFontStyle(false, true);
+    props.setBackColor(42);
+    props.setImage("/img/a.gif");
+    props.setImgStyle(2);
+    props.setSound("/snd/a.au");
+    props.setURL("http://a.b/");
+    props.setStatus("Home");
+    props.setTarget("_blank");
+    props.setBorder(false);
+    props.setTransparent(true);
+    props.setShowHand(true);
+    props.setHidden(true);
     // Geometry goes through the integer conversion: halves to even, 0 for no 16-bit number.
-    props.SetX(" 40 ");
-    props.SetY("12.5");
-    props.SetWidth("abc");
-    props.SetHeight("99999");
+    props.setX(" 40 ");
+    props.setY("12.5");
+    props.setWidth("abc");
+    props.setHeight("99999");
     ButtonRecord expected;
-    ASSERT_FALSE(ParseButton("40|12|0|0|||Go\\nthere|http://a.b/|Home|_blank|0|1|1|||/img/a.gif|"
+    ASSERT_FALSE(parseButton("40|12|0|0|||Go\\nthere|http://a.b/|Home|_blank|0|1|1|||/img/a.gif|"
                              "65535|16776960|42|0|16711680|16777215|Arial|Arial|Courier|0|0|2|"
                              "10|10|14|||/snd/a.au|0|0|2|0|0|0|53|25|53|31|7|8|1|",
                              expected));
-    EXPECT_EQ(model.Button(1), expected);
-    EXPECT_EQ(model.Button(3), expected);
-    EXPECT_EQ(model.Button(2), ButtonRecord{});
+    EXPECT_EQ(model.button(1), expected);
+    EXPECT_EQ(model.button(3), expected);
+    EXPECT_EQ(model.button(2), ButtonRecord{});
     EXPECT_TRUE(ui.shown.empty()) << "no message for bad numbers";
 }
 
 TEST_F(PropertyFixture, NothingIsWrittenWhileUpdatingOrWithoutASelection) {
     MakeButtons(2, {1, 2}, 1);
     model.Updating = true;
-    const std::string before = ProjectText(model);
-    props.SetX("5");
-    props.SetLabel("x");
-    props.SetPositionText(true);
-    props.SetCenterText(false);
-    props.SetFontStyle(true, true);
-    props.SetFontColor(1);
-    props.SetURL("u");
-    props.SetBorder(false);
-    props.SetAppletWidth("300");
-    props.SetAppletHeight("90");
-    props.SetBehaviour(1);
-    props.SetDOWNBtn(true);
-    props.SetBackGround(77);
-    props.SetBackImg("/b.gif");
-    props.SetBackImgStyle(2);
+    const std::string before = projectText(model);
+    props.setX("5");
+    props.setLabel("x");
+    props.setPositionText(true);
+    props.setCenterText(false);
+    props.setFontStyle(true, true);
+    props.setFontColor(1);
+    props.setURL("u");
+    props.setBorder(false);
+    props.setAppletWidth("300");
+    props.setAppletHeight("90");
+    props.setBehaviour(1);
+    props.setDOWNBtn(true);
+    props.setBackGround(77);
+    props.setBackImg("/b.gif");
+    props.setBackImgStyle(2);
     model.Updating = false;
     list.removeSelection(1);
     list.removeSelection(2);
-    props.SetLabel("x");
-    EXPECT_EQ(ProjectText(model), before);
+    props.setLabel("x");
+    EXPECT_EQ(projectText(model), before);
     EXPECT_TRUE(model.Saved);
     EXPECT_TRUE(design.calls.empty());
     EXPECT_TRUE(view.props.empty());
@@ -122,12 +122,12 @@ TEST_F(PropertyFixture, FillingThePanelDoesNotCountAsAnEdit) {
     MakeButtons(1, {1}, 1);
     // The window's controls fire their change signals while being filled.
     view.onFill = [this] {
-        props.SetLabel("echo");
-        props.SetAppletWidth("1");
+        props.setLabel("echo");
+        props.setAppletWidth("1");
     };
     props.ShowProp(1);
     props.SetMainParams();
-    EXPECT_EQ(model.Button(1).LabelUP, "");
+    EXPECT_EQ(model.button(1).LabelUP, "");
     EXPECT_EQ(model.AppletWidth, 510);
     EXPECT_TRUE(model.Saved);
     EXPECT_FALSE(model.Updating) << "the flag is restored afterwards";
@@ -143,37 +143,37 @@ TEST_F(PropertyFixture, FillingThePanelDoesNotCountAsAnEdit) {
 TEST_F(PropertyFixture, PositionTextAndCenterTextAreOneFlagAndRefreshThePanel) {
     MakeButtons(3, {2, 3}, 3);
     model.CurrentState = ButtonState::OVER;
-    props.SetPositionText(true);
-    EXPECT_EQ((std::vector<int>{model.Button(1).PositionTextOVER, model.Button(2).PositionTextOVER,
-                                model.Button(3).PositionTextOVER, model.Button(3).PositionTextUP}),
+    props.setPositionText(true);
+    EXPECT_EQ((std::vector<int>{model.button(1).PositionTextOVER, model.button(2).PositionTextOVER,
+                                model.button(3).PositionTextOVER, model.button(3).PositionTextUP}),
               (std::vector<int>{0, 1, 1, 0}));
     ASSERT_EQ(view.props.size(), 1u);
     EXPECT_EQ(view.props[0].index, 3);
     EXPECT_EQ(view.props[0].state, "OVER");
-    props.SetCenterText(true);
-    EXPECT_EQ(model.Button(2).PositionTextOVER + model.Button(3).PositionTextOVER, 0);
+    props.setCenterText(true);
+    EXPECT_EQ(model.button(2).PositionTextOVER + model.button(3).PositionTextOVER, 0);
 }
 
 TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsTheTypedSize) {
-    EXPECT_TRUE(props.SetAppletWidth("300"));
+    EXPECT_TRUE(props.setAppletWidth("300"));
     EXPECT_EQ(design.count("AppletChanged"), 1); // at once, not only on Enter
     // A size below 1, or none while it is typed, is refused and written nowhere.
     for (const char* refused : {"x", "", "0", "-5"})
-        EXPECT_FALSE(props.SetAppletHeight(refused)) << refused;
-    props.SetBehaviour(1);
-    props.SetDOWNBtn(true);
+        EXPECT_FALSE(props.setAppletHeight(refused)) << refused;
+    props.setBehaviour(1);
+    props.setDOWNBtn(true);
     EXPECT_EQ(
         (std::vector<int>{model.AppletWidth, model.AppletHeight, model.Behaviour, model.DOWNBtn}),
         (std::vector<int>{300, 170, 1, 1}));
     EXPECT_EQ(design.count("AppletChanged"), 1);
     EXPECT_FALSE(model.Saved);
-    props.SetBehaviour(0);
+    props.setBehaviour(0);
     EXPECT_EQ(model.Behaviour, 0);
 
     design.clear();
-    props.SetBackGround(0xFF00);
-    props.SetBackImg("/bg.jpg");
-    props.SetBackImgStyle(2);
+    props.setBackGround(0xFF00);
+    props.setBackImg("/bg.jpg");
+    props.setBackImgStyle(2);
     EXPECT_EQ(model.BackGround, 0xFF00);
     EXPECT_EQ(model.BackImg, "/bg.jpg");
     EXPECT_EQ(model.BackImgStyle, 2);
@@ -181,21 +181,21 @@ TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsTheTypedS
 }
 
 TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsOn) {
-    EXPECT_EQ(AutoBackImgStyle(true, ImageSize{100, 50}, 510, 170), 1);
+    EXPECT_EQ(autoBackImgStyle(true, ImageSize{100, 50}, 510, 170), 1);
     for (const std::optional<ImageSize>& image :
          {std::optional<ImageSize>{{510, 50}}, {{100, 170}}, {{800, 600}}, {}})
-        EXPECT_EQ(AutoBackImgStyle(true, image, 510, 170), 0);
-    EXPECT_EQ(AutoBackImgStyle(false, ImageSize{100, 50}, 510, 170), std::nullopt);
+        EXPECT_EQ(autoBackImgStyle(true, image, 510, 170), 0);
+    EXPECT_EQ(autoBackImgStyle(false, ImageSize{100, 50}, 510, 170), std::nullopt);
 
     view.imageSizes["/small.gif"] = {32, 32};
     view.imageSizes["/big.jpg"] = {600, 400};
     ui.chosenFiles = {"/small.gif", "/big.jpg", "/small.gif", std::nullopt};
-    props.BrowseBackImg();
+    props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif");
     EXPECT_EQ(model.BackImgStyle, 1);
     EXPECT_EQ(ui.shown[0].kind, "open");
     EXPECT_EQ(ui.shown[0].text, kImageFilter);
-    props.BrowseBackImg();
+    props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/big.jpg");
     EXPECT_EQ(model.BackImgStyle, 0);
     EXPECT_EQ(view.mainParamsUpdating.size(), 2u) << "the applet controls show the choice";
@@ -203,10 +203,10 @@ TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsO
 
     settings.setFlag(SettingKey::AutoTile, false);
     model.BackImgStyle = 2;
-    props.BrowseBackImg();
+    props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif");
     EXPECT_EQ(model.BackImgStyle, 2) << "with tiling off the placement stays";
-    props.BrowseBackImg();
+    props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif") << "a cancelled dialog changes nothing";
 }
 
@@ -214,12 +214,12 @@ TEST_F(PropertyFixture, ChosenImagesAndSoundsGoIntoTheEditedStateAndShow) {
     MakeButtons(2, {1, 2}, 2);
     model.CurrentState = ButtonState::OVER;
     ui.chosenFiles = {"/i/over.gif", "/s/over.au", std::nullopt};
-    props.BrowseImage();
-    props.BrowseSound();
-    props.BrowseImage();
-    EXPECT_EQ(model.Button(1).ImageOVER, "/i/over.gif");
-    EXPECT_EQ(model.Button(2).SndOVER, "/s/over.au");
-    EXPECT_EQ(model.Button(2).ImageUP, "");
+    props.browseImage();
+    props.browseSound();
+    props.browseImage();
+    EXPECT_EQ(model.button(1).ImageOVER, "/i/over.gif");
+    EXPECT_EQ(model.button(2).SndOVER, "/s/over.au");
+    EXPECT_EQ(model.button(2).ImageUP, "");
     EXPECT_EQ(ui.shown[1].text, kSoundFilter);
     EXPECT_EQ(view.props.size(), 2u);
 }

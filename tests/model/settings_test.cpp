@@ -26,34 +26,34 @@ TEST_F(SettingsTest, AnEmptyStoreGivesEveryOptionItsDefaultWithoutWriting) {
         (std::vector<std::string>{
             settings.value(SettingKey::strDefaultBtn), settings.value(SettingKey::AutoTile),
             settings.value(SettingKey::DontAskToAssociate), settings.value(SettingKey::ShortCut),
-            settings.value(SettingKey::LanguageCurrent), settings.RecentFile(1),
-            settings.RecentFile(4), settings.value(SettingKey::BrowsersSelected)}),
+            settings.value(SettingKey::LanguageCurrent), settings.recentFile(1),
+            settings.recentFile(4), settings.value(SettingKey::BrowsersSelected)}),
         (std::vector<std::string>{"-1", "1", "0", "none", "English", "-1", "-1", "0"}));
-    EXPECT_EQ(settings.DefaultButton(), kFactoryDefaultButton);
+    EXPECT_EQ(settings.defaultButton(), kFactoryDefaultButton);
     EXPECT_FALSE(settings.flag(SettingKey::frmDesignOnTop));
-    EXPECT_EQ(settings.StoredGeometry("frmMain"), (WindowGeometry{0, 0, 0, 0}));
+    EXPECT_EQ(settings.storedGeometry("frmMain"), (WindowGeometry{0, 0, 0, 0}));
     EXPECT_EQ(backend.size(), 0u) << "reading never writes";
 }
 
 TEST_F(SettingsTest, KeysLiveInTheirVersionedSectionsWithOrWithoutTheTrailingBackslash) {
     settings.setFlag(SettingKey::frmDesignOnTop, true);
     settings.setValue(SettingKey::LanguageCurrent, "heb");
-    settings.SetRecentFile(3, "/p/r.orv");
+    settings.setRecentFile(3, "/p/r.orv");
     settings.setValue(SettingKey::BrowsersName, "Firefox", 2);
-    settings.SaveGeometry("frmDesign", {1, 2, 3, 4});
+    settings.saveGeometry("frmDesign", {1, 2, 3, 4});
     EXPECT_EQ(backend.get(kParams, "frmDesignOnTop", ""), "1");
     EXPECT_EQ(backend.get("1.0  Beta 6\\Language", "Current", ""), "heb");
     EXPECT_EQ(backend.get("1.0  Beta 6\\Recent", "File3", ""), "/p/r.orv");
     EXPECT_EQ(backend.get("1.0  Beta 6\\Browsers", "Name2", ""), "Firefox");
     EXPECT_EQ(backend.get(kDesignSizes, "Left", "") + backend.get(kDesignSizes, "Height", ""),
               "14");
-    EXPECT_EQ(settings.StoredGeometry("frmDesign"), (WindowGeometry{1, 2, 3, 4}));
+    EXPECT_EQ(settings.storedGeometry("frmDesign"), (WindowGeometry{1, 2, 3, 4}));
 
     backend.set(kParams + "\\", "strDefaultBtn", "0|0|50|20|");
-    EXPECT_EQ(settings.DefaultButton(), "0|0|50|20|");
-    settings.SetDefaultButton("0|0|60|20|");
+    EXPECT_EQ(settings.defaultButton(), "0|0|50|20|");
+    settings.setDefaultButton("0|0|60|20|");
     EXPECT_EQ(backend.get(kParams + "\\", "strDefaultBtn", "-1"), "0|0|60|20|");
-    EXPECT_EQ(NormalizeSection("a\\b\\") + NormalizeSection("a\\b"), "a\\ba\\b");
+    EXPECT_EQ(normalizeSection("a\\b\\") + normalizeSection("a\\b"), "a\\ba\\b");
 }
 
 TEST_F(SettingsTest, FlagsAcceptTheOldTrueSpellings) {
@@ -72,25 +72,25 @@ TEST(WindowGeometry, AStoredZeroWidthKeepsTheDesignedGeometryAndAPositionStaysOn
     const WindowGeometry designed{100, 80, 400, 300};
     for (const WindowGeometry& stored :
          {WindowGeometry{50, 60, 0, 200}, WindowGeometry{50, 60, 200, 0}, WindowGeometry{}})
-        EXPECT_EQ(RestoredGeometry(stored, designed, 1920, 1080), designed);
-    EXPECT_EQ(RestoredGeometry({50, 60, 500, 400}, designed, 1920, 1080),
+        EXPECT_EQ(restoredGeometry(stored, designed, 1920, 1080), designed);
+    EXPECT_EQ(restoredGeometry({50, 60, 500, 400}, designed, 1920, 1080),
               (WindowGeometry{50, 60, 500, 400}));
     // Saved on a 2560 by 1440 screen, restored on 1000 by 500: within the screen less a tenth.
-    EXPECT_EQ(RestoredGeometry({2000, 1300, 500, 400}, designed, 1000, 500),
+    EXPECT_EQ(restoredGeometry({2000, 1300, 500, 400}, designed, 1000, 500),
               (WindowGeometry{900, 450, 500, 400}));
-    EXPECT_EQ(RestoredGeometry({-300, -20, 500, 400}, designed, 1000, 500),
+    EXPECT_EQ(restoredGeometry({-300, -20, 500, 400}, designed, 1000, 500),
               (WindowGeometry{0, 0, 500, 400}));
 }
 
 TEST_F(SettingsTest, RestoringReadsTheStoredValuesOfTheWindow) {
     const WindowGeometry designed{10, 10, 300, 200};
-    EXPECT_EQ(settings.RestoreGeometry("frmDesign", designed, 800, 600), designed);
-    settings.SaveGeometry("frmDesign", {5000, 7, 0, 250});
-    EXPECT_EQ(settings.RestoreGeometry("frmDesign", designed, 800, 600), designed);
+    EXPECT_EQ(settings.restoreGeometry("frmDesign", designed, 800, 600), designed);
+    settings.saveGeometry("frmDesign", {5000, 7, 0, 250});
+    EXPECT_EQ(settings.restoreGeometry("frmDesign", designed, 800, 600), designed);
     backend.set(kDesignSizes, "Width", "350");
-    EXPECT_EQ(settings.RestoreGeometry("frmDesign", designed, 800, 600),
+    EXPECT_EQ(settings.restoreGeometry("frmDesign", designed, 800, 600),
               (WindowGeometry{720, 7, 350, 250}));
     backend.set(kDesignSizes, "Width", "wide");
-    EXPECT_EQ(settings.RestoreGeometry("frmDesign", designed, 800, 600), designed)
+    EXPECT_EQ(settings.restoreGeometry("frmDesign", designed, 800, 600), designed)
         << "a damaged width counts as nothing stored";
 }

@@ -24,65 +24,65 @@ TEST(TextEncoding, ValidUtf8PassesAndAnythingElseIsReadAsWindows1252) {
         {"\xE2\x82", "â‚"},
         {"é\xFF", "Ã©ÿ"}};
     for (const auto& [bytes, text] : cases)
-        EXPECT_EQ(ToUtf8(bytes), text) << text;
+        EXPECT_EQ(toUtf8(bytes), text) << text;
 }
 
 TEST(TextLines, BreakAtCrLfAndLoneLf) {
     using Lines = std::vector<std::string_view>;
     bool terminated = false;
-    EXPECT_EQ(SplitLines("a\r\nb\nc\r\n", &terminated), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(splitLines("a\r\nb\nc\r\n", &terminated), (Lines{"a", "b", "c"}));
     EXPECT_TRUE(terminated);
-    EXPECT_EQ(SplitLines("a\r\n\r\nb", &terminated), (Lines{"a", "", "b"}));
+    EXPECT_EQ(splitLines("a\r\n\r\nb", &terminated), (Lines{"a", "", "b"}));
     EXPECT_FALSE(terminated);
-    EXPECT_EQ(SplitLines("x\ry\r", &terminated), (Lines{"x\ry\r"}));
-    EXPECT_TRUE(SplitLines("").empty());
+    EXPECT_EQ(splitLines("x\ry\r", &terminated), (Lines{"x\ry\r"}));
+    EXPECT_TRUE(splitLines("").empty());
 }
 
 TEST(TextFile, ReadingTakesTheWholeFileDropsAByteOrderMarkAndConvertsOldText) {
     orvelin::testing::TempFolder folder;
-    EXPECT_EQ(ReadTextFile(folder.write("bom.txt", "\xEF\xBB\xBFline é")), "line é");
-    EXPECT_EQ(ReadTextFile(folder.write("old.txt", "na\xEFve")), "naïve");
-    EXPECT_EQ(ReadTextFile(folder.write("empty.txt", "")), "");
+    EXPECT_EQ(readTextFile(folder.write("bom.txt", "\xEF\xBB\xBFline é")), "line é");
+    EXPECT_EQ(readTextFile(folder.write("old.txt", "na\xEFve")), "naïve");
+    EXPECT_EQ(readTextFile(folder.write("empty.txt", "")), "");
     std::string big;
     for (int line = 0; big.size() < 100000; ++line)
         big += "line " + std::to_string(line) + " \xC3\xA9\r\n";
-    EXPECT_EQ(ReadTextFile(folder.write("big.txt", big)), big);
+    EXPECT_EQ(readTextFile(folder.write("big.txt", big)), big);
     // The kernel's status files call themselves empty and still hold text.
-    EXPECT_NE(ReadTextFile("/proc/self/status").value_or("").find("Name:"), std::string::npos);
+    EXPECT_NE(readTextFile("/proc/self/status").value_or("").find("Name:"), std::string::npos);
 
     TextFileError error;
-    EXPECT_FALSE(ReadTextFile(folder.path("missing.txt"), &error));
+    EXPECT_FALSE(readTextFile(folder.path("missing.txt"), &error));
     EXPECT_EQ(error.description, "File not found");
     error.description.clear();
-    EXPECT_FALSE(ReadTextFile(folder.dir().string(), &error));
+    EXPECT_FALSE(readTextFile(folder.dir().string(), &error));
     EXPECT_FALSE(error.description.empty());
-    EXPECT_FALSE(ReadTextFile("", &error));
+    EXPECT_FALSE(readTextFile("", &error));
 }
 
 TEST(TextFile, WritingReplacesSafelyThroughLinksAndNeverInUnwritablePlaces) {
     orvelin::testing::TempFolder folder;
-    ASSERT_TRUE(WriteFileAtomically(folder.path("a.txt"), "first"));
-    ASSERT_TRUE(WriteFileAtomically(folder.path("a.txt"), std::string("se\0cond", 7)));
+    ASSERT_TRUE(writeFileAtomically(folder.path("a.txt"), "first"));
+    ASSERT_TRUE(writeFileAtomically(folder.path("a.txt"), std::string("se\0cond", 7)));
     EXPECT_EQ(folder.read("a.txt"), std::string("se\0cond", 7));
     EXPECT_EQ(folder.entries(), 1) << "no temporary file is left behind";
 
     fs::create_symlink(folder.dir() / "a.txt", folder.dir() / "link.txt");
-    ASSERT_TRUE(WriteFileAtomically(folder.path("link.txt"), "new"));
+    ASSERT_TRUE(writeFileAtomically(folder.path("link.txt"), "new"));
     EXPECT_TRUE(fs::is_symlink(folder.dir() / "link.txt"));
     EXPECT_EQ(folder.read("a.txt"), "new");
 
     fs::permissions(folder.path("a.txt"), fs::perms::owner_read | fs::perms::group_read);
     TextFileError error;
-    EXPECT_FALSE(WriteFileAtomically(folder.path("a.txt"), "lost", &error));
+    EXPECT_FALSE(writeFileAtomically(folder.path("a.txt"), "lost", &error));
     EXPECT_EQ(error.description, "Permission denied");
     EXPECT_EQ(folder.read("a.txt"), "new");
-    EXPECT_FALSE(WriteFileAtomically(folder.path("no/such/folder.txt"), "x", &error));
+    EXPECT_FALSE(writeFileAtomically(folder.path("no/such/folder.txt"), "x", &error));
     EXPECT_EQ(error.description, "Path not found");
     fs::create_directory(folder.dir() / "sub");
-    EXPECT_FALSE(WriteFileAtomically(folder.path("sub"), "x", &error));
+    EXPECT_FALSE(writeFileAtomically(folder.path("sub"), "x", &error));
     EXPECT_TRUE(fs::is_directory(folder.dir() / "sub"));
     fs::permissions(folder.dir() / "sub", fs::perms::owner_read | fs::perms::owner_exec);
-    EXPECT_FALSE(WriteFileAtomically(folder.path("sub/new.txt"), "x", &error));
+    EXPECT_FALSE(writeFileAtomically(folder.path("sub/new.txt"), "x", &error));
     EXPECT_FALSE(fs::exists(folder.dir() / "sub" / "new.txt"));
     EXPECT_EQ(folder.entries(), 3);
 }
@@ -95,7 +95,7 @@ TEST(TextFile, ASaveRemovesOnlyTheUnheldTemporaryFilesOfItsOwnTarget) {
     for (const char* name : {".p.orv.orvelin-save-aB3xY", ".p.orv.orvelin-save-a-3xY9",
                              ".q.orv.orvelin-save-aB3xY9", "p.orv.orvelin-save-aB3xY9"})
         folder.write(name, "not ours");
-    ASSERT_TRUE(WriteFileAtomically(folder.path("p.orv"), "saved"));
+    ASSERT_TRUE(writeFileAtomically(folder.path("p.orv"), "saved"));
     ::close(held);
     EXPECT_FALSE(fs::exists(stale));
     EXPECT_EQ(folder.entries(), 6) << "the held one, the four others and p.orv";

@@ -45,8 +45,8 @@ TEST(LabelEncoding, BarBecomesCapitalIAndOnlySemicolonIsDecodedButNeverEncoded) 
     EXPECT_EQ(DecodeLabel("&y0&y01"), "&y0;");
     EXPECT_EQ(EncodeLabel(std::string(100, ' ')).size(), 500u);
     std::string appended = "head|";
-    AppendEncodedLabel(appended, "a b");
-    AppendDecodedLabel(appended, "&y02");
+    appendEncodedLabel(appended, "a b");
+    appendDecodedLabel(appended, "&y02");
     EXPECT_EQ(appended, "head|a&nbspb\"");
 }
 
@@ -77,10 +77,10 @@ TEST(TextHelpers, IdentifiersTokensCountsAndNames) {
                 StartsWith("http://x", "http://"));
     EXPECT_FALSE(StartsWith("ab", "abc") || StartsWith("Http", "http"));
     for (const char* path : {"C:\\img\\a.gif", "/home/u/img/a.gif", "dir\\sub/a.gif", "a.gif"})
-        EXPECT_EQ(BareFileName(path), "a.gif") << path;
-    EXPECT_EQ(BareFileName("dir/"), "");
-    EXPECT_EQ(ToUpperAscii("abZ1-\xc3\xa9"), "ABZ1-\xc3\xa9");
-    EXPECT_EQ(ToLowerAscii("ABz1-\xc3\x89"), "abz1-\xc3\x89");
+        EXPECT_EQ(bareFileName(path), "a.gif") << path;
+    EXPECT_EQ(bareFileName("dir/"), "");
+    EXPECT_EQ(toUpperAscii("abZ1-\xc3\xa9"), "ABZ1-\xc3\xa9");
+    EXPECT_EQ(toLowerAscii("ABz1-\xc3\x89"), "abz1-\xc3\x89");
 }
 
 TEST(ParseWholeNumber, ReadsTypedNumbersRoundingHalvesToEven) {
@@ -91,26 +91,26 @@ TEST(ParseWholeNumber, ReadsTypedNumbersRoundingHalvesToEven) {
         {"-3.5", -4},   {"0.5", 0},         {"0.51", 1},        {"0.05", 0},
         {"1.49999", 1}, {"-32768", -32768}, {"32767.4", 32767}, {"1e-999999999999999999999", 0}};
     for (const auto& [text, value] : values) {
-        const WholeNumber n = ParseWholeNumber(text, -32768, 32767);
+        const WholeNumber n = parseWholeNumber(text, -32768, 32767);
         EXPECT_EQ(n.error, NumberError::None) << text;
         EXPECT_EQ(n.value, value) << text;
     }
     for (const std::string& text :
          {std::string("32768"), std::string("-32769"), std::string("32767.5"),
           std::string(5000, '9'), std::string("1e999999999999999999999")})
-        EXPECT_EQ(ParseWholeNumber(text, -32768, 32767).error, NumberError::Overflow) << text;
+        EXPECT_EQ(parseWholeNumber(text, -32768, 32767).error, NumberError::Overflow) << text;
     for (const char* text : {"", "   ", "abc", "12a", "1 2", "-", ".", "1e", "1e+", "0x10", "+-1",
                              "+", "inf", "nan", "1,5"})
-        EXPECT_EQ(ParseWholeNumber(text, -100, 100).error, NumberError::TypeMismatch) << text;
-    EXPECT_EQ(ParseWholeNumber("-0", 0, 100).error, NumberError::None);
-    EXPECT_EQ(ParseWholeNumber("0", 5, 10).error, NumberError::None) << "zero fits any range";
-    EXPECT_EQ(ParseWholeNumber("-5", 0, 10).error, NumberError::Overflow);
-    EXPECT_EQ(ParseWholeNumber("-9223372036854775808", INT64_MIN, INT64_MAX).value, INT64_MIN);
-    EXPECT_EQ(ParseWholeNumber("9223372036854775808", INT64_MIN, INT64_MAX).error,
+        EXPECT_EQ(parseWholeNumber(text, -100, 100).error, NumberError::TypeMismatch) << text;
+    EXPECT_EQ(parseWholeNumber("-0", 0, 100).error, NumberError::None);
+    EXPECT_EQ(parseWholeNumber("0", 5, 10).error, NumberError::None) << "zero fits any range";
+    EXPECT_EQ(parseWholeNumber("-5", 0, 10).error, NumberError::Overflow);
+    EXPECT_EQ(parseWholeNumber("-9223372036854775808", INT64_MIN, INT64_MAX).value, INT64_MIN);
+    EXPECT_EQ(parseWholeNumber("9223372036854775808", INT64_MIN, INT64_MAX).error,
               NumberError::Overflow);
-    EXPECT_EQ(NumberErrorText(NumberError::TypeMismatch), "Type mismatch");
-    EXPECT_EQ(NumberErrorText(NumberError::Overflow), "Overflow");
-    EXPECT_EQ(NumberErrorText(NumberError::None), "");
+    EXPECT_EQ(numberErrorText(NumberError::TypeMismatch), "Type mismatch");
+    EXPECT_EQ(numberErrorText(NumberError::Overflow), "Overflow");
+    EXPECT_EQ(numberErrorText(NumberError::None), "");
 }
 
 TEST(NumberFallbacks, CIntGivesZeroAndPositiveGivesFiveForWhatIsNoNumber) {
@@ -129,10 +129,10 @@ TEST(NumberFallbacks, CIntGivesZeroAndPositiveGivesFiveForWhatIsNoNumber) {
 
 TEST(Colours, HexTextAndWebColoursSplitTheValueByItsTextsLength) {
     using Texts = std::vector<std::string>;
-    EXPECT_EQ((Texts{HexText(0), HexText(256), HexText(0xABCDEF), HexText(-1), HexText(INT32_MIN)}),
+    EXPECT_EQ((Texts{hexText(0), hexText(256), hexText(0xABCDEF), hexText(-1), hexText(INT32_MIN)}),
               (Texts{"0", "100", "ABCDEF", "FFFFFFFF", "80000000"}));
-    EXPECT_EQ((Texts{ColorToWeb(65280), ColorToWeb(16777215), ColorToWeb(5), ColorToWeb(256),
-                     ColorToWeb(1048575), ColorToWeb(-1), ColorToWeb(0x34), ColorToWeb(0x1234),
-                     ColorToWeb(0x123456)}),
+    EXPECT_EQ((Texts{colorToWeb(65280), colorToWeb(16777215), colorToWeb(5), colorToWeb(256),
+                     colorToWeb(1048575), colorToWeb(-1), colorToWeb(0x34), colorToWeb(0x1234),
+                     colorToWeb(0x123456)}),
               (Texts{"00FF00", "FFFFFF", "000000", "", "", "", "340000", "341200", "563412"}));
 }

@@ -22,16 +22,16 @@ TEST(AcceptTyped, EachFieldKeepsOnlyWhatItsFormsCanCarry) {
         {TypedField::Raw, "Arial", "Arial", false},
     };
     for (const auto& c : cases) {
-        const TypedText out = AcceptTyped(c.field, c.typed);
+        const TypedText out = acceptTyped(c.field, c.typed);
         EXPECT_EQ(out.text, c.kept) << c.typed;
         EXPECT_EQ(!out.note.empty(), c.noted) << c.typed;
     }
 }
 
 TEST(FirstCharacterReference, FindsWhatABrowserDecodesButNotTheAppletsOwnCodes) {
-    EXPECT_EQ(FirstCharacterReference("A&#124;B"), "&#124;");
-    EXPECT_EQ(FirstCharacterReference("A&#x7c B"), "&#x7c");
-    EXPECT_EQ(FirstCharacterReference("Tom &amp; Jerry"), "&amp;");
-    EXPECT_EQ(FirstCharacterReference("a&nbspb&y01c&y02 & d"), "");
-    EXPECT_EQ(FirstCharacterReference("&#;&"), "");
+    EXPECT_EQ(firstCharacterReference("A&#124;B"), "&#124;");
+    EXPECT_EQ(firstCharacterReference("A&#x7c B"), "&#x7c");
+    EXPECT_EQ(firstCharacterReference("Tom &amp; Jerry"), "&amp;");
+    EXPECT_EQ(firstCharacterReference("a&nbspb&y01c&y02 & d"), "");
+    EXPECT_EQ(firstCharacterReference("&#;&"), "");
 }

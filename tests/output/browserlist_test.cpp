@@ -44,14 +44,14 @@ TEST(BrowserList, FirstUseFindsInstalledBrowsersOnceEachAndKeepsTheStoredList) {
     Settings settings(backend);
     const std::vector<BrowserEntry> expected{
         {"Default Browser", ""}, {"Fake Fox", fox}, {"Chromium Web", chromium}};
-    EXPECT_EQ(LoadBrowsers(settings, places), expected);
+    EXPECT_EQ(loadBrowsers(settings, places), expected);
     EXPECT_EQ(settings.value(SettingKey::BrowsersPath, 2), fox);
 
     // Once stored, the list is the user's: what is installed no longer changes it.
-    SaveBrowsers(settings, {expected[0], {"Mine", "/opt/mine"}});
-    EXPECT_EQ(LoadBrowsers(settings, places),
+    saveBrowsers(settings, {expected[0], {"Mine", "/opt/mine"}});
+    EXPECT_EQ(loadBrowsers(settings, places),
               (std::vector<BrowserEntry>{expected[0], {"Mine", "/opt/mine"}}));
-    SetSelectedBrowser(settings, 1);
-    EXPECT_EQ(SelectedBrowser(settings, 2), 1);
-    EXPECT_EQ(SelectedBrowser(settings, 1), 0);
+    setSelectedBrowser(settings, 1);
+    EXPECT_EQ(selectedBrowser(settings, 2), 1);
+    EXPECT_EQ(selectedBrowser(settings, 1), 0);
 }

@@ -31,15 +31,15 @@ ProjectModel Project(int buttons) {
     ProjectModel model;
     model.AppletName = "Nav";
     for (int i = 1; i <= buttons; ++i)
-        model.AddButton(kFactoryDefaultButton);
+        model.addButton(kFactoryDefaultButton);
     return model;
 }
 
 /// A program folder of its own for each test, so the caller block's source is known.
 class HtmlGenerator : public ::testing::Test {
 protected:
-    void SetUp() override { SetProgramFolderOverride(folder.dir().string()); }
-    void TearDown() override { SetProgramFolderOverride(""); }
+    void SetUp() override { setProgramFolderOverride(folder.dir().string()); }
+    void TearDown() override { setProgramFolderOverride(""); }
     void writeIni(const std::string& text) { folder.write("Orvel.ini", text); }
 
     orvelin::testing::TempFolder folder;
@@ -55,17 +55,17 @@ const std::string kTail = "</applet>\r\n<!-- END GENERATED CODE -->\r\n";
 
 TEST_F(HtmlGenerator, KnownProjectGivesExactText) {
     ProjectModel model = Project(2);
-    ButtonRecord& b = model.Button(1);
+    ButtonRecord& b = model.button(1);
     b.LabelOVER = "a|\"b\";\\n";
     b.URL = "x y.htm";
     b.ImageUP = "C:\\web\\img\\home up.gif";
     b.SndUP = "D:\\snd/mixed\\click.au";
     b.BackColorOVER = 0x00AB;
     b.FontColorDOWN = 1048575; // no six-digit form: empty
-    model.Button(2).x = 120;
-    model.Button(2).y = -8;
-    model.Button(2).LabelUP = "Go on";
-    model.Button(2).ProgramDOWN = "2 1;6 500;";
+    model.button(2).x = 120;
+    model.button(2).y = -8;
+    model.button(2).LabelUP = "Go on";
+    model.button(2).ProgramDOWN = "2 1;6 500;";
     model.BackGround = 16777215;
     model.BackImg = "img/back.gif";
     model.BackImgStyle = 1;
@@ -110,10 +110,10 @@ TEST_F(HtmlGenerator, AnEmptyAppletNameComesFromTheProjectFileAndThenStays) {
     ProjectModel model = Project(1);
     model.AppletName.clear();
     model.ProjectFileName = "C:\\Sites\\Top Menu.orv";
-    EXPECT_EQ(NameTheApplet(model), "Top_Menu");
+    EXPECT_EQ(nameTheApplet(model), "Top_Menu");
     EXPECT_EQ(model.AppletName, "Top_Menu");
     model.ProjectFileName = "/srv/other.orv";
-    EXPECT_EQ(NameTheApplet(model), "Top_Menu");
+    EXPECT_EQ(nameTheApplet(model), "Top_Menu");
     // The name given is the one in the tag and in "p", whatever the model holds.
     const std::string text = MakeHTML(model, "Other", "").text;
     EXPECT_NE(text.find("<applet name = \"Other\" "), std::string::npos);
@@ -126,13 +126,13 @@ TEST_F(HtmlGenerator, AnEmptyAppletNameComesFromTheProjectFileAndThenStays) {
         {"/home/ann/a|b.orv", "aIb"},
         {"x.o", ""}};
     for (const auto& [file, name] : names)
-        EXPECT_EQ(DefaultAppletName(file), name) << file;
+        EXPECT_EQ(defaultAppletName(file), name) << file;
     const std::pair<const char*, const char*> typed[] = {{"My Menu", "My_Menu"},
                                                          {"2nd bar.v2", "_2nd_bar_v2"},
                                                          {"a&nbspb&y02c", "a_b_c"},
                                                          {"x<y>,z", "x<y>,z"}};
     for (const auto& [box, name] : typed) {
-        SetAppletNameFromBox(model, box);
+        setAppletNameFromBox(model, box);
         EXPECT_EQ(model.AppletName, name) << box;
     }
 }
@@ -145,8 +145,8 @@ TEST_F(HtmlGenerator, JavaScriptLinkAtTheStartOfAUrlAddsTheCallerBlock) {
              "[END OF JSCALLER]\r\n"
              "after the end AppletName\r\n");
     ProjectModel model = Project(3);
-    model.Button(1).URL = "http://example.org/?q=javascript:go()";
-    model.Button(2).URL = "JavaScript:go()";
+    model.button(1).URL = "http://example.org/?q=javascript:go()";
+    model.button(2).URL = "JavaScript:go()";
     const GeneratedHtml html = MakeHTML(model, "Nav", GetJSCaller("Nav"));
     EXPECT_TRUE(html.usesJavaScript);
     const std::string tail = "</applet>\r\n"
@@ -157,8 +157,8 @@ TEST_F(HtmlGenerator, JavaScriptLinkAtTheStartOfAUrlAddsTheCallerBlock) {
     EXPECT_TRUE(html.text.ends_with(tail)) << html.text;
 
     // Elsewhere in a URL it adds nothing.
-    model.Button(2).URL = " javascript:go()";
-    model.Button(3).URL = "page.html#javascript:";
+    model.button(2).URL = " javascript:go()";
+    model.button(3).URL = "page.html#javascript:";
     const GeneratedHtml plain = MakeHTML(model, "Nav", GetJSCaller("Nav"));
     EXPECT_FALSE(plain.usesJavaScript);
     EXPECT_TRUE(plain.text.ends_with(kTail));
@@ -180,7 +180,7 @@ TEST_F(HtmlGenerator, CallerBlockIsReadBetweenItsMarkersWhateverTheirCase) {
 
 TEST_F(HtmlGenerator, ShippedCallerBlockDefinesInitJSCallerForTheApplet) {
     const std::string block =
-        JSCallerFromFile(std::string(ORVELIN_SOURCE_DIR) + "/data/Orvel.ini", "Nav");
+        jsCallerFromFile(std::string(ORVELIN_SOURCE_DIR) + "/data/Orvel.ini", "Nav");
     EXPECT_TRUE(block.starts_with("\r\n"));
     for (const char* part :
          {"function InitJSCaller()", "document.applets['Nav']", "<script", "</script>"})
@@ -206,11 +206,11 @@ TEST_F(HtmlGenerator, AnyTextInAnyFieldLeavesEveryParameterInsideItsQuotesWithIt
             *text = pieces[random() % std::size(pieces)] + pieces[random() % std::size(pieces)];
         for (int i = 1; i <= model.ButtonCount; ++i)
             for (int pos = 0; pos < kButtonFieldCount; ++pos) // numbers refuse and stay
-                SetFieldText(model.Button(i), pos, pieces[random() % std::size(pieces)]);
+                setFieldText(model.button(i), pos, pieces[random() % std::size(pieces)]);
         std::string page = MakeHTML(model, model.AppletName, "").text;
         page = page.substr(page.find("<applet"), page.find("</applet>") + 9 - page.find("<applet"));
         std::vector<std::size_t> fields;
-        for (std::string_view text : SplitLines(page)) {
+        for (std::string_view text : splitLines(page)) {
             std::match_results<std::string_view::const_iterator> match;
             ASSERT_TRUE(std::regex_match(text.begin(), text.end(), match, line)) << text;
             if (match[1].matched)

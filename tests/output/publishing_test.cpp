@@ -21,11 +21,11 @@ const std::string kCantCopyButton2 = "Can't copy Pictures Or Sounds for Button #
 /// Opens nothing; records what it was asked to open.
 class RecordingShell : public Shell {
 public:
-    bool OpenDocument(const std::string& path) override {
+    bool openDocument(const std::string& path) override {
         calls.push_back("open " + path);
         return works;
     }
-    bool StartProgram(const std::string& program, const std::vector<std::string>& args) override {
+    bool startProgram(const std::string& program, const std::vector<std::string>& args) override {
         calls.push_back(program + " " + (args.size() == 1 ? args[0] : "<not one argument>"));
         return works;
     }
@@ -41,7 +41,7 @@ protected:
         fs::create_directories(temp.dir() / "program");
         fs::create_directories(temp.dir() / "projects/art");
         fs::create_directories(temp.dir() / "site");
-        SetProgramFolderOverride(temp.path("program"));
+        setProgramFolderOverride(temp.path("program"));
         temp.write("program/Orvel1b6.class", "class");
         temp.write("program/Orvel1b6.jar", "jar");
         temp.write("projects/art/home up.gif", "GIF89a home");
@@ -49,13 +49,13 @@ protected:
         model.ProjectFileName = temp.path("projects/nav.orv");
         model.AppletName = "Nav";
         for (int i = 0; i < 3; ++i)
-            model.AddButton(kFactoryDefaultButton);
+            model.addButton(kFactoryDefaultButton);
     }
-    void TearDown() override { SetProgramFolderOverride(""); }
+    void TearDown() override { setProgramFolderOverride(""); }
 
     bool Build(const std::string& target, bool withPlayer = false) {
         html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName));
-        return BuildPage(model, {html.text, html.usesJavaScript, withPlayer}, target, ui);
+        return buildPage(model, {html.text, html.usesJavaScript, withPlayer}, target, ui);
     }
 
     TempFolder temp;
@@ -67,38 +67,38 @@ protected:
 } // namespace
 
 TEST(PageText, WrapsTheCodeWithTheBodyTagOfItsJavaScriptFlagAndMarksUtf8) {
-    EXPECT_EQ(PageText("CODE\r\n", false),
+    EXPECT_EQ(pageText("CODE\r\n", false),
               "<Html>\r\n<Head><Title>Orvelin</Title></Head>\r\n<Body>\r\n<Center>\r\n\r\n"
               "CODE\r\n\r\n</Center>\r\n</Body>\r\n</Html>\r\n");
-    EXPECT_EQ(PageText("CODE\r\n", true).substr(45, 33), "<body onload=\"InitJSCaller();\">\r\n");
-    EXPECT_EQ(PageText("Caf\xC3\xA9\r\n", false).substr(0, 11), "\xEF\xBB\xBF<Html>\r\n");
-    EXPECT_EQ(PageText("CODE\r\n", false, true).substr(65),
+    EXPECT_EQ(pageText("CODE\r\n", true).substr(45, 33), "<body onload=\"InitJSCaller();\">\r\n");
+    EXPECT_EQ(pageText("Caf\xC3\xA9\r\n", false).substr(0, 11), "\xEF\xBB\xBF<Html>\r\n");
+    EXPECT_EQ(pageText("CODE\r\n", false, true).substr(65),
               "CODE\r\n\r\n</Center>\r\n<script src=\"orvelin-player.js\"></script>\r\n"
               "</Body>\r\n</Html>\r\n");
 }
 
 TEST(SoundScriptText, NameIsAScriptStringAndBytesAreBase64) {
-    EXPECT_EQ(SoundScriptText("a\"<\\.au", std::string("\xFF\0b!", 4)),
+    EXPECT_EQ(soundScriptText("a\"<\\.au", std::string("\xFF\0b!", 4)),
               "(window.OrvelinSounds = window.OrvelinSounds || {})[\"a\\x22\\x3c\\x5c.au\"] =\n"
               "\"/wBiIQ==\";\n");
 }
 
 TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
     // Two buttons name one image; one path uses Windows separators.
-    model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
-    model.Button(3).Image(ButtonState::DOWN) = "art\\home up.gif";
-    model.Button(2).Sound(ButtonState::OVER) = "art/click.au";
+    model.button(1).image(ButtonState::UP) = "art/home up.gif";
+    model.button(3).image(ButtonState::DOWN) = "art\\home up.gif";
+    model.button(2).sound(ButtonState::OVER) = "art/click.au";
     ASSERT_TRUE(Build(temp.path("site/nav.html")));
 
     EXPECT_TRUE(ui.shown.empty());
-    EXPECT_EQ(temp.read("site/nav.html"), PageText(html.text, false));
+    EXPECT_EQ(temp.read("site/nav.html"), pageText(html.text, false));
     EXPECT_NE(html.text.find("|home&nbspup.gif|"), std::string::npos);
     EXPECT_EQ(temp.read("site/home&nbspup.gif"), "GIF89a home");
     EXPECT_EQ(temp.read("site/click.au"), "au");
     EXPECT_EQ(temp.read("site/click.au.js"),
               "(window.OrvelinSounds = window.OrvelinSounds || {})[\"click.au\"] =\n\"YXU=\";\n");
     EXPECT_EQ(temp.read("site/Orvel1b6.jar"), "jar");
-    EXPECT_EQ(PageFiles(model, temp.path("program")).size(), 5u);
+    EXPECT_EQ(pageFiles(model, temp.path("program")).size(), 5u);
 
     // A target that is a folder: nothing is written and the message names it.
     EXPECT_FALSE(Build(temp.path("site")));
@@ -116,10 +116,10 @@ TEST_F(Publishing, BuildingIntoTheProgramFolderLeavesItsOwnAppletFilesAlone) {
 }
 
 TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoesOn) {
-    model.Button(2).Image(ButtonState::UP) = "art/missing.gif";
-    model.Button(2).Image(ButtonState::OVER) = "art/missing-too.gif";
-    model.Button(3).Image(ButtonState::UP) = "art/gone.gif";
-    model.Button(3).Sound(ButtonState::UP) = "art/click.au";
+    model.button(2).image(ButtonState::UP) = "art/missing.gif";
+    model.button(2).image(ButtonState::OVER) = "art/missing-too.gif";
+    model.button(3).image(ButtonState::UP) = "art/gone.gif";
+    model.button(3).sound(ButtonState::UP) = "art/click.au";
     ui.answers = {UserInterface::Answer::Ok, UserInterface::Answer::Cancel};
     EXPECT_FALSE(Build(temp.path("site/nav.html")));
     ASSERT_EQ(ui.shown.size(), 2u);
@@ -131,20 +131,20 @@ TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoe
 }
 
 TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
-    model.Button(1).URL = "javascript:go()";
-    model.Button(1).Image(ButtonState::UP) = "art/home up.gif";
+    model.button(1).URL = "javascript:go()";
+    model.button(1).image(ButtonState::UP) = "art/home up.gif";
     html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName));
     RecordingShell shell;
     const std::string page = temp.path("program/AppletTemp/Temp.htm");
-    ASSERT_TRUE(PreviewPage(model, {html.text, true}, "", ui, shell));
-    ASSERT_TRUE(PreviewPage(model, {html.text, true}, "/opt/fox", ui, shell));
+    ASSERT_TRUE(previewPage(model, {html.text, true}, "", ui, shell));
+    ASSERT_TRUE(previewPage(model, {html.text, true}, "/opt/fox", ui, shell));
     EXPECT_EQ(shell.calls, (std::vector<std::string>{"open " + page, "/opt/fox " + page}));
-    EXPECT_EQ(temp.read("program/AppletTemp/Temp.htm"), PageText(html.text, true));
+    EXPECT_EQ(temp.read("program/AppletTemp/Temp.htm"), pageText(html.text, true));
     EXPECT_EQ(temp.read("program/AppletTemp/home&nbspup.gif"), "GIF89a home");
     EXPECT_EQ(temp.read("program/AppletTemp/Orvel1b6.class"), "class");
 
     shell.works = false;
-    EXPECT_FALSE(PreviewPage(model, {html.text, true}, "", ui, shell));
+    EXPECT_FALSE(previewPage(model, {html.text, true}, "", ui, shell));
     ASSERT_EQ(ui.messages().size(), 1u);
     EXPECT_EQ(ui.messages()[0].rfind(page + " could not be opened", 0), 0u);
 }
@@ -155,7 +155,7 @@ TEST_F(Publishing, APageThatPlaysTakesThePlayerAlongAndNeedsNoAppletFiles) {
     temp.write("program/orvelin-player.js", "player");
     ASSERT_TRUE(Build(temp.path("site/nav.html"), true));
     EXPECT_TRUE(ui.shown.empty());
-    EXPECT_EQ(temp.read("site/nav.html"), PageText(html.text, false, true));
+    EXPECT_EQ(temp.read("site/nav.html"), pageText(html.text, false, true));
     EXPECT_EQ(temp.read("site/orvelin-player.js"), "player");
 
     // The plain page still needs its applet.

@@ -15,17 +15,17 @@ class MemorySettingsBackend : public SettingsBackend {
 public:
     std::string get(const std::string& section, const std::string& key,
                     const std::string& defaultValue) const override {
-        const auto it = m_values.find({NormalizeSection(section), key});
+        const auto it = m_values.find({normalizeSection(section), key});
         return it == m_values.end() ? defaultValue : it->second;
     }
     void set(const std::string& section, const std::string& key,
              const std::string& value) override {
-        m_values[{NormalizeSection(section), key}] = value;
+        m_values[{normalizeSection(section), key}] = value;
     }
 
     /// Whether the key was ever written.
     bool contains(const std::string& section, const std::string& key) const {
-        return m_values.count({NormalizeSection(section), key}) > 0;
+        return m_values.count({normalizeSection(section), key}) > 0;
     }
     std::size_t size() const { return m_values.size(); }
 
