@@ -1,5 +1,7 @@
 #pragma once
 
+#include "surfacezoom.h"
+
 #include <QImage>
 #include <QWidget>
 
@@ -8,9 +10,9 @@ class QMouseEvent;
 namespace orvelin {
 
 /**
- * The applet area of the design surface: exactly the applet's size, showing the applet
- * background. The button pictures are its children, so a button dragged past the edge
- * is cut off where the applet would cut it off.
+ * The applet area of the design surface: exactly the applet's size (times the zoom),
+ * showing the applet background. The button pictures are its children, so a button dragged past the
+ * edge is cut off where the applet would cut it off.
  */
 class AppletArea : public QWidget {
     Q_OBJECT
@@ -21,6 +23,10 @@ public:
     /// The background as painted (RenderBackground); MakeTransparent copies from it.
     const QImage& background() const { return m_background; }
     void setBackground(const QImage& background);
+    /// The applet's size in applet pixels; the widget is that times the zoom.
+    QSize appletSize() const { return m_background.size(); }
+    /// Shows the applet `zoom` times its size.
+    void setZoom(const SurfaceZoom& zoom);
 
 signals:
     void mousePressed(QMouseEvent* event);
@@ -30,7 +36,10 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    void fitSize();
+
     QImage m_background;
+    SurfaceZoom m_zoom;
 };
 
 } // namespace orvelin

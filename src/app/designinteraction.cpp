@@ -60,6 +60,13 @@ DesignInteraction::DesignInteraction(FrmDesign& design, ProjectModel& model, But
 
 DesignInteraction::~DesignInteraction() = default;
 
+QPointF DesignInteraction::appletPosition(const QMouseEvent* event) const {
+    // The rules see the pointer as at 100%, and round it as they do there.
+    const SurfaceZoom& zoom = m_design.zoom();
+    const QPointF onScreen = event->position();
+    return {zoom.toApplet(onScreen.x()), zoom.toApplet(onScreen.y())};
+}
+
 void DesignInteraction::buildMenu() {
     m_mnuMove = std::make_unique<QMenu>();
     m_mnuMove->setObjectName(QStringLiteral("mnuMove"));
@@ -116,7 +123,7 @@ void DesignInteraction::selectionChanged(const std::vector<bool>& markersBefore,
 void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
     const std::vector<bool> before = markers();
     const unsigned revision = m_list.revision();
-    const QPointF at = event->position();
+    const QPointF at = appletPosition(event);
     const PressOutcome out = pressOnButton(m_model, m_list, m_drag, index, buttonOf(event),
                                            ctrlHeld(event), at.x(), at.y());
     // The markers of the new group: the selection has already changed, so a repaint of
@@ -146,9 +153,8 @@ void DesignInteraction::showMove(const MoveOutcome& moved, bool repaintTranspare
         ButtonPicture* picture = m_design.pButtons(i);
         if (!picture)
             continue;
-        const ButtonRecord& b = m_model.button(i);
-        picture->move(b.x, b.y);
-        if (repaintTransparent && b.noBackGround == 1)
+        picture->move(m_design.pictureRect(i).topLeft());
+        if (repaintTransparent && m_model.button(i).noBackGround == 1)
             m_design.RedrawButton(i, false, false, true);
     }
     const int current = m_model.CurrentButton;
@@ -160,7 +166,7 @@ void DesignInteraction::showMove(const MoveOutcome& moved, bool repaintTranspare
 void DesignInteraction::pButtons_MouseMove(int, QMouseEvent* event) {
     if (!m_drag.dragging)
         return;
-    const QPointF at = event->position();
+    const QPointF at = appletPosition(event);
     MoveOutcome moved = dragOnButton(m_model, m_list, m_drag, at.x(), at.y());
     if (m_snap)
         m_snap->afterDrag(moved, altHeld(event));
@@ -196,25 +202,26 @@ void DesignInteraction::Form_MouseDown(QMouseEvent* event) {
 }
 
 void DesignInteraction::picSizer_MouseDown(int handle, QMouseEvent* event) {
-    const QPointF at = event->position();
+    const QPointF at = appletPosition(event);
     pressSizer(m_sizers, handle, at.x(), at.y());
 }
 
 void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
-    SizerHandle* sizer = m_design.picSizer(handle);
-    if (!sizer)
+    const int current = m_model.CurrentButton;
+    if (!m_design.picSizer(handle) || !isButtonNumber(m_model, current))
         return;
-    // Handles stand on the surface, the records count from the applet area's corner.
-    const QPoint at = sizer->pos() - QPoint(FrmDesign::kMargin, FrmDesign::kMargin);
-    const QPointF pointer = event->position();
-    const ResizeOutcome out = dragSizer(m_model, m_sizers, handle, {at.x(), at.y()}, sizer->width(),
-                                        sizer->height(), pointer.x(), pointer.y());
+    // The rules see the handle in applet pixels, where it stands at 100%; on the screen
+    // it keeps its size at every zoom, and the pointer's offsets are scaled instead.
+    const int side = SizerHandle::kSide;
+    const PixelPoint at = sizerPosition(handle, buttonRect(m_model, current), side, side);
+    const QPointF pointer = appletPosition(event);
+    const ResizeOutcome out =
+        dragSizer(m_model, m_sizers, handle, at, side, side, pointer.x(), pointer.y());
     if (!out.changed)
         return;
-    const int current = m_model.CurrentButton;
     // A change of size paints the picture through its resize path.
     if (ButtonPicture* picture = m_design.pButtons(current))
-        picture->setGeometry(out.rect.left, out.rect.top, out.rect.width, out.rect.height);
+        picture->setGeometry(m_design.pictureRect(current));
     if (m_snap)
         m_snap->afterResize(handle, altHeld(event));
     m_design.moveSizer(current);
@@ -234,12 +241,12 @@ void DesignInteraction::picSizer_MouseUp(int handle, QMouseEvent*) {
 void DesignInteraction::picLabelPositioner_MouseDown(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
-    const QPointF at = event->position();
+    const QPointF at = appletPosition(event);
     pressLabelPositioner(m_positioner, at.x(), at.y());
 }
 
 void DesignInteraction::picLabelPositioner_MouseMove(QMouseEvent* event) {
-    const QPointF at = event->position();
+    const QPointF at = appletPosition(event);
     const LabelMoveOutcome out = dragLabelPositioner(m_model, m_list, m_positioner, at.x(), at.y());
     if (out.buttons.empty())
         return;

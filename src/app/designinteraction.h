@@ -11,6 +11,7 @@
 class QAction;
 class QMenu;
 class QMouseEvent;
+class QPointF;
 
 namespace orvelin {
 
@@ -57,6 +58,8 @@ public:
     void nudge(NudgeDirection direction, bool shift);
 
 private:
+    /// Where the pointer of `event` is in its widget, in applet pixels.
+    QPointF appletPosition(const QMouseEvent* event) const;
     void buildMenu();
     void bindKeys();
     /// Moves the pictures of a drag step or a nudge and shows the new position.

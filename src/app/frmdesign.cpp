@@ -6,19 +6,26 @@
 #include "buttonpainter.h"
 #include "buttonpicture.h"
 #include "labelpositioner.h"
+#include "manipulation.h"
 #include "sizerhandle.h"
 
+#include <QActionGroup>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
+#include <cstdlib>
 #include <exception>
 
 namespace orvelin {
@@ -114,12 +121,18 @@ void FrmDesign::buildWindow() {
         emit noBackGroundClicked(checked);
     });
 
+    m_lblZoom = new QLabel(this);
+    m_lblZoom->setObjectName(QStringLiteral("lblZoom"));
+    m_lblZoom->setToolTip(tr("Zoom of the design surface (Ctrl+wheel, Ctrl++, Ctrl+-, Ctrl+0)"));
+    m_lblZoom->setText(QStringLiteral("%1%").arg(m_zoom.percent()));
+
     auto* commands = new QHBoxLayout;
     commands->addWidget(m_btnAddBtn);
     commands->addWidget(m_btnDuplicate);
     commands->addWidget(m_btnRemove);
     commands->addWidget(m_btnViewHtml);
     commands->addStretch(1);
+    commands->addWidget(m_lblZoom);
     commands->addWidget(m_chkNoBackGround);
 
     m_surface = new QWidget;
@@ -154,18 +167,52 @@ void FrmDesign::buildWindow() {
     m_scroll->setWidget(m_surface);
     m_scroll->setWidgetResizable(false);
     m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->viewport()->installEventFilter(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addLayout(commands);
     layout->addWidget(m_scroll, 1);
+    buildViewMenu();
+}
+
+void FrmDesign::buildViewMenu() {
+    m_menuBar = new QMenuBar(this);
+    m_menuBar->setObjectName(QStringLiteral("mnuDesignBar"));
+    layout()->setMenuBar(m_menuBar);
+    m_mnuView = m_menuBar->addMenu(tr("&View"));
+    m_mnuView->setObjectName(QStringLiteral("mnuView"));
+
+    QAction* zoomIn = m_mnuView->addAction(tr("Zoom &In"), this,
+                                           [this] { setZoom(m_zoom.zoomedIn().percent()); });
+    zoomIn->setObjectName(QStringLiteral("mnuZoomIn"));
+    // Ctrl+= too: on most keyboards the plus needs Shift.
+    zoomIn->setShortcuts(
+        {QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    QAction* zoomOut = m_mnuView->addAction(tr("Zoom &Out"), this,
+                                            [this] { setZoom(m_zoom.zoomedOut().percent()); });
+    zoomOut->setObjectName(QStringLiteral("mnuZoomOut"));
+    zoomOut->setShortcut(QKeySequence::ZoomOut);
+    QAction* actual = m_mnuView->addAction(tr("&Actual Size"), this,
+                                           [this] { setZoom(SurfaceZoom::kActualSize); });
+    actual->setObjectName(QStringLiteral("mnuZoomActual"));
+    actual->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
+    m_mnuView->addSeparator();
+
+    m_zoomLevels = new QActionGroup(this);
+    for (int percent : SurfaceZoom::kSteps) {
+        QAction* level = m_mnuView->addAction(QStringLiteral("%1%").arg(percent), this,
+                                              [this, percent] { setZoom(percent); });
+        level->setObjectName(QStringLiteral("mnuZoom%1").arg(percent));
+        level->setData(percent);
+        level->setCheckable(true);
+        level->setChecked(percent == m_zoom.percent());
+        level->setActionGroup(m_zoomLevels);
+    }
 }
 
 void FrmDesign::addArrangeTools(QMenu* menu, QToolBar* tools) {
-    auto* bar = new QMenuBar(this);
-    bar->setObjectName(QStringLiteral("mnuDesignBar"));
-    bar->addMenu(menu);
-    layout()->setMenuBar(bar);
+    m_menuBar->addMenu(menu);
     // In the row of commands, after View HTML: the surface keeps its height.
     auto* commands = static_cast<QBoxLayout*>(layout()->itemAt(0)->layout());
     commands->insertWidget(4, tools);
@@ -187,6 +234,7 @@ void FrmDesign::LoadButton(int index) {
     while (pictureCount() < index) {
         const int next = pictureCount() + 1;
         auto* picture = new ButtonPicture(next, m_area);
+        picture->setZoom(m_zoom.factor());
         connect(picture, &ButtonPicture::mousePressed, this,
                 [this](int i, QMouseEvent* e) { pButtons_MouseDown(i, e); });
         connect(picture, &ButtonPicture::mouseMoved, this,
@@ -253,10 +301,8 @@ void FrmDesign::RedrawButton(int index, bool placeHandles, bool placePositioner,
         // A file changed since the last redraw is read again.
         m_images.newPass();
         if (!keepGeometry) {
-            const ButtonRecord& button = m_model.button(index);
             m_noRedrawOnResize = true;
-            picture->setGeometry(button.x, button.y, std::max<int>(0, button.Width),
-                                 std::max<int>(0, button.Height));
+            picture->setGeometry(pictureRect(index));
             m_noRedrawOnResize = false;
         }
         paintPicture(index);
@@ -301,12 +347,58 @@ void FrmDesign::resizeSurface() {
     m_surface->setFixedSize(applet + QSize(2 * kMargin, 2 * kMargin));
 }
 
+void FrmDesign::setZoom(int percent) {
+    const SurfaceZoom zoom(percent);
+    if (zoom == m_zoom)
+        return;
+    m_zoom = zoom;
+    m_area->setZoom(m_zoom);
+    resizeSurface();
+    for (const QPointer<ButtonPicture>& picture : m_pictures)
+        if (picture)
+            picture->setZoom(m_zoom.factor());
+    // Every picture is placed and painted at the new scale; the marks follow.
+    redrawAll();
+    m_lblZoom->setText(QStringLiteral("%1%").arg(m_zoom.percent()));
+    for (QAction* level : m_zoomLevels->actions())
+        level->setChecked(level->data().toInt() == m_zoom.percent());
+    emit zoomChanged(m_zoom.percent());
+}
+
+QRect FrmDesign::pictureRect(int index) const {
+    const PixelRect r = m_zoom.toScreen(buttonRect(m_model, index));
+    return {r.left, r.top, r.width, r.height};
+}
+
+void FrmDesign::wheelZoom(QWheelEvent* event) {
+    m_wheelAngle += event->angleDelta().y();
+    const int notches = m_wheelAngle / QWheelEvent::DefaultDeltasPerStep;
+    if (notches == 0)
+        return;
+    m_wheelAngle -= notches * QWheelEvent::DefaultDeltasPerStep;
+    SurfaceZoom zoom = m_zoom;
+    for (int i = 0; i < std::abs(notches); ++i)
+        zoom = notches > 0 ? zoom.zoomedIn() : zoom.zoomedOut();
+    if (zoom == m_zoom)
+        return;
+    QScrollBar* h = m_scroll->horizontalScrollBar();
+    QScrollBar* v = m_scroll->verticalScrollBar();
+    const QPointF pointer = event->position();
+    const QPointF margin(kMargin, kMargin);
+    const QPointF under = pointer + QPointF(h->value(), v->value()) - margin;
+    const double scale = zoom.factor() / m_zoom.factor();
+    setZoom(zoom.percent());
+    const QPointF after = margin + under * scale - pointer;
+    h->setValue(roundPixel(after.x()));
+    v->setValue(roundPixel(after.y()));
+}
+
 void FrmDesign::moveButton(int index) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
     const ButtonRecord& button = m_model.button(index);
-    picture->move(button.x, button.y);
+    picture->move(pictureRect(index).topLeft());
     // A transparent button shows the background beneath its new place.
     if (button.noBackGround == 1)
         RedrawButton(index, false, false, true);
@@ -368,8 +460,10 @@ void FrmDesign::moveLabelPositioner(int index) {
         m_positioner->hide();
         return;
     }
-    m_positioner->centreOn(picture->pos() + QPoint(kMargin, kMargin) +
-                           QPoint(button.labelPosX(state), button.labelPosY(state)));
+    // From the picture's corner, where the label is painted from, at the zoom.
+    m_positioner->centreOn(
+        picture->pos() + QPoint(kMargin, kMargin) +
+        QPoint(m_zoom.toScreen(button.labelPosX(state)), m_zoom.toScreen(button.labelPosY(state))));
     m_positioner->show();
     m_positioner->raise();
 }
@@ -435,6 +529,13 @@ void FrmDesign::Form_MouseDown(QMouseEvent* event) {
 bool FrmDesign::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_surface && event->type() == QEvent::MouseButtonPress)
         Form_MouseDown(static_cast<QMouseEvent*>(event));
+    if (event->type() == QEvent::Wheel && m_scroll && watched == m_scroll->viewport()) {
+        auto* wheel = static_cast<QWheelEvent*>(event);
+        if (wheel->modifiers().testFlag(Qt::ControlModifier)) {
+            wheelZoom(wheel);
+            return true; // no scrolling by the same turn
+        }
+    }
     return QWidget::eventFilter(watched, event);
 }
 

@@ -4,6 +4,7 @@
 #include "designview.h"
 #include "imagecache.h"
 #include "projectmodel.h"
+#include "surfacezoom.h"
 #include "userinterface.h"
 
 #include <QPointer>
@@ -12,12 +13,16 @@
 #include <memory>
 #include <vector>
 
+class QActionGroup;
 class QCheckBox;
+class QLabel;
+class QMenuBar;
 class QMenu;
 class QToolBar;
 class QMouseEvent;
 class QPushButton;
 class QScrollArea;
+class QWheelEvent;
 
 namespace orvelin {
 
@@ -90,8 +95,18 @@ public:
     bool noBackGround() const { return m_noBackGround; }
     void setNoBackGround(bool on);
 
-    /// The Arrange menu, on a menu bar of the window, and its toolbar above the surface.
+    /// The Arrange menu, on the window's menu bar after View, and its toolbar above the
+    /// surface.
     void addArrangeTools(QMenu* menu, QToolBar* tools);
+
+    /// The zoom of the surface: a view setting, neither part of the project nor an
+    /// undo step. Pictures, handles and the positioner are placed again at once.
+    const SurfaceZoom& zoom() const { return m_zoom; }
+    void setZoom(int percent);
+    /// `mnuView`: zoom in, zoom out, 100% and the zoom levels.
+    QMenu* mnuView() const { return m_mnuView; }
+    /// Where the picture of button `index` stands on the applet area at this zoom.
+    QRect pictureRect(int index) const;
 
     /// How many times button pictures were painted since the window was made.
     int paintCount() const { return m_paintCount; }
@@ -105,6 +120,8 @@ signals:
     void noBackGroundClicked(bool checked);
     /// The window is being closed (Form_Unload): the place to save its geometry.
     void unloading();
+    /// The zoom changed, in percent.
+    void zoomChanged(int percent);
 
     // Mouse input, with the event's position relative to the widget named.
     void buttonMouseDown(int index, QMouseEvent* event);
@@ -142,6 +159,10 @@ private:
     /// multi-selection marker.
     void paintPicture(int index);
     void resizeSurface();
+    void buildViewMenu();
+    /// Ctrl+wheel on the surface: zooms by whole notches and keeps the applet point
+    /// under the pointer where it is.
+    void wheelZoom(QWheelEvent* event);
 
     ProjectModel& m_model;
     ButtonList& m_list;
@@ -159,6 +180,13 @@ private:
     QPushButton* m_btnRemove = nullptr;
     QPushButton* m_btnViewHtml = nullptr;
     QCheckBox* m_chkNoBackGround = nullptr;
+    QMenuBar* m_menuBar = nullptr;
+    QMenu* m_mnuView = nullptr;
+    QActionGroup* m_zoomLevels = nullptr;
+    QLabel* m_lblZoom = nullptr;
+
+    SurfaceZoom m_zoom;
+    int m_wheelAngle = 0; ///< turned but not yet a whole notch (fine-grained wheels)
 
     bool m_noRedrawOnResize = false;
     bool m_forceUnload = false;

@@ -16,7 +16,8 @@ namespace orvelin {
 
 namespace {
 
-/// Never closer than this to a line without snapping to it, in applet pixels.
+/// Never closer than this to a line without snapping to it, in screen pixels: the
+/// pull feels the same at every zoom.
 constexpr int kSnapDistance = 5;
 
 int gridFrom(const std::string& text) {
@@ -39,21 +40,23 @@ public:
         setFocusPolicy(Qt::NoFocus);
     }
     std::vector<SnapGuide> guides;
+    SurfaceZoom zoom;
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter p(this);
-        // One applet pixel wide: thin, yet seen on a dense screen too.
+        // One screen pixel wide: thin, yet seen on a dense screen too.
         QPen pen(QColor(230, 0, 140), 1.0);
         p.setPen(pen);
         const double m = FrmDesign::kMargin;
+        const auto on = [this, m](double applet) { return m + applet * zoom.factor(); };
         for (const SnapGuide& g : guides) {
             // A line at an edge lies on the first pixel column (row) of that edge.
-            const double at = m + g.at;
+            const double at = on(g.at);
             if (g.vertical)
-                p.drawLine(QPointF(at, m + g.from - 4), QPointF(at, m + g.to + 4));
+                p.drawLine(QPointF(at, on(g.from) - 4), QPointF(at, on(g.to) + 4));
             else
-                p.drawLine(QPointF(m + g.from - 4, at), QPointF(m + g.to + 4, at));
+                p.drawLine(QPointF(on(g.from) - 4, at), QPointF(on(g.to) + 4, at));
         }
     }
 };
@@ -81,7 +84,7 @@ const std::vector<SnapGuide>& SnapGuides::guides() const {
 
 SnapOptions SnapGuides::options(bool suspended) const {
     SnapOptions out;
-    out.threshold = kSnapDistance;
+    out.threshold = m_design.zoom().appletDistance(kSnapDistance);
     out.toButtons = !suspended && m_settings.flag(SettingKey::SnapToButtons);
     out.grid = suspended ? 0 : gridFrom(m_settings.value(SettingKey::GridSize));
     return out;
@@ -98,7 +101,7 @@ std::vector<PixelRect> SnapGuides::others(bool skipSelected) const {
 }
 
 PixelRect SnapGuides::area() const {
-    const QSize size = m_design.appletArea()->size();
+    const QSize size = m_design.appletArea()->appletSize();
     return {0, 0, size.width(), size.height()};
 }
 
@@ -157,7 +160,7 @@ bool SnapGuides::afterResize(int handle, bool suspended) {
     b.Width = static_cast<std::int16_t>(r.width);
     b.Height = static_cast<std::int16_t>(r.height);
     if (ButtonPicture* picture = m_design.pButtons(current))
-        picture->setGeometry(r.left, r.top, r.width, r.height);
+        picture->setGeometry(m_design.pictureRect(current));
     show(snap.guides);
     return true;
 }
@@ -170,6 +173,7 @@ void SnapGuides::show(const std::vector<SnapGuide>& guides) {
     if (guides == m_overlay->guides)
         return;
     m_overlay->guides = guides;
+    m_overlay->zoom = m_design.zoom();
     if (guides.empty()) {
         m_overlay->hide();
         return;

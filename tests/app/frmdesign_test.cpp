@@ -8,6 +8,7 @@
 #include "surfaceeditorlink.h"
 #include "testapplication.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QMenu>
 #include <QPushButton>
@@ -245,4 +246,24 @@ TEST(DesignInteraction, HandlesFollowTheCurrentButtonSoAHandleDragResizesByItsDi
     w.design.LoadButton(4);
     const QRect handle = w.design.picSizer(SizerRight)->geometry();
     EXPECT_EQ(handle.left(), FrmDesign::kMargin + 400 + 100 + 2);
+}
+
+TEST(DesignInteraction, AtTwoHundredPercentTheModelMovesByHalfThePointerAndHandlesKeepTheirSize) {
+    Window w(1);
+    w.design.setZoom(200);
+    EXPECT_EQ(w.picture(1)->geometry(), QRect(20, 40, 200, 60));
+    EXPECT_EQ(w.picture(1)->picture().size(), QSize(200, 60)); // painted at the zoom
+    SizerHandle* bottom = w.design.picSizer(SizerBottom);
+    EXPECT_EQ(bottom->geometry(),
+              QRect(FrmDesign::kMargin + 120 - SizerHandle::kSide / 2, FrmDesign::kMargin + 102,
+                    SizerHandle::kSide, SizerHandle::kSide));
+
+    Window::drag(w.picture(1), QPoint(10, 10), QPoint(40, 26), 3);
+    EXPECT_EQ(w.recordAt(1), QPoint(30, 33));
+    EXPECT_EQ(w.pictureAt(1), QPoint(60, 66));
+    Window::drag(bottom, QPoint(2, 2), QPoint(0, 10));
+    EXPECT_EQ(w.model.button(1).Height, 39); // 30 + 10 / 2 + the first step's 4
+
+    w.design.findChild<QAction*>("mnuZoomActual")->trigger();
+    EXPECT_EQ(w.picture(1)->geometry(), QRect(30, 33, 100, 39));
 }
