@@ -19,19 +19,11 @@ QImage& ButtonPicture::picture() {
     return m_picture;
 }
 
-void ButtonPicture::setZoom(double zoom) {
-    m_zoom = zoom;
-}
-
-qreal ButtonPicture::pictureRatio() const {
-    return devicePixelRatioF() * m_zoom;
-}
-
 bool ButtonPicture::fitPicture() {
-    // Painted at the screen's density and the zoom, so that labels are as sharp as the
-    // widgets' texts; the painters draw in the applet's pixels all the same.
-    const qreal ratio = pictureRatio();
-    const QSize wanted = (QSizeF(size().expandedTo(QSize(1, 1))) * devicePixelRatioF()).toSize();
+    // Painted at the screen's density, so that labels are as sharp as the widgets'
+    // texts; the painters draw in the widget's (the applet's) pixels all the same.
+    const qreal ratio = devicePixelRatioF();
+    const QSize wanted = (QSizeF(size().expandedTo(QSize(1, 1))) * ratio).toSize();
     if (m_picture.size() == wanted && m_picture.devicePixelRatio() == ratio)
         return false;
     QImage fitted = newPicture(wanted);
@@ -47,13 +39,12 @@ bool ButtonPicture::fitPicture() {
 
 void ButtonPicture::paintEvent(QPaintEvent*) {
     // Moved to a screen of another density: painted again at the new one.
-    if (!qFuzzyCompare(m_picture.devicePixelRatio(), pictureRatio()) && fitPicture()) {
+    if (!qFuzzyCompare(m_picture.devicePixelRatio(), devicePixelRatioF()) && fitPicture()) {
         emit resized(index());
         return;
     }
-    // One picture pixel on each device pixel of the widget, whatever the zoom.
     QPainter painter(this);
-    painter.drawImage(QRectF(rect()), m_picture, QRectF(m_picture.rect()));
+    painter.drawImage(0, 0, m_picture);
 }
 
 void ButtonPicture::resizeEvent(QResizeEvent*) {

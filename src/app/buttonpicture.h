@@ -23,9 +23,6 @@ public:
     /// The picture to paint into, resized to the widget's size (the old content kept at
     /// the top left). Call update() after painting.
     QImage& picture();
-    /// The surface's zoom: the picture keeps the button's size in applet pixels for
-    /// the painters and has as many pixels as the zoomed widget on the screen.
-    void setZoom(double zoom);
 
 signals:
     /// The widget changed size by any cause (pButtons_Resize).
@@ -41,11 +38,7 @@ private:
     /// Brings the picture to the widget's size; true when it had to change.
     bool fitPicture();
 
-    /// The picture's pixels for one applet pixel: zoom times the screen's density.
-    qreal pictureRatio() const;
-
     QImage m_picture;
-    double m_zoom = 1.0;
 };
 
 } // namespace orvelin

@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -186,9 +187,7 @@ void FrmDesign::buildViewMenu() {
     QAction* zoomIn = m_mnuView->addAction(tr("Zoom &In"), this,
                                            [this] { setZoom(m_zoom.zoomedIn().percent()); });
     zoomIn->setObjectName(QStringLiteral("mnuZoomIn"));
-    // Ctrl+= too: on most keyboards the plus needs Shift.
-    zoomIn->setShortcuts(
-        {QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    zoomIn->setShortcut(QKeySequence::ZoomIn);
     QAction* zoomOut = m_mnuView->addAction(tr("Zoom &Out"), this,
                                             [this] { setZoom(m_zoom.zoomedOut().percent()); });
     zoomOut->setObjectName(QStringLiteral("mnuZoomOut"));
@@ -234,7 +233,6 @@ void FrmDesign::LoadButton(int index) {
     while (pictureCount() < index) {
         const int next = pictureCount() + 1;
         auto* picture = new ButtonPicture(next, m_area);
-        picture->setZoom(m_zoom.factor());
         connect(picture, &ButtonPicture::mousePressed, this,
                 [this](int i, QMouseEvent* e) { pButtons_MouseDown(i, e); });
         connect(picture, &ButtonPicture::mouseMoved, this,
@@ -286,6 +284,9 @@ void FrmDesign::paintPicture(int index) {
     painter.setUserInterface(m_ui.get());
     {
         QPainter onPicture(&picture->picture());
+        // The painters draw in applet pixels; the picture has the zoomed size at the
+        // screen's density, so labels come out as sharp as at 100%.
+        onPicture.scale(m_zoom.factor(), m_zoom.factor());
         painter.paintButton(onPicture, index);
     }
     ++m_paintCount;
@@ -356,9 +357,8 @@ void FrmDesign::setZoom(int percent) {
     resizeSurface();
     for (const QPointer<ButtonPicture>& picture : m_pictures)
         if (picture)
-            picture->setZoom(m_zoom.factor());
-    // Every picture is placed and painted at the new scale; the marks follow.
-    redrawAll();
+            // Every picture is placed and painted at the new scale; the marks follow.
+            redrawAll();
     m_lblZoom->setText(QStringLiteral("%1%").arg(m_zoom.percent()));
     for (QAction* level : m_zoomLevels->actions())
         level->setChecked(level->data().toInt() == m_zoom.percent());
@@ -537,6 +537,29 @@ bool FrmDesign::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void FrmDesign::keyPressEvent(QKeyEvent* event) {
+    // The zoom keys as typed: the plus needs Shift on most keyboards (X then reports
+    // Ctrl+Shift++, which no single shortcut matches), Ctrl+= is the plus without
+    // Shift, and the keypad's keys count too.
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        switch (event->key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            setZoom(m_zoom.zoomedIn().percent());
+            return;
+        case Qt::Key_Minus:
+            setZoom(m_zoom.zoomedOut().percent());
+            return;
+        case Qt::Key_0:
+            setZoom(SurfaceZoom::kActualSize);
+            return;
+        default:
+            break;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void FrmDesign::closeEvent(QCloseEvent* event) {

@@ -250,9 +250,13 @@ TEST(DesignInteraction, HandlesFollowTheCurrentButtonSoAHandleDragResizesByItsDi
 
 TEST(DesignInteraction, AtTwoHundredPercentTheModelMovesByHalfThePointerAndHandlesKeepTheirSize) {
     Window w(1);
+    const QRgb corner = w.pixel(1, 99, 29);
+    w.design.setZoom(50);
+    // The whole button is painted, at half its size: its corner is border, not fill.
+    EXPECT_NE(w.pixel(1, 49, 14), w.pixel(1, 25, 8));
     w.design.setZoom(200);
     EXPECT_EQ(w.picture(1)->geometry(), QRect(20, 40, 200, 60));
-    EXPECT_EQ(w.picture(1)->picture().size(), QSize(200, 60)); // painted at the zoom
+    EXPECT_EQ(w.pixel(1, 199, 59), corner);
     SizerHandle* bottom = w.design.picSizer(SizerBottom);
     EXPECT_EQ(bottom->geometry(),
               QRect(FrmDesign::kMargin + 120 - SizerHandle::kSide / 2, FrmDesign::kMargin + 102,
