@@ -81,6 +81,27 @@ private:
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 
+/**
+ * The zoom that a key asks for, 0 for any other key. The keys as typed: the plus needs
+ * Shift on most keyboards (X reports Ctrl+Shift++), Ctrl+= is the plus without Shift,
+ * and the keypad's keys count too.
+ */
+int zoomForKey(const QKeyEvent* event, const SurfaceZoom& zoom) {
+    if (!event->modifiers().testFlag(Qt::ControlModifier))
+        return 0;
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return zoom.zoomedIn().percent();
+    case Qt::Key_Minus:
+        return zoom.zoomedOut().percent();
+    case Qt::Key_0:
+        return SurfaceZoom::kActualSize;
+    default:
+        return 0;
+    }
+}
+
 } // namespace
 
 FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, QWidget* parent)
@@ -539,25 +560,21 @@ bool FrmDesign::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+bool FrmDesign::event(QEvent* event) {
+    // Ctrl++ is also the main editor's Add Button, shared with this window: here the
+    // zoom keys win, so the shortcut is not looked up and the key comes as a key press.
+    if (event->type() == QEvent::ShortcutOverride &&
+        zoomForKey(static_cast<QKeyEvent*>(event), m_zoom) != 0) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void FrmDesign::keyPressEvent(QKeyEvent* event) {
-    // The zoom keys as typed: the plus needs Shift on most keyboards (X then reports
-    // Ctrl+Shift++, which no single shortcut matches), Ctrl+= is the plus without
-    // Shift, and the keypad's keys count too.
-    if (event->modifiers().testFlag(Qt::ControlModifier)) {
-        switch (event->key()) {
-        case Qt::Key_Plus:
-        case Qt::Key_Equal:
-            setZoom(m_zoom.zoomedIn().percent());
-            return;
-        case Qt::Key_Minus:
-            setZoom(m_zoom.zoomedOut().percent());
-            return;
-        case Qt::Key_0:
-            setZoom(SurfaceZoom::kActualSize);
-            return;
-        default:
-            break;
-        }
+    if (const int percent = zoomForKey(event, m_zoom); percent != 0) {
+        setZoom(percent);
+        return;
     }
     QWidget::keyPressEvent(event);
 }

@@ -151,6 +151,7 @@ protected:
     virtual void Form_MouseDown(QMouseEvent* event);
 
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
