@@ -36,6 +36,8 @@ class SizerHandle;
  * per button in z-order, the four resize handles and the label positioner of the current
  * button, and the window's own commands. It reads the project, the selection of the
  * button list and the model's CurrentState; it never keeps a selection of its own.
+ * The surface can be zoomed (50% to 400%); records stay in applet pixels and every
+ * widget is placed from them through the one SurfaceZoom.
  *
  * Commands and mouse input leave as signals; each mouse handler is also a virtual
  * function (named like the event it answers), so the manipulation of buttons can be

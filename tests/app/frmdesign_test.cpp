@@ -270,4 +270,14 @@ TEST(DesignInteraction, AtTwoHundredPercentTheModelMovesByHalfThePointerAndHandl
 
     w.design.findChild<QAction*>("mnuZoomActual")->trigger();
     EXPECT_EQ(w.picture(1)->geometry(), QRect(30, 33, 100, 39));
+
+    // Ctrl++ is also the main editor's Add Button, shared with this window: here it zooms.
+    QAction addButton;
+    addButton.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Plus));
+    w.design.addAction(&addButton);
+    QSignalSpy added(&addButton, &QAction::triggered);
+    w.design.activateWindow();
+    QTest::keyClick(&w.design, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(w.design.zoom().percent(), 125);
+    EXPECT_EQ(added.count(), 0);
 }
