@@ -83,9 +83,14 @@ FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, Q
     buildWindow();
     appletChanged();
     nameControls(*this);
+    // Every change of the document reaches the surface here, whoever made it.
+    m_listening =
+        m_model.notices.listen([this](const DocumentChange& c) { showChange(c, m_model); });
 }
 
-FrmDesign::~FrmDesign() = default;
+FrmDesign::~FrmDesign() {
+    m_model.notices.stopListening(m_listening);
+}
 
 void FrmDesign::buildWindow() {
     m_btnAddBtn = new QPushButton(tr("&Add"), this);
@@ -195,6 +200,7 @@ void FrmDesign::LoadButton(int index) {
                 [this](int i, QMouseEvent* e) { pButtons_MouseUp(i, e); });
         connect(picture, &ButtonPicture::resized, this, [this](int i) { pButtons_Resize(i); });
         m_pictures.emplace_back(picture);
+        m_markers.push_back(false);
         // A later button lies above an earlier one.
         picture->raise();
         // Shown at the default widget size first: not worth a paint, since the redraw
@@ -218,6 +224,7 @@ void FrmDesign::hideLastButton(int index) {
         picture->deleteLater();
     }
     m_pictures.pop_back();
+    m_markers.pop_back();
 }
 
 void FrmDesign::clearButtons() {
@@ -240,6 +247,7 @@ void FrmDesign::paintPicture(int index) {
         QPainter onPicture(&picture->picture());
         painter.paintButton(onPicture, index);
     }
+    m_markers[static_cast<std::size_t>(index - 1)] = painter.showsMultiSelector(index);
     ++m_paintCount;
     picture->update();
 }
@@ -301,15 +309,27 @@ void FrmDesign::resizeSurface() {
     m_surface->setFixedSize(applet + QSize(2 * kMargin, 2 * kMargin));
 }
 
-void FrmDesign::moveButton(int index) {
+void FrmDesign::moveButton(int index, bool repaintTransparent) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
     const ButtonRecord& button = m_model.button(index);
     picture->move(button.x, button.y);
     // A transparent button shows the background beneath its new place.
-    if (button.noBackGround == 1)
+    if (repaintTransparent && button.noBackGround == 1)
         RedrawButton(index, false, false, true);
+}
+
+void FrmDesign::placeMarks(int index) {
+    moveSizer(index);
+    moveLabelPositioner(index);
+}
+
+void FrmDesign::selectionChanged() {
+    const bool group = m_list.selectedCount() >= 2;
+    for (int index = 1; index <= pictureCount() && index <= m_model.ButtonCount; ++index)
+        if (m_markers[static_cast<std::size_t>(index - 1)] != (group && m_list.isSelected(index)))
+            RedrawButton(index, false, false, true);
 }
 
 void FrmDesign::hideMarks() {

@@ -50,8 +50,6 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     m_menus = new MainMenus(*this, m_editor);
     m_history = new UndoHistory(m_model, m_list, this);
     m_menus->addUndoActions(m_history->undoAction(), m_history->redoAction());
-    connect(m_history, &UndoHistory::restored, this,
-            [this](const DocumentChange& change) { m_editor.showRestored(change); });
 
     auto* central = new QWidget(this);
     auto* columns = new QHBoxLayout(central);
@@ -140,8 +138,6 @@ void FrmMain::openActionEditor(const QString& kind, const QString& title) {
         selected[static_cast<std::size_t>(i - 1)] = m_list.isSelected(i);
     showActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind.toStdString(),
                      title.toStdString());
-    // The dialog may have attached or removed an applet program.
-    m_editor.SetMainParams();
 }
 
 void FrmMain::openLabelEditor() {
@@ -166,7 +162,7 @@ void FrmMain::openAdvanced() {
 }
 
 void FrmMain::openOffset() {
-    FrmBgOffset dialog(m_model, &m_design, this);
+    FrmBgOffset dialog(m_model, this);
     keepAboveOnTopWindows(dialog);
     dialog.exec();
 }

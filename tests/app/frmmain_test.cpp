@@ -39,7 +39,7 @@ struct MainWindow {
     FakeUserInterface ui;
     MemorySettingsBackend backend;
     Settings settings{backend};
-    RecordingDesignView design;
+    RecordingDesignView design{model};
     FakeShell shell;
     FrmMain window{model, list, ui, settings, design, shell};
 
@@ -243,7 +243,7 @@ TEST(PropertyPanel, ListClicksAndSelectionsGoThroughTheCore) {
                       list->visualItemRect(list->item(2)).center());
     EXPECT_EQ(w.list.selectedButtons(), (std::vector<int>{2, 3}));
     EXPECT_EQ(w.model.CurrentButton, 3);
-    EXPECT_GE(w.design.count("RedrawAll"), 1);
+    EXPECT_EQ(w.design.calls.back(), "PlaceMarks 3");
 }
 
 TEST(AppletPanel, ShowsTheProjectAndWritesItBack) {

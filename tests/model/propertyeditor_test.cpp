@@ -20,9 +20,9 @@ struct PropertyFixture : ::testing::Test {
     orvelin::testing::FakeUserInterface ui;
     MemorySettingsBackend backend;
     Settings settings{backend};
-    orvelin::testing::RecordingDesignView design;
+    orvelin::testing::RecordingDesignView design{model};
     orvelin::testing::RecordingEditorView view{model};
-    PropertyEditor props{model, list, ui, settings, design, view};
+    PropertyEditor props{model, list, ui, settings, view};
 
     // Buttons 1..count, the given ones selected, `current` current, nothing unsaved.
     void MakeButtons(int count, std::vector<int> selected, int current) {
@@ -49,7 +49,7 @@ TEST_F(PropertyFixture, FontColourInOverChangesOnlyThatFieldOfEverySelectedButto
         EXPECT_EQ(model.button(i), expected) << "button " << i;
     EXPECT_EQ(model.button(4), ButtonRecord{});
     EXPECT_EQ(design.redrawn, (std::vector<int>{1, 2, 3}));
-    EXPECT_EQ(design.calls[1], "RedrawButton 2 110") << "the current one gets its handles";
+    EXPECT_EQ(design.calls.back(), "PlaceMarks 2") << "the current one gets its handles";
     EXPECT_FALSE(model.Saved);
 }
 
@@ -177,7 +177,7 @@ TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsTheTypedS
     EXPECT_EQ(model.BackGround, 0xFF00);
     EXPECT_EQ(model.BackImg, "/bg.jpg");
     EXPECT_EQ(model.BackImgStyle, 2);
-    EXPECT_EQ(design.count("UpdateTransparentBtns"), 3);
+    EXPECT_EQ(design.count("AppletChanged"), 3);
 }
 
 TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsOn) {
@@ -198,8 +198,7 @@ TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsO
     props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/big.jpg");
     EXPECT_EQ(model.BackImgStyle, 0);
-    EXPECT_EQ(view.mainParamsUpdating.size(), 2u) << "the applet controls show the choice";
-    EXPECT_EQ(design.count("UpdateTransparentBtns"), 2);
+    EXPECT_FALSE(design.notices.back().fromPanel) << "the applet controls show the choice";
 
     settings.setFlag(SettingKey::AutoTile, false);
     model.BackImgStyle = 2;
