@@ -85,12 +85,10 @@ public:
     };
     std::vector<Prop> props;
     std::vector<bool> mainParamsUpdating;
-    int listShows = 0;
     std::string caption;
     std::array<std::pair<std::string, bool>, 5> recent{}; ///< slots 1..4
     std::string actionTitle;
     ButtonState state = ButtonState::UP;
-    int stateShows = 0;
     bool onTopChecked = false;
     std::string language;
     bool autoTileChecked = false;
@@ -110,16 +108,13 @@ public:
         if (onFill)
             onFill();
     }
-    void showButtonList() override { ++listShows; }
+    void showButtonList() override {}
     void setCaption(const std::string& text) override { caption = text; }
     void setRecentEntry(int slot, const std::string& text, bool visible) override {
         recent.at(static_cast<std::size_t>(slot)) = {text, visible};
     }
     void setActionTitle(const std::string& title) override { actionTitle = title; }
-    void showState(ButtonState s) override {
-        state = s;
-        ++stateShows;
-    }
+    void showState(ButtonState s) override { state = s; }
     void setOnTopChecked(bool checked) override { onTopChecked = checked; }
     void setLanguageChecked(const std::string& lang) override { language = lang; }
     void setAutoTileChecked(bool checked) override { autoTileChecked = checked; }
