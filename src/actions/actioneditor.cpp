@@ -276,13 +276,19 @@ std::vector<int> ActionEditor::targetButtons(const std::vector<bool>& selected) 
 
 void ActionEditor::ok(const std::vector<bool>& selected) {
     const std::string program = storeProgram();
+    DocumentChange change;
     if (isButtonProgramKind(m_kind)) {
-        for (int i : targetButtons(selected))
+        for (int i : targetButtons(selected)) {
             *m_model.programSlot(m_kind, i) = program;
+            change.button(i);
+        }
     } else if (isAppletProgramKind(m_kind)) {
         *m_model.programSlot(m_kind, 0) = program;
+        // The applet frame shows which programs are attached.
+        change.applet = true;
     }
     m_model.Saved = false;
+    m_model.notices.announce(change);
 }
 
 void ActionEditor::appendProgram(std::string_view text) {

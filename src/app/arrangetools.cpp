@@ -78,9 +78,8 @@ std::int16_t toRecord(int value) {
 } // namespace
 
 ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& list,
-                           SurfaceEditorLink& editor, UndoHistory& history, QObject* parent)
-    : QObject(parent), m_design(design), m_model(model), m_list(list), m_editor(editor),
-      m_history(history) {
+                           UndoHistory& history, QObject* parent)
+    : QObject(parent), m_model(model), m_list(list), m_history(history) {
     m_menu = new QMenu(tr("&Arrange"), &design);
     m_menu->setObjectName(QStringLiteral("mnuArrange"));
     m_toolBar = new QToolBar(tr("Arrange"), &design);
@@ -176,7 +175,7 @@ void ArrangeTools::apply(const Tool& tool, const QString& stepName) {
     const std::size_t reference =
         current == buttons.end() ? 0 : static_cast<std::size_t>(current - buttons.begin());
     const std::vector<PixelRect> placed = tool(rects, reference);
-    bool changed = false;
+    DocumentChange change;
     for (std::size_t k = 0; k < buttons.size(); ++k) {
         if (placed[k] == rects[k])
             continue;
@@ -185,17 +184,13 @@ void ArrangeTools::apply(const Tool& tool, const QString& stepName) {
         b.y = toRecord(placed[k].top);
         b.Width = toRecord(placed[k].width);
         b.Height = toRecord(placed[k].height);
-        m_design.RedrawButton(buttons[k], false, false, false);
-        changed = true;
+        change.button(buttons[k],
+                      placed[k].width == rects[k].width && placed[k].height == rects[k].height);
     }
-    if (!changed)
+    if (change.buttons.empty())
         return;
     m_model.Saved = false;
-    // Transparent buttons show what now lies under them.
-    m_design.UpdateTransparentBtns();
-    m_design.moveSizer(m_model.CurrentButton);
-    m_design.moveLabelPositioner(m_model.CurrentButton);
-    m_editor.showGeometry(m_model.CurrentButton);
+    m_model.notices.announce(change);
     m_history.capture(stepName);
 }
 

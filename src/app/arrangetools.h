@@ -15,7 +15,6 @@ class QToolBar;
 namespace orvelin {
 
 class FrmDesign;
-class SurfaceEditorLink;
 class UndoHistory;
 struct PixelRect;
 
@@ -29,8 +28,9 @@ class ArrangeTools : public QObject {
     Q_OBJECT
 
 public:
-    ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& list,
-                 SurfaceEditorLink& editor, UndoHistory& history, QObject* parent = nullptr);
+    /// The menu and the toolbar belong to `design`; the views follow the model's notices.
+    ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& list, UndoHistory& history,
+                 QObject* parent = nullptr);
     ~ArrangeTools() override;
 
     QMenu* menu() const { return m_menu; }
@@ -50,10 +50,8 @@ private:
     /// Runs `tool` on the selection, shows the result and records one step `stepName`.
     void apply(const Tool& tool, const QString& stepName);
 
-    FrmDesign& m_design;
     ProjectModel& m_model;
     ButtonList& m_list;
-    SurfaceEditorLink& m_editor;
     UndoHistory& m_history;
     QMenu* m_menu = nullptr;
     QToolBar* m_toolBar = nullptr;

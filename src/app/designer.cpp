@@ -19,6 +19,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTimer>
 #include <algorithm>
 
 namespace orvelin {
@@ -47,14 +48,15 @@ Designer::Designer(UserInterface* ui)
     connectWindows();
 }
 
-Designer::~Designer() = default;
+Designer::~Designer() {
+    m_model.notices.stopListening(m_listening);
+}
 
 void Designer::connectWindows() {
     Editor& editor = m_main->editor();
     m_surfaceLink = std::make_unique<EditorSurfaceLink>(editor, *m_main);
     m_interaction = std::make_unique<DesignInteraction>(*m_design, m_model, m_list, *m_surfaceLink);
-    m_arrange = std::make_unique<ArrangeTools>(*m_design, m_model, m_list, *m_surfaceLink,
-                                               m_main->history());
+    m_arrange = std::make_unique<ArrangeTools>(*m_design, m_model, m_list, m_main->history());
     m_snap = std::make_unique<SnapGuides>(*m_design, m_model, m_list, m_settings);
     m_interaction->setSnapping(m_snap.get());
     m_arrange->menu()->addSeparator();
@@ -66,10 +68,17 @@ void Designer::connectWindows() {
             [&editor] { editor.removeButton(); });
     connect(m_design.get(), &FrmDesign::btnViewHtmlClicked, this, [this] { showHtml(); });
     connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
-    // An open HTML window shows the code of the document an undo or redo put back.
-    connect(&m_main->history(), &UndoHistory::restored, this, [this] {
-        if (m_html && m_html->isVisible())
-            m_html->MakeHTML();
+    // An open HTML window shows the code of the document as it changes, once for all
+    // the notices of one event.
+    m_listening = m_model.notices.listen([this](const DocumentChange& change) {
+        if (!change.document() || m_htmlPending || !m_html || !m_html->isVisible())
+            return;
+        m_htmlPending = true;
+        QTimer::singleShot(0, this, [this] {
+            m_htmlPending = false;
+            if (m_html && m_html->isVisible())
+                m_html->MakeHTML();
+        });
     });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         TextFileError error;

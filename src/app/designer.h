@@ -73,6 +73,8 @@ private:
     std::unique_ptr<ArrangeTools> m_arrange;
     std::unique_ptr<SnapGuides> m_snap;
     std::unique_ptr<FrmHTML> m_html;
+    int m_listening = 0;
+    bool m_htmlPending = false;
 };
 
 } // namespace orvelin

@@ -100,45 +100,27 @@ void DesignInteraction::bindKeys() {
     }
 }
 
-std::vector<bool> DesignInteraction::markers() const {
-    std::vector<bool> out(static_cast<std::size_t>(m_model.ButtonCount) + 1, false);
-    if (m_list.selectedCount() < 2)
-        return out;
-    for (int i = 1; i <= m_model.ButtonCount; ++i)
-        out[static_cast<std::size_t>(i)] = m_list.isSelected(i);
-    return out;
+void DesignInteraction::announce(const DocumentChange& change) {
+    m_model.notices.announce(change);
 }
 
-void DesignInteraction::selectionChanged(const std::vector<bool>& markersBefore, int skip) {
-    m_editor.showSelection();
-    const std::vector<bool> now = markers();
-    for (int i = 1; i <= m_model.ButtonCount; ++i) {
-        const auto k = static_cast<std::size_t>(i);
-        const bool before = k < markersBefore.size() && markersBefore[k];
-        if (i != skip && before != now[k])
-            m_design.RedrawButton(i, false, false, true);
-    }
+void DesignInteraction::announceSelection() {
+    DocumentChange change;
+    change.selection = true;
+    announce(change);
 }
 
 void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
-    const std::vector<bool> before = markers();
     const unsigned revision = m_list.revision();
+    const int current = m_model.CurrentButton;
     const QPointF at = appletPosition(event);
     const PressOutcome out = pressOnButton(m_model, m_list, m_drag, index, buttonOf(event),
                                            ctrlHeld(event), at.x(), at.y());
-    // The markers of the new group: the selection has already changed, so a repaint of
-    // the earlier current button and of the added one draws them.
-    if (m_list.revision() != revision)
-        selectionChanged(before, out.redrawPressed);
-    if (out.redrawPressed != 0)
-        m_design.RedrawButton(out.redrawPressed, true, false, false);
-    // The handles always stand around the current button, which a Ctrl+click changes
-    // too: a handle left around another button would resize by the distance between them.
-    if (m_model.CurrentButton != 0)
-        m_design.moveSizer(m_model.CurrentButton);
-    if (out.showProp)
-        m_editor.ShowProp(m_model.CurrentButton);
-    m_design.moveLabelPositioner(m_model.CurrentButton);
+    // The notice repaints the markers that came or went, places the handles around the
+    // current button (a handle left around another would resize by the distance between
+    // them) and shows its properties.
+    if (m_list.revision() != revision || m_model.CurrentButton != current)
+        announceSelection();
     if (out.openMoveMenu) {
         m_mnuBringToFront->setEnabled(out.enableBringToFront);
         m_mnuSendBack->setEnabled(out.enableSendBack);
@@ -146,21 +128,14 @@ void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
     }
 }
 
-void DesignInteraction::showMove(const MoveOutcome& moved, bool repaintTransparent) {
+void DesignInteraction::announceMove(const MoveOutcome& moved, bool gesture) {
     if (!moved.moved)
         return;
-    for (int i : moved.buttons) {
-        ButtonPicture* picture = m_design.pButtons(i);
-        if (!picture)
-            continue;
-        picture->move(m_design.pictureRect(i).topLeft());
-        if (repaintTransparent && m_model.button(i).noBackGround == 1)
-            m_design.RedrawButton(i, false, false, true);
-    }
-    const int current = m_model.CurrentButton;
-    m_editor.showGeometry(current);
-    m_design.moveSizer(current);
-    m_design.moveLabelPositioner(current);
+    DocumentChange change;
+    change.gesture = gesture;
+    for (int i : moved.buttons)
+        change.button(i, true);
+    announce(change);
 }
 
 void DesignInteraction::pButtons_MouseMove(int, QMouseEvent* event) {
@@ -170,7 +145,7 @@ void DesignInteraction::pButtons_MouseMove(int, QMouseEvent* event) {
     MoveOutcome moved = dragOnButton(m_model, m_list, m_drag, at.x(), at.y());
     if (m_snap)
         m_snap->afterDrag(moved, altHeld(event));
-    showMove(moved, false);
+    announceMove(moved, true);
 }
 
 void DesignInteraction::pButtons_MouseUp(int index, QMouseEvent*) {
@@ -179,26 +154,27 @@ void DesignInteraction::pButtons_MouseUp(int index, QMouseEvent*) {
     const ReleaseOutcome out = releaseOnButton(m_model, m_list, m_drag, index);
     if (out.placeSizer != 0)
         m_design.moveSizer(out.placeSizer);
+    // The drag is over: moved transparent buttons show the background of their new place.
+    DocumentChange change;
     if (out.redrawReleased != 0)
-        m_design.RedrawButton(out.redrawReleased, true, false, false);
+        change.button(out.redrawReleased, true);
     for (int i : out.redrawMovedTransparent)
-        m_design.RedrawButton(i, false, false, false);
+        change.button(i, true);
+    if (!change.buttons.empty())
+        announce(change);
 }
 
 void DesignInteraction::nudge(NudgeDirection direction, bool shift) {
     if (m_drag.dragging)
         return; // the pointer owns the buttons until it lets go
-    showMove(nudgeSelection(m_model, m_list, direction, shift), true);
+    announceMove(nudgeSelection(m_model, m_list, direction, shift), false);
 }
 
 void DesignInteraction::Form_MouseDown(QMouseEvent* event) {
-    const std::vector<bool> before = markers();
     const unsigned revision = m_list.revision();
-    const int sizerOn = pressOnSurface(m_model, m_list, buttonOf(event));
+    pressOnSurface(m_model, m_list, buttonOf(event));
     if (m_list.revision() != revision)
-        selectionChanged(before);
-    if (sizerOn != 0)
-        m_design.moveSizer(sizerOn);
+        announceSelection();
 }
 
 void DesignInteraction::picSizer_MouseDown(int handle, QMouseEvent* event) {
@@ -219,19 +195,20 @@ void DesignInteraction::picSizer_MouseMove(int handle, QMouseEvent* event) {
         dragSizer(m_model, m_sizers, handle, at, side, side, pointer.x(), pointer.y());
     if (!out.changed)
         return;
-    // A change of size paints the picture through its resize path.
-    if (ButtonPicture* picture = m_design.pButtons(current))
-        picture->setGeometry(m_design.pictureRect(current));
     if (m_snap)
         m_snap->afterResize(handle, altHeld(event));
-    m_design.moveSizer(current);
-    m_design.moveLabelPositioner(current);
+    // The panel shows the new size when the handle is let go.
+    DocumentChange change;
+    change.gesture = true;
+    announce(change.button(m_model.CurrentButton));
 }
 
 void DesignInteraction::picSizer_MouseUp(int handle, QMouseEvent*) {
     if (m_snap)
         m_snap->finish();
     const SizerReleaseOutcome out = releaseSizer(m_sizers, handle);
+    // A moved top or left edge counts as a change of what lies under every transparent
+    // button, not only under the resized one.
     if (out.updateTransparentButtons)
         m_design.UpdateTransparentBtns();
     if (out.showGeometry)
@@ -250,11 +227,11 @@ void DesignInteraction::picLabelPositioner_MouseMove(QMouseEvent* event) {
     const LabelMoveOutcome out = dragLabelPositioner(m_model, m_list, m_positioner, at.x(), at.y());
     if (out.buttons.empty())
         return;
-    for (int i : out.buttons)
-        m_design.RedrawButton(i, false, false, true);
-    m_design.moveLabelPositioner(m_model.CurrentButton);
     // "Center Text" goes off and the position fields show the new place.
-    m_editor.ShowProp(m_model.CurrentButton);
+    DocumentChange change;
+    for (int i : out.buttons)
+        change.button(i);
+    announce(change);
 }
 
 void DesignInteraction::picLabelPositioner_MouseUp(QMouseEvent*) {
@@ -263,24 +240,24 @@ void DesignInteraction::picLabelPositioner_MouseUp(QMouseEvent*) {
 
 void DesignInteraction::mnuBringToFront_Click() {
     const int before = m_model.CurrentButton;
-    const std::vector<bool> markersBefore = markers();
     if (BringToFront(m_model, m_list) == 0)
         return;
-    m_design.RedrawButton(before, false, false, false);
-    m_design.RedrawButton(m_model.CurrentButton, true, true, false);
-    selectionChanged(markersBefore, m_model.CurrentButton);
-    m_editor.ShowProp(m_model.CurrentButton);
+    announceSwap(before);
 }
 
 void DesignInteraction::mnuSendBack_Click() {
     const int before = m_model.CurrentButton;
-    const std::vector<bool> markersBefore = markers();
     if (SendBack(m_model, m_list) == 0)
         return;
-    m_design.RedrawButton(before, false, false, false);
-    m_design.RedrawButton(m_model.CurrentButton, true, true, false);
-    selectionChanged(markersBefore, m_model.CurrentButton);
-    m_editor.ShowProp(m_model.CurrentButton);
+    announceSwap(before);
+}
+
+void DesignInteraction::announceSwap(int before) {
+    // The two records changed places, and so did their selection.
+    DocumentChange change;
+    change.selection = true;
+    change.button(before).button(m_model.CurrentButton);
+    announce(change);
 }
 
 } // namespace orvelin

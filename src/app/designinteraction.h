@@ -23,7 +23,7 @@ class SurfaceEditorLink;
  * The mouse and keys on the design window: selecting, dragging and resizing buttons,
  * the label positioner, the stacking menu `mnuMove` and the arrow keys. It listens to
  * the window's input signals, lets the manipulation rules change the model and the
- * selection, and then has the window and the main editor show the result.
+ * selection, and announces the change through the model: the views show it from there.
  */
 class DesignInteraction : public QObject {
     Q_OBJECT
@@ -62,13 +62,13 @@ private:
     QPointF appletPosition(const QMouseEvent* event) const;
     void buildMenu();
     void bindKeys();
-    /// Moves the pictures of a drag step or a nudge and shows the new position.
-    void showMove(const MoveOutcome& moved, bool repaintTransparent);
-    /// Which buttons show the multi-selection marker now.
-    std::vector<bool> markers() const;
-    /// After the selection changed: the list shows it, and every button whose marker
-    /// came or went is painted again (except `skip`, which the caller paints).
-    void selectionChanged(const std::vector<bool>& markersBefore, int skip = 0);
+    // The views follow the document's change notices; these announce what the mouse did.
+    void announce(const DocumentChange& change);
+    void announceSelection();
+    /// The buttons of a drag step (`gesture`) or a nudge moved.
+    void announceMove(const MoveOutcome& moved, bool gesture);
+    /// Bring to front or send back swapped the button that was current, `before`.
+    void announceSwap(int before);
 
     FrmDesign& m_design;
     ProjectModel& m_model;

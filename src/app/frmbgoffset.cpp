@@ -26,9 +26,8 @@ QSpinBox* offsetBox(const QString& name, int value, QWidget* parent) {
 
 } // namespace
 
-FrmBgOffset::FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* parent)
-    : QDialog(parent), m_model(model), m_preview(preview), m_oldX(model.BgOffsetX),
-      m_oldY(model.BgOffsetY) {
+FrmBgOffset::FrmBgOffset(ProjectModel& model, QWidget* parent)
+    : QDialog(parent), m_model(model), m_oldX(model.BgOffsetX), m_oldY(model.BgOffsetY) {
     setObjectName(QStringLiteral("frmBgOffset"));
     setWindowTitle(tr("Background Offset"));
 
@@ -56,8 +55,13 @@ FrmBgOffset::FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* pare
 void FrmBgOffset::preview() {
     m_model.BgOffsetX = static_cast<std::int16_t>(m_x->value());
     m_model.BgOffsetY = static_cast<std::int16_t>(m_y->value());
-    if (m_preview)
-        m_preview->appletChanged();
+    announce();
+}
+
+void FrmBgOffset::announce() {
+    DocumentChange change;
+    change.applet = change.background = true;
+    m_model.notices.announce(change);
 }
 
 void FrmBgOffset::accept() {
@@ -71,8 +75,8 @@ void FrmBgOffset::reject() {
     const bool changed = m_model.BgOffsetX != m_oldX || m_model.BgOffsetY != m_oldY;
     m_model.BgOffsetX = m_oldX;
     m_model.BgOffsetY = m_oldY;
-    if (changed && m_preview)
-        m_preview->appletChanged();
+    if (changed)
+        announce();
     QDialog::reject();
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "designview.h"
 #include "projectmodel.h"
 
 #include <QDialog>
@@ -19,8 +18,8 @@ class FrmBgOffset : public QDialog {
     Q_OBJECT
 
 public:
-    /// `preview` is the surface shown the live change (may be null).
-    FrmBgOffset(ProjectModel& model, DesignView* preview, QWidget* parent = nullptr);
+    /// The live change is announced through the model's notices.
+    explicit FrmBgOffset(ProjectModel& model, QWidget* parent = nullptr);
 
     QSpinBox* txtOffsetX() const { return m_x; }
     QSpinBox* txtOffsetY() const { return m_y; }
@@ -31,9 +30,9 @@ public slots:
 
 private:
     void preview();
+    void announce();
 
     ProjectModel& m_model;
-    DesignView* m_preview;
     std::int16_t m_oldX;
     std::int16_t m_oldY;
     QSpinBox* m_x = nullptr;

@@ -112,9 +112,14 @@ FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, Q
     buildWindow();
     appletChanged();
     nameControls(*this);
+    // Every change of the document reaches the surface here, whoever made it.
+    m_listening =
+        m_model.notices.listen([this](const DocumentChange& c) { showChange(c, m_model); });
 }
 
-FrmDesign::~FrmDesign() = default;
+FrmDesign::~FrmDesign() {
+    m_model.notices.stopListening(m_listening);
+}
 
 void FrmDesign::buildWindow() {
     m_btnAddBtn = new QPushButton(tr("&Add"), this);
@@ -262,6 +267,7 @@ void FrmDesign::LoadButton(int index) {
                 [this](int i, QMouseEvent* e) { pButtons_MouseUp(i, e); });
         connect(picture, &ButtonPicture::resized, this, [this](int i) { pButtons_Resize(i); });
         m_pictures.emplace_back(picture);
+        m_markers.push_back(false);
         // A later button lies above an earlier one.
         picture->raise();
         // Shown at the default widget size first: not worth a paint, since the redraw
@@ -285,6 +291,7 @@ void FrmDesign::hideLastButton(int index) {
         picture->deleteLater();
     }
     m_pictures.pop_back();
+    m_markers.pop_back();
 }
 
 void FrmDesign::clearButtons() {
@@ -310,6 +317,7 @@ void FrmDesign::paintPicture(int index) {
         onPicture.scale(m_zoom.factor(), m_zoom.factor());
         painter.paintButton(onPicture, index);
     }
+    m_markers[static_cast<std::size_t>(index - 1)] = painter.showsMultiSelector(index);
     ++m_paintCount;
     picture->update();
 }
@@ -376,10 +384,8 @@ void FrmDesign::setZoom(int percent) {
     m_zoom = zoom;
     m_area->setZoom(m_zoom);
     resizeSurface();
-    for (const QPointer<ButtonPicture>& picture : m_pictures)
-        if (picture)
-            // Every picture is placed and painted at the new scale; the marks follow.
-            redrawAll();
+    // Every picture is placed and painted at the new scale; the marks follow.
+    redrawAll();
     m_lblZoom->setText(QStringLiteral("%1%").arg(m_zoom.percent()));
     for (QAction* level : m_zoomLevels->actions())
         level->setChecked(level->data().toInt() == m_zoom.percent());
@@ -414,15 +420,27 @@ void FrmDesign::wheelZoom(QWheelEvent* event) {
     v->setValue(roundPixel(after.y()));
 }
 
-void FrmDesign::moveButton(int index) {
+void FrmDesign::moveButton(int index, bool repaintTransparent) {
     ButtonPicture* picture = pButtons(index);
     if (!picture)
         return;
     const ButtonRecord& button = m_model.button(index);
     picture->move(pictureRect(index).topLeft());
     // A transparent button shows the background beneath its new place.
-    if (button.noBackGround == 1)
+    if (repaintTransparent && button.noBackGround == 1)
         RedrawButton(index, false, false, true);
+}
+
+void FrmDesign::placeMarks(int index) {
+    moveSizer(index);
+    moveLabelPositioner(index);
+}
+
+void FrmDesign::selectionChanged() {
+    const bool group = m_list.selectedCount() >= 2;
+    for (int index = 1; index <= pictureCount() && index <= m_model.ButtonCount; ++index)
+        if (m_markers[static_cast<std::size_t>(index - 1)] != (group && m_list.isSelected(index)))
+            RedrawButton(index, false, false, true);
 }
 
 void FrmDesign::hideMarks() {

@@ -64,7 +64,9 @@ public:
     void UpdateTransparentBtns() override;
     void appletChanged() override;
     void hideMarks() override;
-    void moveButton(int index) override;
+    void moveButton(int index, bool repaintTransparent) override;
+    void placeMarks(int index) override;
+    void selectionChanged() override;
     void setOnTop(bool onTop) override;
 
     /// Places the four handles around button `index` and raises them above the pictures.
@@ -177,6 +179,7 @@ private:
     QWidget* m_surface = nullptr;
     AppletArea* m_area = nullptr;
     std::vector<QPointer<ButtonPicture>> m_pictures; ///< picture i at [i - 1]
+    std::vector<bool> m_markers; ///< whether picture i was painted with the group marker
     std::array<SizerHandle*, 4> m_sizers{};
     LabelPositioner* m_positioner = nullptr;
     QPushButton* m_btnAddBtn = nullptr;
@@ -196,6 +199,7 @@ private:
     bool m_forceUnload = false;
     bool m_noBackGround = false;
     int m_paintCount = 0;
+    int m_listening = 0;
 };
 
 } // namespace orvelin

@@ -45,13 +45,11 @@ QToolButton* listCommand(const QString& name, const QString& text, const QString
 FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
                  DesignView& design, Shell& shell, QWidget* parent)
     : QMainWindow(parent), m_model(model), m_list(list), m_ui(ui), m_settings(settings),
-      m_design(design), m_editor(model, list, ui, settings, design, shell, *this) {
+      m_editor(model, list, ui, settings, design, shell, *this) {
     setObjectName(kFormName);
     m_menus = new MainMenus(*this, m_editor);
     m_history = new UndoHistory(m_model, m_list, this);
     m_menus->addUndoActions(m_history->undoAction(), m_history->redoAction());
-    connect(m_history, &UndoHistory::restored, this,
-            [this](const DocumentChange& change) { m_editor.showRestored(change); });
 
     auto* central = new QWidget(this);
     auto* columns = new QHBoxLayout(central);
@@ -140,8 +138,6 @@ void FrmMain::openActionEditor(const QString& kind, const QString& title) {
         selected[static_cast<std::size_t>(i - 1)] = m_list.isSelected(i);
     showActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind.toStdString(),
                      title.toStdString());
-    // The dialog may have attached or removed an applet program.
-    m_editor.SetMainParams();
 }
 
 void FrmMain::openLabelEditor() {
@@ -166,7 +162,7 @@ void FrmMain::openAdvanced() {
 }
 
 void FrmMain::openOffset() {
-    FrmBgOffset dialog(m_model, &m_design, this);
+    FrmBgOffset dialog(m_model, this);
     keepAboveOnTopWindows(dialog);
     dialog.exec();
 }

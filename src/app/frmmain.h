@@ -73,7 +73,6 @@ private:
     ButtonList& m_list;
     UserInterface& m_ui;
     Settings& m_settings;
-    DesignView& m_design;
     Editor m_editor;
     /// What the action editor's Copy left for Paste, for the whole run.
     ProgramBuffer m_programBuffer;

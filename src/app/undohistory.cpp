@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <optional>
 
 namespace orvelin {
 
@@ -50,6 +51,8 @@ public:
         if (next->m_field != m_field || next->m_burst != m_burst)
             return false;
         m_after = next->m_after;
+        m_toAfter.reset();
+        m_toBefore.reset();
         setText(QString::fromStdString(describeChange(*m_before, *m_after)));
         // Typed back to what it was: no step at all.
         setObsolete(sameDocument(*m_before, *m_after));
@@ -62,10 +65,16 @@ public:
             m_pushed = false;
             return;
         }
-        m_history.restore(*m_before, m_after);
+        if (!m_toAfter)
+            m_toAfter = changeBetween(*m_before, *m_after);
+        m_history.restore(m_after, *m_toAfter);
     }
 
-    void undo() override { m_history.restore(*m_after, m_before); }
+    void undo() override {
+        if (!m_toBefore)
+            m_toBefore = changeBetween(*m_after, *m_before);
+        m_history.restore(m_before, *m_toBefore);
+    }
 
 private:
     UndoHistory& m_history;
@@ -74,6 +83,9 @@ private:
     QString m_field;
     unsigned m_burst;
     bool m_pushed = true;
+    // The change each way, found once: a step is often undone and redone again.
+    std::optional<DocumentChange> m_toAfter;
+    std::optional<DocumentChange> m_toBefore;
 };
 
 UndoHistory::UndoHistory(ProjectModel& model, ButtonList& list, QObject* parent)
@@ -104,9 +116,14 @@ UndoHistory::UndoHistory(ProjectModel& model, ButtonList& list, QObject* parent)
             m_model.Saved = clean;
     });
     qApp->installEventFilter(this);
+    m_listening = m_model.notices.listen([this](const DocumentChange& change) {
+        if (!m_restoring && !change.name.empty())
+            m_stepName = QString::fromStdString(change.name);
+    });
 }
 
 UndoHistory::~UndoHistory() {
+    m_model.notices.stopListening(m_listening);
     qApp->removeEventFilter(this);
 }
 
@@ -119,6 +136,7 @@ void UndoHistory::clear() {
         m_stack.resetClean();
     m_baseline = std::make_shared<const ProjectSnapshot>(makeSnapshot(m_model, m_list));
     m_lastField.clear();
+    m_stepName.clear();
     m_model.Saved = saved;
     m_active = true;
 }
@@ -142,11 +160,13 @@ void UndoHistory::capture(const QString& name) {
             return;
         const bool saved = m_model.Saved;
         auto after = std::make_shared<const ProjectSnapshot>(makeSnapshot(m_model, m_list));
-        const QString field = name.isEmpty() ? typingField() : QString();
+        const QString stepName = name.isEmpty() ? m_stepName : name;
+        m_stepName.clear();
+        const QString field = stepName.isEmpty() ? typingField() : QString();
         if (field.isEmpty() || field != m_lastField)
             ++m_burst;
         m_lastField = field;
-        m_stack.push(new Step(*this, m_baseline, after, field, m_burst, name));
+        m_stack.push(new Step(*this, m_baseline, after, field, m_burst, stepName));
         m_baseline = std::move(after);
         // Saved in the same breath as the edit (a key pressed before the edit showed).
         if (saved)
@@ -169,12 +189,13 @@ void UndoHistory::redo() {
         m_stack.redo();
 }
 
-void UndoHistory::restore(const ProjectSnapshot& from, const Snapshot& to) {
+void UndoHistory::restore(const Snapshot& to, const DocumentChange& change) {
     m_restoring = true;
-    restoreSnapshot(*to, m_model, m_list);
+    restoreSnapshot(*to, m_model, m_list, &change);
     m_baseline = to;
     m_lastField.clear();
-    emit restored(changeBetween(from, *to));
+    // The views show it through the document's one change path, as after any edit.
+    m_model.notices.announce(change);
     m_restoring = false;
 }
 

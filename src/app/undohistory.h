@@ -42,17 +42,15 @@ public:
     void undo();
     void redo();
 
-signals:
-    /// An undo or redo put the document back; the views show it again.
-    void restored(const orvelin::DocumentChange& change);
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     class Step;
     using Snapshot = std::shared_ptr<const ProjectSnapshot>;
-    void restore(const ProjectSnapshot& from, const Snapshot& to);
+    /// Puts `to` back, which differs from the model's document by `change`, and has the
+    /// model announce it.
+    void restore(const Snapshot& to, const DocumentChange& change);
     /// The text field the last key went to, when the last input was a key.
     QString typingField() const;
 
@@ -63,6 +61,8 @@ private:
     QAction* m_redo = nullptr;
     Snapshot m_baseline;
     QString m_lastField;
+    QString m_stepName; ///< the name the last notice gave the step to come
+    int m_listening = 0;
     unsigned m_burst = 0;
     bool m_active = false;
     bool m_restoring = false;

@@ -1,10 +1,15 @@
 #pragma once
 
+#include "documentchange.h"
+
 namespace orvelin {
 
+struct ProjectModel;
+
 /**
- * What the editor's commands ask of the design surface. The design window implements
- * it; tests record the calls. Button numbers are 1-based.
+ * The design surface's drawing operations. The design window implements them and
+ * refreshes through showChange from the document's change notices; tests record the
+ * calls. Button numbers are 1-based.
  */
 class DesignView {
 public:
@@ -20,8 +25,17 @@ public:
     virtual void RedrawButton(int index, bool placeHandles, bool placePositioner,
                               bool keepGeometry) = 0;
     /// Puts button `index` where its record places it; its picture is otherwise as it
-    /// was (only the position changed).
-    virtual void moveButton(int index) { RedrawButton(index, false, false, false); }
+    /// was (only the position changed). A transparent button shows the background of
+    /// its new place when `repaintTransparent`.
+    virtual void moveButton(int index, bool repaintTransparent) {
+        if (repaintTransparent)
+            RedrawButton(index, false, false, false);
+    }
+    /// Places the resize handles and the label positioner around button `index`.
+    virtual void placeMarks(int index) { RedrawButton(index, true, true, true); }
+    /// The selection changed: buttons whose multi-selection marker came or went are
+    /// painted again.
+    virtual void selectionChanged() = 0;
     /// Repaints every button (state switch, selection change).
     virtual void redrawAll() = 0;
     /// Repaints every transparent button (the background under them changed).
@@ -32,6 +46,10 @@ public:
     virtual void hideMarks() = 0;
     /// Keeps the design window above other windows, or not.
     virtual void setOnTop(bool onTop) = 0;
+
+    /// Shows the change that `model` announced: the one place that decides what the
+    /// surface draws again after an edit, an undo or a redo.
+    void showChange(const DocumentChange& change, const ProjectModel& model);
 };
 
 } // namespace orvelin

@@ -114,7 +114,50 @@ Editor::Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Setting
                DesignView& design, Shell& shell, EditorView& view)
     : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_design(design),
       m_shell(shell), m_view(view), m_recent(settings, view),
-      m_properties(model, list, ui, settings, design, view) {}
+      m_properties(model, list, ui, settings, view) {
+    m_listening = m_model.notices.listen([this](const DocumentChange& c) { showChange(c); });
+}
+
+Editor::~Editor() {
+    m_model.notices.stopListening(m_listening);
+}
+
+void Editor::showChange(const DocumentChange& change) {
+    if (change.countChanged || change.selection || change.everything)
+        m_view.showButtonList();
+    if ((change.applet || change.everything) && !change.fromPanel)
+        SetMainParams();
+    // The panel follows a drag as it goes; a resize only when the handle is let go.
+    const int current = m_model.CurrentButton;
+    const bool resizing = change.gesture && !change.onlyMoved(current);
+    if (change.selection || change.countChanged || change.everything ||
+        (!change.fromPanel && !resizing && change.touches(current)))
+        ShowProp(current);
+}
+
+void Editor::announceReplaced(int countBefore) {
+    DocumentChange change;
+    change.everything = change.applet = change.background = true;
+    change.countChanged = change.selection = true;
+    change.countBefore = countBefore;
+    m_model.notices.announce(change);
+}
+
+void Editor::announceCount(int countBefore, int firstChanged, std::string name) {
+    DocumentChange change;
+    change.countChanged = change.selection = true;
+    change.countBefore = countBefore;
+    for (int i = firstChanged; i <= m_model.ButtonCount; ++i)
+        change.button(i);
+    change.name = std::move(name);
+    m_model.notices.announce(change);
+}
+
+void Editor::announceSelection() {
+    DocumentChange change;
+    change.selection = true;
+    m_model.notices.announce(change);
+}
 
 StartupResult Editor::startup(std::string_view commandLine) {
     m_model.Saved = true;
@@ -146,14 +189,10 @@ bool Editor::mayAskToAssociate() const {
 void Editor::newProject() {
     if (AskToSave() == SaveAnswer::Cancel)
         return;
+    const int countBefore = m_model.ButtonCount;
     m_model.reset();
     m_list.clear();
-    m_design.clearButtons();
-    m_design.hideMarks();
-    // The background image is gone.
-    m_design.appletChanged();
-    m_view.showButtonList();
-    SetMainParams();
+    announceReplaced(countBefore);
     m_view.closeLabelEditor();
     m_view.setCaption(mainTitle());
     applyKeepOnTop();
@@ -223,9 +262,9 @@ void Editor::importLegacy() {
     applyKeepOnTop();
     if (!path)
         return;
-    clearProject();
+    const int countBefore = clearProject();
     showLoadResult(LoadProject_OLD(m_model, *path, &m_ui), m_ui);
-    showLoadedProject();
+    showLoadedProject(countBefore);
     // The imported design exists in no current-format file yet: saving must ask for a
     // new name instead of overwriting the legacy file.
     m_model.ProjectFileName.clear();
@@ -294,9 +333,7 @@ StartupResult Editor::appendDefaultButton() {
     }
     m_list.append();
     m_list.selectOnly(m_model.CurrentButton);
-    m_design.LoadButton(m_model.CurrentButton);
-    m_view.showButtonList();
-    ShowProp(m_model.CurrentButton);
+    announceCount(m_model.ButtonCount - 1, m_model.ButtonCount);
     return StartupResult::Ready;
 }
 
@@ -321,9 +358,7 @@ void Editor::duplicateButton() {
     copy.y = static_cast<std::int16_t>(std::min(copy.y + kDuplicateOffset, 32767));
     m_list.append();
     m_list.selectOnly(m_model.CurrentButton);
-    m_design.LoadButton(m_model.CurrentButton);
-    m_view.showButtonList();
-    ShowProp(m_model.CurrentButton);
+    announceCount(m_model.ButtonCount - 1, m_model.ButtonCount);
 }
 
 void Editor::removeButton() {
@@ -332,18 +367,12 @@ void Editor::removeButton() {
         return;
     const int oldCount = m_model.ButtonCount;
     m_model.removeButton(current);
-    m_design.hideLastButton(oldCount);
     m_list.removeLast();
     m_model.CurrentButton = 1;
-    if (m_model.ButtonCount > 0) {
+    if (m_model.ButtonCount > 0)
         m_list.selectOnly(1);
-        m_view.showButtonList();
-        ShowProp(1);
-    } else {
-        m_view.showButtonList();
-        m_design.hideMarks();
-    }
-    m_design.redrawAll();
+    // The buttons after the removed one took the places before them.
+    announceCount(oldCount, current);
 }
 
 std::string Editor::copyButtons() const {
@@ -354,22 +383,17 @@ std::string Editor::copyButtons() const {
 std::string Editor::cutButtons() {
     std::string text = copyButtons();
     const std::vector<int> selected = m_list.selectedButtons();
-    for (auto it = selected.rbegin(); it != selected.rend(); ++it) {
-        m_model.removeButton(*it);
-        m_design.hideLastButton(m_list.count());
-        m_list.removeLast();
-    }
     if (selected.empty())
         return text;
+    const int oldCount = m_model.ButtonCount;
+    for (auto it = selected.rbegin(); it != selected.rend(); ++it) {
+        m_model.removeButton(*it);
+        m_list.removeLast();
+    }
     m_model.CurrentButton = m_model.ButtonCount > 0 ? 1 : 0;
     if (m_model.ButtonCount > 0)
         m_list.selectOnly(1);
-    m_view.showButtonList();
-    if (m_model.ButtonCount > 0)
-        ShowProp(1);
-    else
-        m_design.hideMarks();
-    m_design.redrawAll();
+    announceCount(oldCount, selected.front());
     return text;
 }
 
@@ -390,32 +414,28 @@ void Editor::pasteButtons(std::string_view text) {
         ++m_model.ButtonCount;
         m_model.button(m_model.ButtonCount) = std::move(record);
         m_list.append();
-        m_design.LoadButton(m_model.ButtonCount);
     }
     m_model.Saved = false;
     m_model.CurrentButton = m_model.ButtonCount;
     m_list.selectOnly(first);
     for (int i = first + 1; i <= m_model.ButtonCount; ++i)
         m_list.addSelection(i);
-    m_view.showButtonList();
-    ShowProp(m_model.CurrentButton);
-    m_design.redrawAll();
+    // A pasted copy of one button is no duplicate, though it looks like one.
+    announceCount(first - 1, first, countedButtons("Add", buttons->size()));
 }
 
 void Editor::clickList(int index) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
     m_model.CurrentButton = static_cast<std::int16_t>(index);
-    ShowProp(index);
-    m_design.redrawAll();
+    announceSelection();
 }
 
 void Editor::setListSelection(const std::vector<int>& selected) {
     for (int i = 1; i <= m_list.count(); ++i)
         m_list.setSelected(i, std::find(selected.begin(), selected.end(), i) != selected.end());
     // The panel says whether the current button is still among the edited ones.
-    ShowProp(m_model.CurrentButton);
-    m_design.redrawAll();
+    announceSelection();
 }
 
 void Editor::switchState(std::string_view state) {
@@ -424,8 +444,10 @@ void Editor::switchState(std::string_view state) {
         return;
     m_model.CurrentState = parsed;
     showCurrentState();
-    ShowProp(m_model.CurrentButton);
-    m_design.redrawAll();
+    // Every button and the panel show the other state.
+    DocumentChange change;
+    change.everything = true;
+    m_model.notices.announce(change);
 }
 
 void Editor::showCurrentState() {
@@ -499,42 +521,10 @@ void Editor::SetMainParams() {
     m_properties.SetMainParams();
 }
 
-void Editor::showRestored(const DocumentChange& change) {
-    if (change.countChanged) {
-        m_design.clearButtons();
-        for (int i = 1; i <= m_model.ButtonCount; ++i)
-            m_design.LoadButton(i);
-    }
-    // The background shows through transparent buttons, also where buttons came or went.
-    if (change.applet || change.countChanged) {
-        m_design.appletChanged();
-        SetMainParams();
-    }
-    const int current = m_model.CurrentButton;
-    if (change.countChanged || change.selection) {
-        m_view.showButtonList();
-        // Markers of the selection change on buttons that did not change themselves.
-        m_design.redrawAll();
-    } else {
-        for (int index : change.buttons) {
-            if (std::binary_search(change.moved.begin(), change.moved.end(), index))
-                m_design.moveButton(index);
-            else
-                m_design.RedrawButton(index, false, false, false);
-        }
-    }
-    if (current >= 1 && current <= m_model.ButtonCount) {
-        ShowProp(current);
-        m_design.RedrawButton(current, true, true, false);
-    } else {
-        m_design.hideMarks();
-    }
-}
-
 bool Editor::loadFile(const std::string& path) {
-    clearProject();
+    const int countBefore = clearProject();
     const bool loaded = showLoadResult(LoadProject(m_model, path, &m_ui), m_ui);
-    showLoadedProject();
+    showLoadedProject(countBefore);
     // A file read only in part has no name in the editor (saving it must not overwrite
     // the rest of it), so neither has the title.
     m_view.setCaption(loaded ? mainTitle() + " " + path : mainTitle());
@@ -544,34 +534,27 @@ bool Editor::loadFile(const std::string& path) {
     return loaded;
 }
 
-void Editor::clearProject() {
+int Editor::clearProject() {
+    const int countBefore = m_model.ButtonCount;
     m_model.ButtonCount = 0;
     m_model.CurrentButton = 0;
     m_model.ProjectFileName.clear();
     m_list.clear();
-    m_design.clearButtons();
-    m_design.hideMarks();
+    return countBefore;
 }
 
-void Editor::showLoadedProject() {
-    // The readers fill the model only; the list, the surface and the panel follow here,
-    // for a partly read file as well (the buttons read so far stay). The surface takes
-    // the applet's size, background and project folder before its buttons come.
-    m_design.appletChanged();
-    for (int i = 1; i <= m_model.ButtonCount; ++i) {
+void Editor::showLoadedProject(int countBefore) {
+    // The readers fill the model only; the views follow the notice, for a partly read
+    // file as well (the buttons read so far stay).
+    for (int i = 1; i <= m_model.ButtonCount; ++i)
         m_list.append();
-        m_design.LoadButton(i);
-    }
-    SetMainParams();
     if (m_model.ButtonCount > 0) {
         m_model.CurrentButton = 1;
         m_list.selectOnly(1);
     } else {
         m_model.CurrentButton = 0;
     }
-    m_view.showButtonList();
-    ShowProp(m_model.CurrentButton);
-    m_design.redrawAll();
+    announceReplaced(countBefore);
 }
 
 } // namespace orvelin

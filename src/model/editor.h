@@ -58,6 +58,9 @@ class Editor {
 public:
     Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
            DesignView& design, Shell& shell, EditorView& view);
+    ~Editor();
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
 
     /**
      * The main editor's loading and the command line: caption, recent menu, language,
@@ -125,18 +128,22 @@ public:
     void ShowProp(int index);
     /// Fills the applet controls with Updating set.
     void SetMainParams();
-    /// The document was put back as it stood at another moment (undo, redo): the
-    /// surface, the list, the applet controls and the panel show it again.
-    void showRestored(const DocumentChange& change);
+    /// The main window's part of a change notice: the button list, the applet controls
+    /// and the property panel show the document again where it changed.
+    void showChange(const DocumentChange& change);
 
     PropertyEditor& properties() { return m_properties; }
     RecentFiles& recent() { return m_recent; }
 
 private:
-    // Empties model, list and surface for a project about to be read.
-    void clearProject();
-    // After a reader ran: list entries, surface, applet controls, first button.
-    void showLoadedProject();
+    // Empties model and list for a project about to be read; the old button count.
+    int clearProject();
+    // After a reader ran: list entries, the first button, the notice of a new project.
+    void showLoadedProject(int countBefore);
+    void announceReplaced(int countBefore);
+    // Buttons were added or removed; those from `firstChanged` on have other records.
+    void announceCount(int countBefore, int firstChanged, std::string name = {});
+    void announceSelection();
     bool loadFile(const std::string& path);
     void applyKeepOnTop();
     // AddButton without the view refresh; Quit when the default string is damaged.
@@ -153,6 +160,7 @@ private:
     EditorView& m_view;
     RecentFiles m_recent;
     PropertyEditor m_properties;
+    int m_listening = 0;
 };
 
 /// The first line of buttons on the clipboard, "Orvelin Buttons 1.0  Beta 6".

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "buttonrecord.h"
+#include "documentchange.h"
 
 #include <array>
 #include <cstdint>
@@ -52,6 +53,8 @@ struct ProjectModel : AppletSettings {
     std::string LoadedFrom;
     bool Saved = true;
     bool Updating = false;
+    /// Who is told of each change of the document (a copy starts with nobody).
+    DocumentNotices notices;
 
     /// The file beside which relative image and sound paths are looked up: the project's
     /// file, else the one whose content is shown; "" for none.

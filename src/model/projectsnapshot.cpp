@@ -59,12 +59,22 @@ std::string fieldDisplayName(int pos) {
     return std::string(name);
 }
 
-std::string counted(const char* verb, std::size_t n) {
+// Every setting, button and free slot's position of `s` into the model.
+void restoreAll(const ProjectSnapshot& s, ProjectModel& model);
+
+} // namespace
+
+std::string countedButtons(const char* verb, std::size_t n) {
     return n == 1 ? std::string(verb) + " Button"
                   : std::string(verb) + " " + std::to_string(n) + " Buttons";
 }
 
-} // namespace
+bool sameBackground(const AppletSettings& a, const AppletSettings& b) {
+    return a.AppletWidth == b.AppletWidth && a.AppletHeight == b.AppletHeight &&
+           a.BackGround == b.BackGround && a.BackImg == b.BackImg &&
+           a.BackImgStyle == b.BackImgStyle && a.BgOffsetX == b.BgOffsetX &&
+           a.BgOffsetY == b.BgOffsetY;
+}
 
 ProjectSnapshot makeSnapshot(const ProjectModel& model, const ButtonList& list) {
     ProjectSnapshot s;
@@ -78,7 +88,30 @@ ProjectSnapshot makeSnapshot(const ProjectModel& model, const ButtonList& list) 
     return s;
 }
 
-void restoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& list) {
+void restoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& list,
+                     const DocumentChange* change) {
+    const int count = static_cast<int>(s.buttons.size());
+    if (change && !change->countChanged && model.ButtonCount == count) {
+        // Only what differs is written back: a group move puts back 101 positions.
+        if (change->applet)
+            static_cast<AppletSettings&>(model) = s.applet;
+        for (int i : change->buttons)
+            model.button(i) = s.buttons[static_cast<std::size_t>(i - 1)];
+    } else {
+        restoreAll(s, model);
+    }
+    model.CurrentButton = s.currentButton;
+    while (list.count() > count)
+        list.removeLast();
+    while (list.count() < count)
+        list.append();
+    for (int i = 1; i <= count; ++i)
+        list.setSelected(i, std::binary_search(s.selection.begin(), s.selection.end(), i));
+}
+
+namespace {
+
+void restoreAll(const ProjectSnapshot& s, ProjectModel& model) {
     static_cast<AppletSettings&>(model) = s.applet;
     const int count = static_cast<int>(s.buttons.size());
     for (int i = 0; i < kButtonSlots; ++i) {
@@ -91,14 +124,9 @@ void restoreSnapshot(const ProjectSnapshot& s, ProjectModel& model, ButtonList& 
         }
     }
     model.ButtonCount = static_cast<std::int16_t>(count);
-    model.CurrentButton = s.currentButton;
-    while (list.count() > count)
-        list.removeLast();
-    while (list.count() < count)
-        list.append();
-    for (int i = 1; i <= count; ++i)
-        list.setSelected(i, std::binary_search(s.selection.begin(), s.selection.end(), i));
 }
+
+} // namespace
 
 bool sameDocument(const ProjectSnapshot& s, const ProjectModel& model) {
     return model.ButtonCount == static_cast<int>(s.buttons.size()) &&
@@ -113,7 +141,9 @@ bool sameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b) {
 DocumentChange changeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after) {
     DocumentChange change;
     change.applet = before.applet != after.applet;
+    change.background = !sameBackground(before.applet, after.applet);
     change.countChanged = before.buttons.size() != after.buttons.size();
+    change.countBefore = static_cast<int>(before.buttons.size());
     change.selection =
         before.selection != after.selection || before.currentButton != after.currentButton;
     for (std::size_t i = 0; i < after.buttons.size(); ++i) {
@@ -136,7 +166,7 @@ std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot&
     const std::size_t is = after.buttons.size();
     if (is > was) {
         if (is - was > 1)
-            return counted("Add", is - was);
+            return countedButtons("Add", is - was);
         // A copy of a button, put elsewhere, is a duplicate.
         ButtonRecord added = after.buttons.back();
         for (const ButtonRecord& b : before.buttons) {
@@ -148,7 +178,7 @@ std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot&
         return "Add Button";
     }
     if (is < was)
-        return counted("Remove", was - is);
+        return countedButtons("Remove", was - is);
 
     const DocumentChange change = changeBetween(before, after);
     // The stacking commands move one button to either end of the table.
@@ -182,9 +212,9 @@ std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot&
         });
     };
     if (only({"Position"}))
-        return counted("Move", n);
+        return countedButtons("Move", n);
     if (only({"Position", "Size"}))
-        return counted("Resize", n);
+        return countedButtons("Resize", n);
     if (only({"Label Position", "Label Placement"}))
         return "Place Label";
     if (names.size() == 1)

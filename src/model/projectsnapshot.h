@@ -27,22 +27,26 @@ struct ProjectSnapshot {
 
 ProjectSnapshot makeSnapshot(const ProjectModel& model, const ButtonList& list);
 
-/// Puts the document of `snapshot` back into the model and the list's selection.
-void restoreSnapshot(const ProjectSnapshot& snapshot, ProjectModel& model, ButtonList& list);
+/**
+ * Puts the document of `snapshot` back into the model and the list's selection. Given
+ * `change`, the change from the model's document to the snapshot's, only what it names
+ * is written back.
+ */
+void restoreSnapshot(const ProjectSnapshot& snapshot, ProjectModel& model, ButtonList& list,
+                     const DocumentChange* change = nullptr);
 
 /// Whether the model's document (applet settings and buttons) is the snapshot's.
 bool sameDocument(const ProjectSnapshot& snapshot, const ProjectModel& model);
 bool sameDocument(const ProjectSnapshot& a, const ProjectSnapshot& b);
 
-/// What changed from `before` to `after`, for the views that show the document.
-struct DocumentChange {
-    bool applet = false;       ///< an applet setting
-    bool countChanged = false; ///< buttons were added or removed
-    std::vector<int> buttons;  ///< buttons (1-based, in `after`) whose record differs
-    std::vector<int> moved;    ///< those of them that differ only in x and y
-    bool selection = false;    ///< the selection or the current button
-};
+/// Whether the settings that lie under the buttons (size and background) are the same.
+bool sameBackground(const AppletSettings& a, const AppletSettings& b);
+
+/// What changed from `before` to `after`, as the notice that announces it.
 DocumentChange changeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after);
+
+/// "Add Button" for one button, "Add 3 Buttons" for three.
+std::string countedButtons(const char* verb, std::size_t n);
 
 /**
  * The name of the edit that led from `before` to `after`, as an undo step shows it:

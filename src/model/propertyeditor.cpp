@@ -42,25 +42,25 @@ std::optional<std::int16_t> autoBackImgStyle(bool autoTile, const std::optional<
 }
 
 PropertyEditor::PropertyEditor(ProjectModel& model, ButtonList& list, UserInterface& ui,
-                               Settings& settings, DesignView& design, EditorView& view)
-    : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_design(design), m_view(view) {
-}
+                               Settings& settings, EditorView& view)
+    : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_view(view) {}
 
 void PropertyEditor::forSelected(const std::function<void(ButtonRecord&, ButtonState)>& change) {
     if (m_model.Updating)
         return;
     const ButtonState state = m_model.CurrentState;
-    bool changed = false;
+    DocumentChange notice;
+    notice.fromPanel = true;
     for (int i = 1; i <= m_model.ButtonCount; ++i) {
         if (!m_list.isSelected(i))
             continue;
         change(m_model.button(i), state);
-        const bool current = i == m_model.CurrentButton;
-        m_design.RedrawButton(i, current, current, false);
-        changed = true;
+        notice.button(i);
     }
-    if (changed)
-        m_model.Saved = false;
+    if (notice.buttons.empty())
+        return;
+    m_model.Saved = false;
+    m_model.notices.announce(notice);
 }
 
 void PropertyEditor::setX(const std::string& text) {
@@ -183,15 +183,14 @@ void PropertyEditor::browseSound() {
     }
 }
 
-void PropertyEditor::appletEdited() {
+void PropertyEditor::appletEdited(bool background, bool fromPanel) {
     m_model.Saved = false;
-}
-
-void PropertyEditor::backgroundEdited() {
-    m_model.Saved = false;
-    m_design.appletChanged();
-    // Transparent buttons show the background under them, which has just changed.
-    m_design.UpdateTransparentBtns();
+    DocumentChange notice;
+    notice.applet = true;
+    // Transparent buttons show the background under them.
+    notice.background = background;
+    notice.fromPanel = fromPanel;
+    m_model.notices.announce(notice);
 }
 
 bool PropertyEditor::setAppletWidth(const std::string& text) {
@@ -210,15 +209,9 @@ bool PropertyEditor::setAppletSize(std::int16_t& field, const std::string& text)
         return false;
     if (size != field) {
         field = size;
-        appletEdited();
-        commitAppletSize();
+        appletEdited(true);
     }
     return true;
-}
-
-void PropertyEditor::commitAppletSize() {
-    m_design.appletChanged();
-    m_design.UpdateTransparentBtns();
 }
 
 void PropertyEditor::setBehaviour(int behaviour) {
@@ -239,21 +232,21 @@ void PropertyEditor::setBackGround(std::int32_t colour) {
     if (m_model.Updating)
         return;
     m_model.BackGround = colour;
-    backgroundEdited();
+    appletEdited(true);
 }
 
 void PropertyEditor::setBackImg(const std::string& path) {
     if (m_model.Updating)
         return;
     m_model.BackImg = path;
-    backgroundEdited();
+    appletEdited(true);
 }
 
 void PropertyEditor::setBackImgStyle(int style) {
     if (m_model.Updating)
         return;
     m_model.BackImgStyle = static_cast<std::int16_t>(style);
-    backgroundEdited();
+    appletEdited(true);
 }
 
 void PropertyEditor::setChosenBackImg(const std::string& path,
@@ -265,8 +258,8 @@ void PropertyEditor::setChosenBackImg(const std::string& path,
             autoBackImgStyle(m_settings.flag(SettingKey::AutoTile), image, m_model.AppletWidth,
                              m_model.AppletHeight))
         m_model.BackImgStyle = *style;
-    backgroundEdited();
-    SetMainParams();
+    // The placement may have changed: the applet controls show it.
+    appletEdited(true, false);
 }
 
 void PropertyEditor::browseBackImg() {

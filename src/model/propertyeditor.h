@@ -1,7 +1,6 @@
 #pragma once
 
 #include "buttonlist.h"
-#include "designview.h"
 #include "editorview.h"
 #include "projectmodel.h"
 #include "settings.h"
@@ -35,15 +34,15 @@ std::optional<std::int16_t> autoBackImgStyle(bool autoTile, const std::optional<
 
 /**
  * The property panel's controls as operations on the project. A button property is
- * written into every selected button (per-state ones into CurrentState), those buttons
- * are redrawn and Saved is cleared; applet properties write the model directly. Every
+ * written into every selected button (per-state ones into CurrentState), Saved is
+ * cleared and the model announces the change; applet properties write the model directly. Every
  * setter does nothing while the model's Updating flag is set, so that filling the
  * controls from the model is not taken as an edit.
  */
 class PropertyEditor {
 public:
     PropertyEditor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-                   DesignView& design, EditorView& view);
+                   EditorView& view);
 
     // Button geometry, from typed text (non-numbers give 0).
     void setX(const std::string& text);
@@ -89,8 +88,6 @@ public:
     /// (an empty box included) is refused: nothing is written and the result is false.
     bool setAppletWidth(const std::string& text);
     bool setAppletHeight(const std::string& text);
-    /// The design surface takes the applet's size.
-    void commitAppletSize();
     void setBehaviour(int behaviour); ///< 0 push buttons, 1 radio buttons
     void setDOWNBtn(bool on);
     void setBackGround(std::int32_t colour);
@@ -107,17 +104,16 @@ public:
     void SetMainParams();
 
 private:
-    // Applies `change` to every selected button, redraws them, clears Saved.
+    // Applies `change` to every selected button, clears Saved and announces it.
     void forSelected(const std::function<void(ButtonRecord&, ButtonState)>& change);
-    void appletEdited();
-    void backgroundEdited();
+    // Clears Saved and announces an applet setting's change.
+    void appletEdited(bool background = false, bool fromPanel = true);
     bool setAppletSize(std::int16_t& field, const std::string& text);
 
     ProjectModel& m_model;
     ButtonList& m_list;
     UserInterface& m_ui;
     Settings& m_settings;
-    DesignView& m_design;
     EditorView& m_view;
 };
 

@@ -267,20 +267,49 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     });
     p.find<QPushButton>("btnBgOffset")->click();
     p.idle();
-    const std::string end = projectText(p.model());
     EXPECT_EQ(p.undoText(), QStringLiteral("Undo Change Background Offset"));
-    EXPECT_EQ(p.main().history().stack().count(), 4);
+    SizerHandle* right = p.design().picSizer(1);
+    QTest::mousePress(right, Qt::LeftButton, {}, QPoint(2, 2));
+    QTest::mouseMove(right, QPoint(12, 2));
+    QTest::mouseRelease(right, Qt::LeftButton, {}, QPoint(12, 2));
+    p.idle();
+    p.main().editor().properties().setURL("x.htm");
+    p.idle();
+    p.main().editor().properties().setAppletWidth("400");
+    p.idle();
+    Editor& editor = p.main().editor();
+    editor.pasteButtons(editor.copyButtons());
+    p.idle();
+    EXPECT_EQ(p.undoText(), QStringLiteral("Undo Add Button"))
+        << "though it looks like a duplicate";
+    const std::string end = projectText(p.model());
+    EXPECT_EQ(p.main().history().stack().count(), 8);
 
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 8; ++i)
         p.main().history().undo();
     EXPECT_EQ(projectText(p.model()), start);
     // Nothing but the restored document told the surface what to show.
     EXPECT_EQ(p.design().pButtons(2)->x(), 200);
     EXPECT_EQ(p.design().pButtons(3), nullptr);
     EXPECT_EQ(p.find<QListWidget>("lstButtons")->count(), 2);
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 8; ++i)
         p.main().history().redo();
     EXPECT_EQ(projectText(p.model()), end);
+}
+
+TEST(Designer, AChangeTheDocumentAnnouncesReachesTheSurfaceAndThePanelWithoutARedrawCall) {
+    Program p;
+    p.main().editor().addButton();
+    p.main().editor().clickList(1);
+    const int paints = p.design().paintCount();
+    p.model().button(1).x = 77;
+    p.model().button(1).LabelUP = "Hello";
+    DocumentChange change;
+    p.model().notices.announce(change.button(1));
+    EXPECT_EQ(p.design().pButtons(1)->x(), 77);
+    EXPECT_EQ(p.design().paintCount(), paints + 1) << "button 2 did not change";
+    EXPECT_EQ(p.find<QLineEdit>("txtX")->text(), QStringLiteral("77"));
+    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), QStringLiteral("Hello"));
 }
 
 TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {

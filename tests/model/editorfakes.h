@@ -15,10 +15,19 @@
 
 namespace orvelin::testing {
 
-/// A design surface that writes down every call as text ("LoadButton 3").
+/// A design surface that follows the model's notices and writes down every call it
+/// makes of itself as text ("LoadButton 3").
 class RecordingDesignView : public DesignView {
 public:
+    explicit RecordingDesignView(ProjectModel& model)
+        : m_model(model), m_listening(model.notices.listen([this](const DocumentChange& c) {
+              notices.push_back(c);
+              showChange(c, m_model);
+          })) {}
+    ~RecordingDesignView() override { m_model.notices.stopListening(m_listening); }
+
     std::vector<std::string> calls;
+    std::vector<DocumentChange> notices;
     bool onTop = false;
 
     void LoadButton(int index) override { calls.push_back("LoadButton " + std::to_string(index)); }
@@ -34,6 +43,11 @@ public:
         redrawn.push_back(index);
     }
     void redrawAll() override { calls.push_back("RedrawAll"); }
+    void moveButton(int index, bool) override {
+        calls.push_back("MoveButton " + std::to_string(index));
+    }
+    void placeMarks(int index) override { calls.push_back("PlaceMarks " + std::to_string(index)); }
+    void selectionChanged() override { calls.push_back("SelectionChanged"); }
     void UpdateTransparentBtns() override { calls.push_back("UpdateTransparentBtns"); }
     void appletChanged() override { calls.push_back("AppletChanged"); }
     void hideMarks() override { calls.push_back("HideMarks"); }
@@ -48,8 +62,13 @@ public:
     }
     void clear() {
         calls.clear();
+        notices.clear();
         redrawn.clear();
     }
+
+private:
+    ProjectModel& m_model;
+    int m_listening;
 };
 
 /// A main window that records what it was told to show, and the model's Updating flag
@@ -66,12 +85,10 @@ public:
     };
     std::vector<Prop> props;
     std::vector<bool> mainParamsUpdating;
-    int listShows = 0;
     std::string caption;
     std::array<std::pair<std::string, bool>, 5> recent{}; ///< slots 1..4
     std::string actionTitle;
     ButtonState state = ButtonState::UP;
-    int stateShows = 0;
     bool onTopChecked = false;
     std::string language;
     bool autoTileChecked = false;
@@ -91,16 +108,13 @@ public:
         if (onFill)
             onFill();
     }
-    void showButtonList() override { ++listShows; }
+    void showButtonList() override {}
     void setCaption(const std::string& text) override { caption = text; }
     void setRecentEntry(int slot, const std::string& text, bool visible) override {
         recent.at(static_cast<std::size_t>(slot)) = {text, visible};
     }
     void setActionTitle(const std::string& title) override { actionTitle = title; }
-    void showState(ButtonState s) override {
-        state = s;
-        ++stateShows;
-    }
+    void showState(ButtonState s) override { state = s; }
     void setOnTopChecked(bool checked) override { onTopChecked = checked; }
     void setLanguageChecked(const std::string& lang) override { language = lang; }
     void setAutoTileChecked(bool checked) override { autoTileChecked = checked; }
