@@ -63,7 +63,7 @@ protected:
 
 private:
     QWidget* buildButtonColumn();
-    void openActionEditor(const QString& kind, const QString& title);
+    void openActionEditor(ProgramKind kind);
     void openLabelEditor();
     void openAdvanced();
     void openOffset();

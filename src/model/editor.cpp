@@ -34,18 +34,6 @@ std::string mainTitle() {
     return std::string(kProgramTitle) + " " + kVersionText;
 }
 
-std::string actionTitle(ButtonState state) {
-    switch (state) {
-    case ButtonState::OVER:
-        return "Set Action: On Entering Button...";
-    case ButtonState::DOWN:
-        return "Set Action: On Button Press...";
-    case ButtonState::UP:
-        break;
-    }
-    return "Set Action: On Leaving Button...";
-}
-
 std::string buttonsClipboardHeader() {
     return std::string(kProgramTitle) + " Buttons " + kVersionText;
 }
@@ -431,11 +419,11 @@ void Editor::switchState(std::string_view state) {
 void Editor::showCurrentState() {
     const ButtonState state = m_model.CurrentState;
     m_view.showState(state);
-    m_view.setActionTitle(actionTitle(state));
+    m_view.setActionTitle(std::string(programKindTitle(buttonProgramKind(state))));
 }
 
-std::string Editor::actionProgramKind() const {
-    return std::string("Program") + stateName(m_model.CurrentState);
+ProgramKind Editor::actionProgramKind() const {
+    return buttonProgramKind(m_model.CurrentState);
 }
 
 void Editor::makeDefault() {

@@ -107,9 +107,8 @@ public:
     void setListSelection(const std::vector<int>& selected);
     /// "UP", "OVER" or "DOWN"; anything else is ignored.
     void switchState(std::string_view state);
-    /// "ProgramUP", "ProgramOVER" or "ProgramDOWN" for CurrentState: what the action
-    /// command edits.
-    std::string actionProgramKind() const;
+    /// The button kind of CurrentState: what the action command edits.
+    ProgramKind actionProgramKind() const;
 
     // Options and tools.
     void makeDefault();
@@ -164,8 +163,6 @@ std::optional<std::vector<ButtonRecord>> buttonsFromClipboardText(std::string_vi
 
 /// The main window's title, "Orvelin 1.0  Beta 6".
 std::string mainTitle();
-/// The action command's title for `state`.
-std::string actionTitle(ButtonState state);
 /// The command line's project path: trimmed, a leading quote drops the first and last
 /// character.
 std::string projectPathFromCommandLine(std::string_view commandLine);

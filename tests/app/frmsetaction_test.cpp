@@ -27,7 +27,7 @@ protected:
         model.button(2).ProgramDOWN = "2 1;6 500;";
         dialog =
             std::make_unique<FrmSetAction>(model, ui, buffer, std::vector<bool>{false, true, true});
-        dialog->load("ProgramDOWN", "Set Action: On Button Press...");
+        dialog->load(ProgramKind::ProgramDOWN);
     }
 
     template <typename T = QWidget> T* child(const char* name) {
@@ -122,7 +122,7 @@ TEST_F(FrmSetActionTest, OkWritesEverySelectedButtonAndCancelNothing) {
     EXPECT_EQ(model.button(2).ProgramDOWN, "2 1;6 500;");
     EXPECT_TRUE(model.Saved);
 
-    dialog->load("ProgramDOWN", "again");
+    dialog->load(ProgramKind::ProgramDOWN);
     click("btnAdd");
     click("btnOk");
     EXPECT_EQ(dialog->result(), QDialog::Accepted);

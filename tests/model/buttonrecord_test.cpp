@@ -203,13 +203,10 @@ TEST(ProjectModel, CorruptDefaultLeavesTheModelUnchanged) {
 
 TEST(ProjectModel, ProgramSlotsNameTheSevenPrograms) {
     ProjectModel model;
-    EXPECT_EQ(model.programSlot("ProgramOVER", 3), &model.button(3).ProgramOVER);
-    EXPECT_EQ(model.programSlot("ProgramDOWN", 1), &model.button(1).ProgramDOWN);
-    EXPECT_EQ(model.programSlot("AppletProgramStart", 0), &model.AppletProgramStart);
-    EXPECT_EQ(model.programSlot("AppletProgramOUT", 0), &model.AppletProgramOUT);
-    EXPECT_EQ(model.programSlot("ProgramUP", 0), nullptr);
-    EXPECT_EQ(model.programSlot("ProgramUP", 103), nullptr);
-    EXPECT_EQ(model.programSlot("Program", 1), nullptr);
-    EXPECT_TRUE(isButtonProgramKind("ProgramUP") && isAppletProgramKind("AppletProgramDOWN"));
-    EXPECT_FALSE(isButtonProgramKind("AppletProgramOVER"));
+    EXPECT_EQ(model.programSlot(ProgramKind::ProgramOVER, 3), &model.button(3).ProgramOVER);
+    EXPECT_EQ(model.programSlot(ProgramKind::AppletProgramOUT, 0), &model.AppletProgramOUT);
+    EXPECT_EQ(model.programSlot(ProgramKind::ProgramUP, 0), nullptr);
+    EXPECT_EQ(model.programSlot(ProgramKind::ProgramUP, 103), nullptr);
+    EXPECT_EQ(programKindFromName("AppletProgramDOWN"), ProgramKind::AppletProgramDOWN);
+    EXPECT_EQ(programKindFromName("Program"), std::nullopt);
 }
