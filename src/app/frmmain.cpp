@@ -43,9 +43,10 @@ QToolButton* listCommand(const QString& name, const QString& text, const QString
 } // namespace
 
 FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-                 DesignView& design, Shell& shell, QWidget* parent)
+                 DesignView& design, Shell& shell, std::string programFolder, QWidget* parent)
     : QMainWindow(parent), m_model(model), m_list(list), m_ui(ui), m_settings(settings),
-      m_design(design), m_editor(model, list, ui, settings, design, shell, *this) {
+      m_design(design),
+      m_editor(model, list, ui, settings, design, shell, *this, std::move(programFolder)) {
     setObjectName(kFormName);
     m_menus = new MainMenus(*this, m_editor);
     m_history = new UndoHistory(m_model, m_list, this);

@@ -99,10 +99,10 @@ std::string projectPathFromCommandLine(std::string_view commandLine) {
 }
 
 Editor::Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-               DesignView& design, Shell& shell, EditorView& view)
+               DesignView& design, Shell& shell, EditorView& view, std::string programFolder)
     : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_design(design),
-      m_shell(shell), m_view(view), m_recent(settings, view),
-      m_properties(model, list, ui, settings, design, view) {}
+      m_shell(shell), m_view(view), m_programFolder(std::move(programFolder)),
+      m_recent(settings, view), m_properties(model, list, ui, settings, design, view) {}
 
 StartupResult Editor::startup(std::string_view commandLine) {
     m_model.Saved = true;
@@ -434,6 +434,10 @@ void Editor::makeDefault() {
     }
     m_settings.setDefaultButton(serializeButton(m_model.button(current)));
     m_ui.showMessage(messages()[Msg::DefaultButtonStored]);
+}
+
+std::string Editor::programFolder() const {
+    return m_programFolder.empty() ? findProgramFolder() : m_programFolder;
 }
 
 void Editor::soundConverter() {

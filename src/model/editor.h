@@ -56,8 +56,10 @@ bool showLoadResult(const LoadResult& result, UserInterface& ui);
  */
 class Editor {
 public:
+    /// Help and the sound converter come from `programFolder`; without one the editor
+    /// finds it (findProgramFolder) when they are asked for.
     Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-           DesignView& design, Shell& shell, EditorView& view);
+           DesignView& design, Shell& shell, EditorView& view, std::string programFolder = {});
 
     /**
      * The main editor's loading and the command line: caption, recent menu, language,
@@ -142,6 +144,7 @@ private:
     StartupResult appendDefaultButton();
     void repairDefaultButton();
     void showCurrentState();
+    std::string programFolder() const;
 
     ProjectModel& m_model;
     ButtonList& m_list;
@@ -150,6 +153,7 @@ private:
     DesignView& m_design;
     Shell& m_shell;
     EditorView& m_view;
+    std::string m_programFolder;
     RecentFiles m_recent;
     PropertyEditor m_properties;
 };

@@ -60,9 +60,6 @@ const std::string kBin = ORVELIN_BIN_DIR;
 
 class OrvelinCli : public ::testing::Test {
 protected:
-    void SetUp() override { setProgramFolderOverride(kBin); }
-    void TearDown() override { setProgramFolderOverride(""); }
-
     /// The applet code the generator makes for `project`, in this process.
     static std::string Generated(const std::string& project, const std::string& typedName = {}) {
         SilentUserInterface ui;
@@ -72,7 +69,7 @@ protected:
         if (!typedName.empty())
             setAppletNameFromBox(model, typedName);
         const std::string& name = nameTheApplet(model);
-        return MakeHTML(model, name, GetJSCaller(name)).text;
+        return MakeHTML(model, name, GetJSCaller(name, kBin)).text;
     }
     std::string path(const std::string& name) const { return dir.path(name); }
 
