@@ -89,15 +89,6 @@ TEST_F(FrmSetActionTest, AddTakesTheTypedInputsAndShowsWhatTheEditorChanged) {
                                      "Set Label Button 3 Up State  ->   "}));
     EXPECT_EQ(list()->currentRow(), 3);
     EXPECT_EQ(list()->toolTip(), "Set Label Button 3 Up State  ->   ");
-
-    choose(2);
-    child<QLineEdit>("txtX")->setText("10");
-    child<QLineEdit>("txtWidth")->setText("abc");
-    click("btnAdd");
-    ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.shown[0].text, "Type mismatch\r\nThe value to correct is in the box width");
-    EXPECT_EQ(ui.shown[0].title, "Wrong Parameters");
-    EXPECT_EQ(listed().size(), 4);
 }
 
 TEST_F(FrmSetActionTest, ListButtonsDragAndDoubleClickActOnTheSelectedLine) {

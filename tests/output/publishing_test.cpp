@@ -125,8 +125,6 @@ TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoe
     EXPECT_EQ(ui.shown[0].kind, "okcancel");
     EXPECT_EQ(ui.shown[1].text, kCantCopyButton2);
     EXPECT_EQ(temp.read("site/click.au"), "au");
-    EXPECT_EQ(temp.read("site/click.au.js"),
-              "(window.OrvelinSounds = window.OrvelinSounds || {})[\"click.au\"] =\n\"YXU=\";\n");
 }
 
 TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
