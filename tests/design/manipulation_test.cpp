@@ -97,12 +97,6 @@ TEST(PressOnButton, CtrlClickAddsRemovesAndMarksThePreviouslyCurrentButton) {
     EXPECT_EQ(remove.markPressed + remove.markPrevious, 0);
     EXPECT_EQ(s.model.CurrentButton, 3);
     EXPECT_TRUE(remove.showProp);
-
-    // A previously current button that is not selected is not marked.
-    Surface t(3);
-    t.list.selectOnly(2);
-    EXPECT_EQ(t.press(3, MouseButton::Left, true).markPrevious, 0);
-    EXPECT_EQ(t.list.selectedButtons(), Ints({2, 3}));
 }
 
 TEST(PressOnButton, RightClickSelectsAloneAndEnablesTheStackingCommandsThatApply) {
@@ -123,10 +117,6 @@ TEST(PressOnButton, RightClickSelectsAloneAndEnablesTheStackingCommandsThatApply
 
     const PressOutcome middle = s.press(2, MouseButton::Middle);
     EXPECT_TRUE(middle.openMoveMenu && middle.enableBringToFront && middle.enableSendBack);
-
-    Surface only(1);
-    const PressOutcome alone = only.press(1, MouseButton::Right);
-    EXPECT_FALSE(alone.enableBringToFront || alone.enableSendBack);
 }
 
 TEST(DragOnButton, AGroupDragKeepsRelativePositionsAndLeavesOthersAlone) {
