@@ -218,12 +218,6 @@ TEST_F(ActionEditorTest, MovingSwapsWithTheNeighbourFollowsTheLineAndStopsAtTheE
         EXPECT_EQ(editor.storeProgram(), s.program) << s.select << s.up;
         EXPECT_EQ(editor.selection(), s.selection) << s.select << s.up;
     }
-    // It acts on the command line at the readable index.
-    open(";1 1;1 2;");
-    editor.select(1);
-    editor.moveUp();
-    EXPECT_EQ(editor.storeProgram(), "1 1;;1 2;");
-    EXPECT_EQ(editor.selection(), 0);
 }
 
 TEST_F(ActionEditorTest, DraggingMovesALineToItsNewPlace) {
@@ -255,12 +249,6 @@ TEST_F(ActionEditorTest, DoubleClickLoadsALineBackIntoTheInputs) {
     EXPECT_EQ(editor.command(), CallJavaScript);
     EXPECT_EQ(in.javaScript, "f(1); g()");
     EXPECT_FALSE(editor.loadLine(5));
-
-    // A line follows the command line it was built from, also out of step.
-    open("4 1 1 a;b;6 300;");
-    ASSERT_TRUE(editor.loadLine(1));
-    EXPECT_EQ(editor.command(), Wait);
-    EXPECT_EQ(in.milliseconds, "300");
 }
 
 TEST_F(ActionEditorTest, ReplacedTextsShowInTheLists) {

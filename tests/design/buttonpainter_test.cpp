@@ -36,18 +36,6 @@ ProjectModel WithImage(const std::string& path, int style, int width = 100, int 
 
 } // namespace
 
-TEST(DrawLabel, CentredLabelInkIsCentredWhateverItsLength) {
-    for (const char* label : {"H", "HHH", "HIHIHIHIHIH"})
-        for (QSize size : {QSize(107, 40), QSize(200, 61)}) {
-            SCOPED_TRACE(std::string(label) + " in " + std::to_string(size.width()));
-            const QRect ink =
-                InkBox(Paint(OneButton(PlainButton(size.width(), size.height(), label))), kWhite);
-            ASSERT_FALSE(ink.isEmpty());
-            EXPECT_NEAR(CentreX(ink), size.width() / 2.0, 1.0);
-            EXPECT_NEAR(ink.top() + ink.height() / 2.0, size.height() / 2.0, 2.0);
-        }
-}
-
 TEST(DrawLabel, StyleCodesSelectBoldAndItalic) {
     auto paint = [](const std::string& style) {
         ButtonRecord b = PlainButton(200, 40, "IIIIIIII");
