@@ -45,19 +45,19 @@ ProjectModel fullProject() {
 }
 
 /// Uses the build's program folder (bin/ beside bench/) so the JSCaller block is read.
-void useBuildProgramFolder() {
+// The build's program folder, bin/ beside the benchmarks' own folder.
+std::string buildProgramFolder() {
     std::error_code ec;
     const std::filesystem::path exe = std::filesystem::read_symlink("/proc/self/exe", ec);
     const std::filesystem::path bin = exe.parent_path().parent_path() / "bin";
-    if (!ec && std::filesystem::exists(bin / "Orvel.ini", ec))
-        setProgramFolderOverride(bin.string());
+    return !ec && std::filesystem::exists(bin / "Orvel.ini", ec) ? bin.string()
+                                                                 : findProgramFolder();
 }
 
 void BM_MakeHtml(benchmark::State& state) {
-    useBuildProgramFolder();
     ProjectModel model = fullProject();
     const std::string& name = nameTheApplet(model);
-    const std::string jsCaller = GetJSCaller(name);
+    const std::string jsCaller = GetJSCaller(name, buildProgramFolder());
     std::size_t bytes = 0;
     for (auto _ : state) {
         GeneratedHtml html = MakeHTML(model, name, jsCaller);
@@ -70,10 +70,9 @@ void BM_MakeHtml(benchmark::State& state) {
 BENCHMARK(BM_MakeHtml);
 
 void BM_PlainStreamOfTheSameBytes(benchmark::State& state) {
-    useBuildProgramFolder();
     ProjectModel model = fullProject();
     const std::string& name = nameTheApplet(model);
-    const std::string text = MakeHTML(model, name, GetJSCaller(name)).text;
+    const std::string text = MakeHTML(model, name, GetJSCaller(name, buildProgramFolder())).text;
     std::vector<std::string> lines;
     for (std::size_t start = 0, end; start < text.size(); start = end + 2) {
         end = text.find("\r\n", start);

@@ -35,8 +35,8 @@ ActionEditor::ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer
       m_stateTexts(std::make_move_iterator(stateCaptions.begin()),
                    std::make_move_iterator(stateCaptions.end())) {}
 
-void ActionEditor::open(std::string_view kind) {
-    m_kind = std::string(kind);
+void ActionEditor::open(ProgramKind kind) {
+    m_kind = kind;
     m_code.clear();
     m_readable.clear();
     m_source.clear();
@@ -50,18 +50,9 @@ void ActionEditor::open(std::string_view kind) {
     setCommand(0);
     m_state = 0;
 
-    std::string program;
-    if (isButtonProgramKind(kind)) {
-        // With no current button there is no program to show, and nothing is wrong.
-        if (const std::string* slot = m_model.programSlot(kind, m_model.CurrentButton))
-            program = *slot;
-    } else if (isAppletProgramKind(kind)) {
-        program = *m_model.programSlot(kind, 0);
-    } else {
-        m_ui.showWarning(messages()[Msg::WrongReturnParameters]);
-        return;
-    }
-    appendProgram(program);
+    // With no current button there is no program to show, and nothing is wrong.
+    if (const std::string* slot = m_model.programSlot(kind, m_model.CurrentButton))
+        appendProgram(*slot);
 }
 
 void ActionEditor::select(int index) {
@@ -282,7 +273,7 @@ void ActionEditor::ok(const std::vector<bool>& selected) {
             *m_model.programSlot(m_kind, i) = program;
             change.button(i);
         }
-    } else if (isAppletProgramKind(m_kind)) {
+    } else {
         *m_model.programSlot(m_kind, 0) = program;
         // The applet frame shows which programs are attached.
         change.applet = true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "actioneditortexts.h"
+#include "programkind.h"
 
 #include <array>
 #include <cstdint>
@@ -51,11 +52,10 @@ public:
 
     /**
      * Fills the lists for `kind` and loads its program: a button kind from the
-     * current button's slot, an applet kind from the project's. An unknown kind
-     * shows "Wrong Return Parameters" and leaves the lists empty.
+     * current button's slot, an applet kind from the project's.
      */
-    void open(std::string_view kind);
-    const std::string& kind() const { return m_kind; }
+    void open(ProgramKind kind);
+    ProgramKind kind() const { return m_kind; }
     const ActionEditorTexts& texts() const { return m_texts; }
 
     const std::vector<std::string>& commandLines() const { return m_code; }
@@ -129,7 +129,7 @@ private:
     UserInterface& m_ui;
     ProgramBuffer& m_buffer;
     ActionEditorTexts m_texts;
-    std::string m_kind;
+    ProgramKind m_kind = ProgramKind::ProgramUP;
 
     std::vector<std::string> m_code;     // lstActionsCode
     std::vector<std::string> m_readable; // lstActions

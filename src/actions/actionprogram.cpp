@@ -23,24 +23,6 @@ std::string moveField(std::string_view word) {
 
 } // namespace
 
-std::string programKindTitle(std::string_view kind) {
-    if (kind == "ProgramUP")
-        return "Set Action: On Leaving Button...";
-    if (kind == "ProgramOVER")
-        return "Set Action: On Entering Button...";
-    if (kind == "ProgramDOWN")
-        return "Set Action: On Button Press...";
-    if (kind == "AppletProgramStart")
-        return "On Applet Start";
-    if (kind == "AppletProgramOVER")
-        return "On Mouse Moving above the Applet";
-    if (kind == "AppletProgramDOWN")
-        return "On Mouse Clicking the Applet";
-    if (kind == "AppletProgramOUT")
-        return "On Mouse Exiting the Applet";
-    return {};
-}
-
 std::vector<std::string> splitProgram(std::string_view text) {
     std::vector<std::string> lines;
     std::string line;

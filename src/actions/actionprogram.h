@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,15 +11,6 @@
  * the applet code both rely on these rules.
  */
 namespace orvelin {
-
-/// The seven program slots, buttons first, in the order the designer offers them.
-inline constexpr std::array<std::string_view, 7> kProgramKinds = {
-    "ProgramUP",         "ProgramOVER",       "ProgramDOWN",      "AppletProgramStart",
-    "AppletProgramOVER", "AppletProgramDOWN", "AppletProgramOUT",
-};
-
-/// How the designer titles the editor for `kind`; empty for an unknown kind.
-std::string programKindTitle(std::string_view kind);
 
 /**
  * Splits program text into its command lines. Every ";" closes a line, empty

@@ -63,19 +63,19 @@ void drawOut(QPainter& p) {
     p.drawLine(QPointF(21, 18), QPointF(16, 18.5));
 }
 
-void draw(QPainter& p, AppletMoment moment, bool hasProgram, bool disabled) {
+void draw(QPainter& p, ProgramKind moment, bool hasProgram, bool disabled) {
     switch (moment) {
-    case AppletMoment::Start:
-        drawStart(p);
-        break;
-    case AppletMoment::Over:
+    case ProgramKind::AppletProgramOVER:
         drawOver(p);
         break;
-    case AppletMoment::Down:
+    case ProgramKind::AppletProgramDOWN:
         drawDown(p);
         break;
-    case AppletMoment::Out:
+    case ProgramKind::AppletProgramOUT:
         drawOut(p);
+        break;
+    default:
+        drawStart(p);
         break;
     }
     if (hasProgram) {
@@ -91,7 +91,7 @@ void draw(QPainter& p, AppletMoment moment, bool hasProgram, bool disabled) {
 
 } // namespace
 
-QIcon appletMomentIcon(AppletMoment moment, bool hasProgram) {
+QIcon appletMomentIcon(ProgramKind moment, bool hasProgram) {
     QIcon icon;
     for (bool disabled : {false, true})
         addPaintedPixmaps(

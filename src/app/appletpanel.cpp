@@ -23,66 +23,12 @@ namespace orvelin {
 
 namespace {
 
-constexpr std::array<AppletMoment, 4> kMoments = {AppletMoment::Start, AppletMoment::Over,
-                                                  AppletMoment::Down, AppletMoment::Out};
-
-const char* momentName(AppletMoment moment) {
-    switch (moment) {
-    case AppletMoment::Start:
-        return "picAppletProgramStart";
-    case AppletMoment::Over:
-        return "picAppletProgramOVER";
-    case AppletMoment::Down:
-        return "picAppletProgramDOWN";
-    case AppletMoment::Out:
-        return "picAppletProgramOUT";
-    }
-    return "";
-}
-
-const std::string& momentProgram(const ProjectModel& model, AppletMoment moment) {
-    switch (moment) {
-    case AppletMoment::Over:
-        return model.AppletProgramOVER;
-    case AppletMoment::Down:
-        return model.AppletProgramDOWN;
-    case AppletMoment::Out:
-        return model.AppletProgramOUT;
-    case AppletMoment::Start:
-        break;
-    }
-    return model.AppletProgramStart;
+// The moment buttons are named after their kind: "picAppletProgramDOWN".
+QString momentName(ProgramKind kind) {
+    return QStringLiteral("pic") + QString::fromLatin1(programKindName(kind));
 }
 
 } // namespace
-
-const char* AppletPanel::ProgramKind(AppletMoment moment) {
-    switch (moment) {
-    case AppletMoment::Start:
-        return "AppletProgramStart";
-    case AppletMoment::Over:
-        return "AppletProgramOVER";
-    case AppletMoment::Down:
-        return "AppletProgramDOWN";
-    case AppletMoment::Out:
-        return "AppletProgramOUT";
-    }
-    return "";
-}
-
-QString AppletPanel::momentTitle(AppletMoment moment) {
-    switch (moment) {
-    case AppletMoment::Start:
-        return QStringLiteral("On Applet Start");
-    case AppletMoment::Over:
-        return QStringLiteral("On Mouse Moving above the Applet");
-    case AppletMoment::Down:
-        return QStringLiteral("On Mouse Clicking the Applet");
-    case AppletMoment::Out:
-        return QStringLiteral("On Mouse Exiting the Applet");
-    }
-    return {};
-}
 
 AppletPanel::AppletPanel(PropertyEditor& properties, QWidget* parent)
     : QWidget(parent), m_properties(properties) {
@@ -200,11 +146,11 @@ QWidget* AppletPanel::buildActions() {
     group->setObjectName(QStringLiteral("fraAppletActions"));
     auto* row = new QHBoxLayout(group);
     row->setSpacing(2);
-    for (std::size_t i = 0; i < kMoments.size(); ++i) {
-        const AppletMoment moment = kMoments[i];
+    for (std::size_t i = 0; i < kAppletProgramKinds.size(); ++i) {
+        const ProgramKind moment = kAppletProgramKinds[i];
         auto* button = new QToolButton(group);
-        button->setObjectName(QString::fromLatin1(momentName(moment)));
-        button->setToolTip(momentTitle(moment));
+        button->setObjectName(momentName(moment));
+        button->setToolTip(QString::fromLatin1(programKindTitle(moment)));
         button->setAutoRaise(true); // the hover highlight under the pointer
         button->setIconSize(QSize(24, 24));
         button->setIcon(appletMomentIcon(moment, false));
@@ -212,7 +158,7 @@ QWidget* AppletPanel::buildActions() {
             // The dialog is modal: drop the hover look before it takes the pointer.
             button->setAttribute(Qt::WA_UnderMouse, false);
             button->update();
-            emit actionRequested(QString::fromLatin1(ProgramKind(moment)), momentTitle(moment));
+            emit actionRequested(QString::fromLatin1(programKindName(moment)));
         });
         row->addWidget(button);
         m_moments[i] = button;
@@ -233,11 +179,11 @@ void AppletPanel::showApplet(const ProjectModel& model) {
     panel::setText(m_backImg, QString::fromStdString(model.BackImg));
     const int style = model.BackImgStyle;
     m_backImgStyle->setCurrentIndex(style >= 0 && style <= 2 ? style : 0);
-    for (std::size_t i = 0; i < kMoments.size(); ++i) {
-        const bool has = !momentProgram(model, kMoments[i]).empty();
+    for (std::size_t i = 0; i < kAppletProgramKinds.size(); ++i) {
+        const bool has = !model.programSlot(kAppletProgramKinds[i], 0)->empty();
         if (has != m_hasProgram[i]) {
             m_hasProgram[i] = has;
-            m_moments[i]->setIcon(appletMomentIcon(kMoments[i], has));
+            m_moments[i]->setIcon(appletMomentIcon(kAppletProgramKinds[i], has));
         }
     }
 }

@@ -34,13 +34,9 @@ public:
     /// Updating.
     void showApplet(const ProjectModel& model);
 
-    /// The program kind ("AppletProgramStart", ...) and title of a moment.
-    static const char* ProgramKind(AppletMoment moment);
-    static QString momentTitle(AppletMoment moment);
-
 signals:
-    /// A moment's icon was clicked: edit its program.
-    void actionRequested(const QString& kind, const QString& title);
+    /// A moment's icon was clicked: edit the program of the kind named `kind`.
+    void actionRequested(const QString& kind);
     /// The offset command.
     void offsetRequested();
 

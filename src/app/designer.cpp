@@ -9,6 +9,7 @@
 #include "globalini.h"
 #include "mainmenus.h"
 #include "messages.h"
+#include "programfolder.h"
 #include "snapguides.h"
 #include "undohistory.h"
 #include "windowgeometry.h"
@@ -35,16 +36,17 @@ constexpr std::chrono::milliseconds kProgressDelay{300};
 } // namespace
 
 Designer::Designer(UserInterface* ui)
-    : m_ui(ui != nullptr ? *ui : m_qtUi),
+    : m_programFolder(findProgramFolder()), m_ui(ui != nullptr ? *ui : m_qtUi),
       m_design(std::make_unique<FrmDesign>(m_model, m_list, &m_ui)),
-      m_main(std::make_unique<FrmMain>(m_model, m_list, m_ui, m_settings, *m_design, m_shell)) {
+      m_main(std::make_unique<FrmMain>(m_model, m_list, m_ui, m_settings, *m_design, m_shell,
+                                       m_programFolder)) {
     m_qtUi.setOwner(m_main.get());
     m_qtUi.setProgressDelay(kProgressDelay);
     m_qtUi.setFolderHint([this] {
         const QString project = QString::fromStdString(m_model.ProjectFileName);
         return project.isEmpty() ? std::string() : QFileInfo(project).absolutePath().toStdString();
     });
-    m_design->setNoBackGround(GlobalIni::forProgram().noBackGround());
+    m_design->setNoBackGround(GlobalIni::forProgram(m_programFolder).noBackGround());
     connectWindows();
 }
 
@@ -82,7 +84,7 @@ void Designer::connectWindows() {
     });
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         TextFileError error;
-        if (!GlobalIni::forProgram().setNoBackGround(on, &error))
+        if (!GlobalIni::forProgram(m_programFolder).setNoBackGround(on, &error))
             m_ui.showWarning(withSystemCause(messages()[Msg::IniWriteFailed], error));
     });
     connect(m_design.get(), &FrmDesign::unloading, this,
@@ -107,7 +109,7 @@ void Designer::connectWindows() {
 void Designer::showHtml() {
     // Made on first use: most sessions never look at the code.
     if (!m_html)
-        m_html = std::make_unique<FrmHTML>(m_model, m_ui, m_settings, m_shell);
+        m_html = std::make_unique<FrmHTML>(m_model, m_ui, m_settings, m_shell, m_programFolder);
     m_html->showAndGenerate();
 }
 

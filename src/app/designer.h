@@ -46,6 +46,8 @@ public:
     FrmDesign& designWindow() { return *m_design; }
     ProjectModel& model() { return m_model; }
     ButtonList& selection() { return m_list; }
+    /// The program's own folder, found once at start.
+    const std::string& programFolder() const { return m_programFolder; }
 
 private:
     void connectWindows();
@@ -57,6 +59,7 @@ private:
     /// Sizes the design window to show the whole applet, within the screen.
     void fitDesignWindow();
 
+    std::string m_programFolder;
     ProjectModel m_model;
     ButtonList m_list;
     QSettingsBackend m_backend;

@@ -9,8 +9,9 @@
 namespace orvelin {
 
 DesktopSetup::DesktopSetup(Settings& settings, UserInterface& ui, DesktopTools& tools,
-                           QWidget* owner)
-    : m_settings(settings), m_ui(ui), m_tools(tools), m_owner(owner) {}
+                           std::string programFolder, QWidget* owner)
+    : m_settings(settings), m_ui(ui), m_tools(tools), m_programFolder(std::move(programFolder)),
+      m_owner(owner) {}
 
 void DesktopSetup::offerAtStartup() {
     const StartupOffers offers =
@@ -25,7 +26,8 @@ void DesktopSetup::offerAtStartup() {
     connect(dialog, &QDialog::finished, this, [this, offers](int result) {
         if (result != QDialog::Accepted) {
             m_settings.setValue(SettingKey::ShortCut, "Canceled");
-        } else if (const std::string error = addToApplicationsMenu(m_tools, currentDesktopPlaces());
+        } else if (const std::string error =
+                       addToApplicationsMenu(m_tools, currentDesktopPlaces(m_programFolder));
                    error.empty()) {
             m_settings.setValue(SettingKey::ShortCut, "Created");
         } else {
@@ -55,7 +57,7 @@ void DesktopSetup::associateNow() {
 }
 
 bool DesktopSetup::associate() {
-    const std::string error = registerFileType(m_tools, currentDesktopPlaces());
+    const std::string error = registerFileType(m_tools, currentDesktopPlaces(m_programFolder));
     if (!error.empty())
         m_ui.showMessage(messages()[Msg::AssociateFailed] + error + ".");
     return error.empty();

@@ -3,6 +3,7 @@
 #include "desktopintegration.h"
 
 #include <QObject>
+#include <string>
 
 class QWidget;
 
@@ -20,7 +21,9 @@ class DesktopSetup : public QObject {
     Q_OBJECT
 
 public:
-    DesktopSetup(Settings& settings, UserInterface& ui, DesktopTools& tools, QWidget* owner);
+    /// The desktop files come from `programFolder`.
+    DesktopSetup(Settings& settings, UserInterface& ui, DesktopTools& tools,
+                 std::string programFolder, QWidget* owner);
 
     /// Shows the prompts start-up owes, one after the other, without blocking.
     void offerAtStartup();
@@ -35,6 +38,7 @@ private:
     Settings& m_settings;
     UserInterface& m_ui;
     DesktopTools& m_tools;
+    std::string m_programFolder;
     QWidget* m_owner;
 };
 

@@ -34,9 +34,9 @@ QPushButton* Command(const char* name, const QString& text, QWidget* parent) {
 } // namespace
 
 FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, Shell& shell,
-                 QWidget* parent)
+                 std::string programFolder, QWidget* parent)
     : QWidget(parent, Qt::Window), m_model(model), m_ui(ui), m_settings(settings), m_shell(shell),
-      m_places(BrowserSearchPlaces::fromEnvironment()) {
+      m_programFolder(std::move(programFolder)), m_places(BrowserSearchPlaces::fromEnvironment()) {
     setObjectName(kFormName);
     setWindowTitle(tr("Applet Code"));
 
@@ -105,7 +105,7 @@ void FrmHTML::MakeHTML() {
     const MessageTable& msg = messages();
     m_ui.showProgress(msg[Msg::PleaseWait], msg[Msg::GeneratingHtml], -1);
     const std::string& name = nameTheApplet(m_model);
-    const GeneratedHtml html = orvelin::MakeHTML(m_model, name, GetJSCaller(name));
+    const GeneratedHtml html = orvelin::MakeHTML(m_model, name, GetJSCaller(name, m_programFolder));
     m_ui.hideProgress();
     m_code = html.text;
     m_usesJavaScript = html.usesJavaScript;
@@ -154,11 +154,11 @@ void FrmHTML::btnPreview_Click() {
     // The first entry is the desktop's default browser, whatever program it lists.
     const std::string program =
         position == 0 ? std::string() : m_browsers[static_cast<std::size_t>(position)].program;
-    previewPage(m_model, pageSource(), program, m_ui, m_shell);
+    previewPage(m_model, pageSource(), program, m_ui, m_shell, m_programFolder);
 }
 
 void FrmHTML::btnSave_Click() {
-    buildApplet(m_model, pageSource(), m_ui);
+    buildApplet(m_model, pageSource(), m_ui, m_programFolder);
 }
 
 PageSource FrmHTML::pageSource() const {

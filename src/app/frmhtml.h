@@ -29,8 +29,9 @@ class FrmHTML : public QWidget {
     Q_OBJECT
 
 public:
+    /// The JSCaller block and the page's program files come from `programFolder`.
     FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, Shell& shell,
-            QWidget* parent = nullptr);
+            std::string programFolder, QWidget* parent = nullptr);
 
     /// Regenerates the code from the project as it is now.
     void MakeHTML();
@@ -64,6 +65,7 @@ private:
     UserInterface& m_ui;
     Settings& m_settings;
     Shell& m_shell;
+    std::string m_programFolder;
     BrowserSearchPlaces m_places;
     /// The browsers' programs at the chooser's positions ("" for the default browser).
     std::vector<BrowserEntry> m_browsers;

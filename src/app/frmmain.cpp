@@ -43,9 +43,9 @@ QToolButton* listCommand(const QString& name, const QString& text, const QString
 } // namespace
 
 FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-                 DesignView& design, Shell& shell, QWidget* parent)
+                 DesignView& design, Shell& shell, std::string programFolder, QWidget* parent)
     : QMainWindow(parent), m_model(model), m_list(list), m_ui(ui), m_settings(settings),
-      m_editor(model, list, ui, settings, design, shell, *this) {
+      m_editor(model, list, ui, settings, design, shell, *this, std::move(programFolder)) {
     setObjectName(kFormName);
     m_menus = new MainMenus(*this, m_editor);
     m_history = new UndoHistory(m_model, m_list, this);
@@ -66,10 +66,12 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
     connect(m_menus, &MainMenus::designWindowRequested, this, &FrmMain::designWindowRequested);
     connect(m_menus, &MainMenus::htmlViewRequested, this, &FrmMain::htmlViewRequested);
     connect(m_menus, &MainMenus::aboutRequested, this, &FrmMain::showAbout);
-    connect(m_properties, &PropertyPanel::actionRequested, this, [this](const QString& title) {
-        openActionEditor(QString::fromStdString(m_editor.actionProgramKind()), title);
+    connect(m_properties, &PropertyPanel::actionRequested, this,
+            [this] { openActionEditor(m_editor.actionProgramKind()); });
+    connect(m_applet, &AppletPanel::actionRequested, this, [this](const QString& kind) {
+        if (const auto known = programKindFromName(kind.toStdString()))
+            openActionEditor(*known);
     });
-    connect(m_applet, &AppletPanel::actionRequested, this, &FrmMain::openActionEditor);
     connect(m_applet, &AppletPanel::offsetRequested, this, &FrmMain::openOffset);
     connect(m_properties, &PropertyPanel::labelEditorRequested, this, &FrmMain::openLabelEditor);
     connect(m_menus, &MainMenus::advancedRequested, this, &FrmMain::openAdvanced);
@@ -132,12 +134,11 @@ QWidget* FrmMain::buildButtonColumn() {
     return column;
 }
 
-void FrmMain::openActionEditor(const QString& kind, const QString& title) {
+void FrmMain::openActionEditor(ProgramKind kind) {
     std::vector<bool> selected(static_cast<std::size_t>(m_list.count()));
     for (int i = 1; i <= m_list.count(); ++i)
         selected[static_cast<std::size_t>(i - 1)] = m_list.isSelected(i);
-    showActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind.toStdString(),
-                     title.toStdString());
+    showActionEditor(this, m_model, selected, m_ui, m_programBuffer, kind);
 }
 
 void FrmMain::openLabelEditor() {

@@ -28,8 +28,10 @@ class FrmMain : public QMainWindow, public EditorView {
     Q_OBJECT
 
 public:
+    /// `programFolder` goes to the editor (help, the sound converter).
     FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-            DesignView& design, Shell& shell, QWidget* parent = nullptr);
+            DesignView& design, Shell& shell, std::string programFolder = {},
+            QWidget* parent = nullptr);
     ~FrmMain() override;
 
     Editor& editor() { return m_editor; }
@@ -63,7 +65,7 @@ protected:
 
 private:
     QWidget* buildButtonColumn();
-    void openActionEditor(const QString& kind, const QString& title);
+    void openActionEditor(ProgramKind kind);
     void openLabelEditor();
     void openAdvanced();
     void openOffset();

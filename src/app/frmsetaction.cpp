@@ -324,8 +324,8 @@ void FrmSetAction::connectControls() {
     connect(m_btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void FrmSetAction::load(const std::string& kind, const std::string& title) {
-    setWindowTitle(Q(title));
+void FrmSetAction::load(ProgramKind kind) {
+    setWindowTitle(QString::fromLatin1(programKindTitle(kind)));
     m_editor.open(kind);
     const auto targets = static_cast<int>(m_editor.targetButtons(m_selected).size());
     m_lblTargets->setText(Q(messages()[Msg::ProgramForButtons]).arg(targets));
@@ -336,8 +336,8 @@ void FrmSetAction::load(const std::string& kind, const std::string& title) {
     showPanels();
 }
 
-void FrmSetAction::myShow(const std::string& kind, const std::string& title) {
-    load(kind, title);
+void FrmSetAction::myShow(ProgramKind kind) {
+    load(kind);
     keepAboveOnTopWindows(*this);
     exec();
 }
@@ -477,11 +477,11 @@ void FrmSetAction::showPanels() {
 }
 
 void showActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
-                      UserInterface& ui, ProgramBuffer& buffer, const std::string& kind,
-                      const std::string& title, const ActionEditorTexts& texts,
+                      UserInterface& ui, ProgramBuffer& buffer, ProgramKind kind,
+                      const ActionEditorTexts& texts,
                       const std::array<std::string, 3>& stateCaptions) {
     FrmSetAction dialog(model, ui, buffer, selected, parent, texts, stateCaptions);
-    dialog.myShow(kind, title);
+    dialog.myShow(kind);
 }
 
 } // namespace orvelin

@@ -38,10 +38,10 @@ public:
                  const ActionEditorTexts& texts = {},
                  const std::array<std::string, 3>& stateCaptions = defaultStateCaptions());
 
-    /// Loads the program of `kind` and titles the window, without showing it.
-    void load(const std::string& kind, const std::string& title);
+    /// Loads the program of `kind` and titles the window after it, without showing it.
+    void load(ProgramKind kind);
     /// myShow: loads, then runs modally; on return OK has written the model, if chosen.
-    void myShow(const std::string& kind, const std::string& title);
+    void myShow(ProgramKind kind);
 
     ActionEditor& editor() { return m_editor; }
 
@@ -106,13 +106,13 @@ private:
 };
 
 /**
- * Opens the action program editor for `kind` with `title` over `parent` and
+ * Opens the action program editor for `kind` over `parent` and
  * returns when it is closed. OK writes the program into every selected button
  * (button kinds) or the applet's slot and clears Saved; Cancel writes nothing.
  */
 void showActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
-                      UserInterface& ui, ProgramBuffer& buffer, const std::string& kind,
-                      const std::string& title, const ActionEditorTexts& texts = {},
+                      UserInterface& ui, ProgramBuffer& buffer, ProgramKind kind,
+                      const ActionEditorTexts& texts = {},
                       const std::array<std::string, 3>& stateCaptions = defaultStateCaptions());
 
 } // namespace orvelin

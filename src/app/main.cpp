@@ -116,7 +116,8 @@ int main(int argc, char** argv) {
     orvelin::Settings settings(settingsStore);
     orvelin::QtUserInterface ui(&designer.mainWindow());
     orvelin::QtDesktopTools tools;
-    orvelin::DesktopSetup desktop(settings, ui, tools, &designer.mainWindow());
+    orvelin::DesktopSetup desktop(settings, ui, tools, designer.programFolder(),
+                                  &designer.mainWindow());
     QObject::connect(&designer.mainWindow().menus(), &orvelin::MainMenus::associateRequested,
                      &desktop, &orvelin::DesktopSetup::associateNow);
     // The prompts come once the windows are up; a timed start-up run has none.

@@ -118,8 +118,7 @@ PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
                                                        {m_sound, TypedField::File}};
     for (const auto& [edit, field] : typed)
         TypedFieldValidator::guard(edit, field, note);
-    connect(m_setAction, &QPushButton::clicked, this,
-            [this] { emit actionRequested(m_setAction->text()); });
+    connect(m_setAction, &QPushButton::clicked, this, &PropertyPanel::actionRequested);
     connect(m_labelEditor, &QToolButton::clicked, this, &PropertyPanel::labelEditorRequested);
 }
 

@@ -50,7 +50,7 @@ public:
 
 signals:
     /// The action command: edit the program of the current state.
-    void actionRequested(const QString& title);
+    void actionRequested();
     /// The "..." beside the label: the multi-line label editor.
     void labelEditorRequested();
     /// A field was left holding what it could not take: show the button's values again.

@@ -21,9 +21,12 @@ inline constexpr int kExitOk = 0;
 inline constexpr int kExitFailed = 1;
 inline constexpr int kExitUsage = 2;
 
-int runHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
-int runPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
-int runBuild(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runHtml(const std::vector<std::string>& args, const std::string& programFolder,
+            std::ostream& out, std::ostream& err);
+int runPage(const std::vector<std::string>& args, const std::string& programFolder,
+            std::ostream& out, std::ostream& err);
+int runBuild(const std::vector<std::string>& args, const std::string& programFolder,
+             std::ostream& out, std::ostream& err);
 int runResave(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #ifdef ORVELIN_CLI_RENDER
 int runRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);

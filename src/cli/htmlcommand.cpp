@@ -60,7 +60,8 @@ struct LoadedCode {
  */
 std::optional<int> loadCode(const char* command, const char* usage, std::size_t count,
                             bool writesPage, const std::vector<std::string>& args,
-                            std::ostream& err, ConsoleUserInterface& ui, LoadedCode& loaded) {
+                            const std::string& programFolder, std::ostream& err,
+                            ConsoleUserInterface& ui, LoadedCode& loaded) {
     const std::optional<Arguments> parsed = parseCommandLine(
         {command,
          usage,
@@ -77,7 +78,7 @@ std::optional<int> loadCode(const char* command, const char* usage, std::size_t 
     if (const auto name = parsed->value("--applet-name"))
         setAppletNameFromBox(loaded.model, *name);
     const std::string& name = nameTheApplet(loaded.model);
-    loaded.html = MakeHTML(loaded.model, name, GetJSCaller(name));
+    loaded.html = MakeHTML(loaded.model, name, GetJSCaller(name, programFolder));
     loaded.positional = parsed->positional;
     loaded.withPlayer = writesPage && !parsed->has("--no-player");
     return std::nullopt;
@@ -95,30 +96,36 @@ int writeOut(const std::string& text, const char* command, std::ostream& out, st
 
 } // namespace
 
-int runHtml(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int runHtml(const std::vector<std::string>& args, const std::string& programFolder,
+            std::ostream& out, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
-    if (const auto status = loadCode("html", kHtmlUsage, 1, false, args, err, ui, loaded))
+    if (const auto status =
+            loadCode("html", kHtmlUsage, 1, false, args, programFolder, err, ui, loaded))
         return *status;
     return writeOut(loaded.html.text, "html", out, err);
 }
 
-int runPage(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+int runPage(const std::vector<std::string>& args, const std::string& programFolder,
+            std::ostream& out, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
-    if (const auto status = loadCode("page", kPageUsage, 1, true, args, err, ui, loaded))
+    if (const auto status =
+            loadCode("page", kPageUsage, 1, true, args, programFolder, err, ui, loaded))
         return *status;
     return writeOut(pageText(loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer),
                     "page", out, err);
 }
 
-int runBuild(const std::vector<std::string>& args, std::ostream& /*out*/, std::ostream& err) {
+int runBuild(const std::vector<std::string>& args, const std::string& programFolder,
+             std::ostream& /*out*/, std::ostream& err) {
     ConsoleUserInterface ui(err);
     LoadedCode loaded;
-    if (const auto status = loadCode("build", kBuildUsage, 2, true, args, err, ui, loaded))
+    if (const auto status =
+            loadCode("build", kBuildUsage, 2, true, args, programFolder, err, ui, loaded))
         return *status;
     buildPage(loaded.model, {loaded.html.text, loaded.html.usesJavaScript, loaded.withPlayer},
-              loaded.positional[1], ui);
+              loaded.positional[1], ui, programFolder);
     return ui.messageCount() == 0 ? kExitOk : kExitFailed;
 }
 

@@ -56,11 +56,11 @@ int main(int argc, char** argv) {
     const auto programDir = extractOption(words, "--program-dir", problem);
     if (!problem.empty())
         return usageError(problem);
-    if (programDir) {
-        if (programDir->empty())
-            return usageError("--program-dir needs a folder");
-        orvelin::setProgramFolderOverride(*programDir);
-    }
+    if (programDir && programDir->empty())
+        return usageError("--program-dir needs a folder");
+
+    // Looked for only by the commands that read the program's files.
+    const auto programFolder = [&] { return orvelin::findProgramFolder(programDir.value_or("")); };
 
     if (words.empty())
         return usageError("no command given");
@@ -72,11 +72,11 @@ int main(int argc, char** argv) {
         return kExitOk;
     }
     if (command == "html")
-        return runHtml(args, std::cout, std::cerr);
+        return runHtml(args, programFolder(), std::cout, std::cerr);
     if (command == "page")
-        return runPage(args, std::cout, std::cerr);
+        return runPage(args, programFolder(), std::cout, std::cerr);
     if (command == "build")
-        return runBuild(args, std::cout, std::cerr);
+        return runBuild(args, programFolder(), std::cout, std::cerr);
     if (command == "resave")
         return runResave(args, std::cout, std::cerr);
 #ifdef ORVELIN_CLI_RENDER

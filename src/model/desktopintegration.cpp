@@ -83,14 +83,14 @@ fs::path desktopFolder(const DesktopPlaces& places) {
 
 } // namespace
 
-DesktopPlaces currentDesktopPlaces() {
+DesktopPlaces currentDesktopPlaces(const std::string& programFolder) {
     DesktopPlaces places;
     const char* dataHome = std::getenv("XDG_DATA_HOME");
     const char* home = std::getenv("HOME");
     places.dataHome =
         dataHome && *dataHome ? std::string(dataHome) : joinPath(home ? home : ".", ".local/share");
     places.executable = executablePath();
-    places.programFolder = programFolder();
+    places.programFolder = programFolder;
     return places;
 }
 

@@ -32,8 +32,8 @@ struct DesktopPlaces {
     std::string programFolder; ///< holds desktop/ with the entry, the type and the icons
 };
 
-/// The places of the running designer.
-DesktopPlaces currentDesktopPlaces();
+/// The places of the running designer, whose data lie in `programFolder`.
+DesktopPlaces currentDesktopPlaces(const std::string& programFolder);
 
 /// The prompts start-up shows, in this order.
 struct StartupOffers {

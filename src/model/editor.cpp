@@ -34,18 +34,6 @@ std::string mainTitle() {
     return std::string(kProgramTitle) + " " + kVersionText;
 }
 
-std::string actionTitle(ButtonState state) {
-    switch (state) {
-    case ButtonState::OVER:
-        return "Set Action: On Entering Button...";
-    case ButtonState::DOWN:
-        return "Set Action: On Button Press...";
-    case ButtonState::UP:
-        break;
-    }
-    return "Set Action: On Leaving Button...";
-}
-
 std::string buttonsClipboardHeader() {
     return std::string(kProgramTitle) + " Buttons " + kVersionText;
 }
@@ -111,10 +99,10 @@ std::string projectPathFromCommandLine(std::string_view commandLine) {
 }
 
 Editor::Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-               DesignView& design, Shell& shell, EditorView& view)
+               DesignView& design, Shell& shell, EditorView& view, std::string programFolder)
     : m_model(model), m_list(list), m_ui(ui), m_settings(settings), m_design(design),
-      m_shell(shell), m_view(view), m_recent(settings, view),
-      m_properties(model, list, ui, settings, view) {
+      m_shell(shell), m_view(view), m_programFolder(std::move(programFolder)),
+      m_recent(settings, view), m_properties(model, list, ui, settings, view) {
     m_listening = m_model.notices.listen([this](const DocumentChange& c) { showChange(c); });
 }
 
@@ -453,11 +441,11 @@ void Editor::switchState(std::string_view state) {
 void Editor::showCurrentState() {
     const ButtonState state = m_model.CurrentState;
     m_view.showState(state);
-    m_view.setActionTitle(actionTitle(state));
+    m_view.setActionTitle(std::string(programKindTitle(buttonProgramKind(state))));
 }
 
-std::string Editor::actionProgramKind() const {
-    return std::string("Program") + stateName(m_model.CurrentState);
+ProgramKind Editor::actionProgramKind() const {
+    return buttonProgramKind(m_model.CurrentState);
 }
 
 void Editor::makeDefault() {
@@ -468,6 +456,10 @@ void Editor::makeDefault() {
     }
     m_settings.setDefaultButton(serializeButton(m_model.button(current)));
     m_ui.showMessage(messages()[Msg::DefaultButtonStored]);
+}
+
+std::string Editor::programFolder() const {
+    return m_programFolder.empty() ? findProgramFolder() : m_programFolder;
 }
 
 void Editor::soundConverter() {

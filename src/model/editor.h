@@ -56,8 +56,10 @@ bool showLoadResult(const LoadResult& result, UserInterface& ui);
  */
 class Editor {
 public:
+    /// Help and the sound converter come from `programFolder`; without one the editor
+    /// finds it (findProgramFolder) when they are asked for.
     Editor(ProjectModel& model, ButtonList& list, UserInterface& ui, Settings& settings,
-           DesignView& design, Shell& shell, EditorView& view);
+           DesignView& design, Shell& shell, EditorView& view, std::string programFolder = {});
     ~Editor();
     Editor(const Editor&) = delete;
     Editor& operator=(const Editor&) = delete;
@@ -110,9 +112,8 @@ public:
     void setListSelection(const std::vector<int>& selected);
     /// "UP", "OVER" or "DOWN"; anything else is ignored.
     void switchState(std::string_view state);
-    /// "ProgramUP", "ProgramOVER" or "ProgramDOWN" for CurrentState: what the action
-    /// command edits.
-    std::string actionProgramKind() const;
+    /// The button kind of CurrentState: what the action command edits.
+    ProgramKind actionProgramKind() const;
 
     // Options and tools.
     void makeDefault();
@@ -150,6 +151,7 @@ private:
     StartupResult appendDefaultButton();
     void repairDefaultButton();
     void showCurrentState();
+    std::string programFolder() const;
 
     ProjectModel& m_model;
     ButtonList& m_list;
@@ -158,6 +160,7 @@ private:
     DesignView& m_design;
     Shell& m_shell;
     EditorView& m_view;
+    std::string m_programFolder;
     RecentFiles m_recent;
     PropertyEditor m_properties;
     int m_listening = 0;
@@ -172,8 +175,6 @@ std::optional<std::vector<ButtonRecord>> buttonsFromClipboardText(std::string_vi
 
 /// The main window's title, "Orvelin 1.0  Beta 6".
 std::string mainTitle();
-/// The action command's title for `state`.
-std::string actionTitle(ButtonState state);
 /// The command line's project path: trimmed, a leading quote drops the first and last
 /// character.
 std::string projectPathFromCommandLine(std::string_view commandLine);

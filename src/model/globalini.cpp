@@ -11,8 +11,8 @@ namespace orvelin {
 GlobalIni::GlobalIni(std::string programFolder, std::string writableFolder)
     : m_programFolder(std::move(programFolder)), m_writableFolder(std::move(writableFolder)) {}
 
-GlobalIni GlobalIni::forProgram() {
-    return GlobalIni(programFolder(), writableProgramFolder());
+GlobalIni GlobalIni::forProgram(const std::string& programFolder) {
+    return GlobalIni(programFolder, writableProgramFolder(programFolder));
 }
 
 std::string GlobalIni::readPath() const {

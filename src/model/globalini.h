@@ -18,8 +18,8 @@ class GlobalIni {
 public:
     GlobalIni(std::string programFolder, std::string writableFolder);
 
-    /// programFolder() and writableProgramFolder().
-    static GlobalIni forProgram();
+    /// `programFolder` and its writableProgramFolder().
+    static GlobalIni forProgram(const std::string& programFolder);
 
     std::string value(std::string_view key, std::string_view defaultValue) const;
     /// Replaces the file safely; false (and `error`) when it could not be written.

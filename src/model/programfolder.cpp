@@ -49,7 +49,9 @@ bool isWritableFolder(const std::string& folder) {
 
 } // namespace
 
-std::string programFolder() {
+std::string findProgramFolder(std::string_view chosen) {
+    if (!chosen.empty())
+        return std::string(chosen);
     if (!overrideFolder().empty())
         return overrideFolder();
     if (std::string fromEnvironment = environmentText("ORVELIN_PROGRAM_DIR");
@@ -127,10 +129,9 @@ std::string resolveStoredPath(std::string_view stored, std::string_view projectF
     return !ec && fs::is_regular_file(here, ec) ? here.string() : std::string();
 }
 
-std::string writableProgramFolder() {
-    const std::string installed = programFolder();
-    if (isWritableFolder(installed))
-        return installed;
+std::string writableProgramFolder(const std::string& programFolder) {
+    if (isWritableFolder(programFolder))
+        return programFolder;
 
     std::string base = environmentText("XDG_DATA_HOME");
     if (base.empty()) {

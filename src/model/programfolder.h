@@ -6,12 +6,13 @@
 namespace orvelin {
 
 /**
- * The folder that holds the program's own data files (Orvel.ini, help, language
- * files, the applet files). Found in this order: an explicit override (the
- * command line's --program-dir), ORVELIN_PROGRAM_DIR, the executable's folder when
- * it holds Orvel.ini, <executable folder>/../share/orvelin.
+ * Finds the folder that holds the program's own data files (Orvel.ini, help, language
+ * files, the applet files, the player), in this order: `chosen` (the command line's
+ * --program-dir), ORVELIN_PROGRAM_DIR, the executable's folder when it holds
+ * Orvel.ini, <executable folder>/../share/orvelin. The program looks once at start
+ * and hands the folder to what needs it.
  */
-std::string programFolder();
+std::string findProgramFolder(std::string_view chosen = {});
 
 /// The running program's own path ("" when it cannot be found).
 std::string executablePath();
@@ -20,7 +21,11 @@ std::string executablePath();
 /// rather than from an installed copy.
 bool runFromBuildFolder();
 
-/// Sets the override; an empty text removes it.
+/**
+ * What findProgramFolder() gives when nothing is chosen, for an editor made without a
+ * folder of its own; an empty text removes it. Kept only for callers that cannot yet
+ * hand the editor its folder.
+ */
 void setProgramFolderOverride(const std::string& folder);
 
 /// `folder` joined with `name`; either may use "/" or "\".
@@ -41,10 +46,10 @@ std::string projectFolderOf(std::string_view projectFileName);
 std::string resolveStoredPath(std::string_view stored, std::string_view projectFolder);
 
 /**
- * Where the program writes its own files (AppletTemp, the Global section): the
- * program folder when it is writable, else the same place under the per-user data
+ * Where the program writes its own files (AppletTemp, the Global section):
+ * `programFolder` when it is writable, else the same place under the per-user data
  * folder (~/.local/share/Orvelin, or $XDG_DATA_HOME/Orvelin).
  */
-std::string writableProgramFolder();
+std::string writableProgramFolder(const std::string& programFolder);
 
 } // namespace orvelin

@@ -115,32 +115,33 @@ void ProjectModel::removeButton(int index) {
     Saved = false;
 }
 
-bool isButtonProgramKind(std::string_view kind) {
-    return kind == "ProgramUP" || kind == "ProgramOVER" || kind == "ProgramDOWN";
-}
-
-bool isAppletProgramKind(std::string_view kind) {
-    return kind == "AppletProgramStart" || kind == "AppletProgramOVER" ||
-           kind == "AppletProgramDOWN" || kind == "AppletProgramOUT";
-}
-
-std::string* ProjectModel::programSlot(std::string_view kind, int button) {
-    if (kind == "AppletProgramStart")
+std::string* ProjectModel::programSlot(ProgramKind kind, int button) {
+    switch (kind) {
+    case ProgramKind::AppletProgramStart:
         return &AppletProgramStart;
-    if (kind == "AppletProgramOVER")
+    case ProgramKind::AppletProgramOVER:
         return &AppletProgramOVER;
-    if (kind == "AppletProgramDOWN")
+    case ProgramKind::AppletProgramDOWN:
         return &AppletProgramDOWN;
-    if (kind == "AppletProgramOUT")
+    case ProgramKind::AppletProgramOUT:
         return &AppletProgramOUT;
-    if (!isButtonProgramKind(kind) || button < 1 || button >= kButtonSlots)
+    case ProgramKind::ProgramUP:
+    case ProgramKind::ProgramOVER:
+    case ProgramKind::ProgramDOWN:
+        break;
+    }
+    if (button < 1 || button >= kButtonSlots)
         return nullptr;
     ButtonRecord& b = this->button(button);
-    if (kind == "ProgramUP")
+    if (kind == ProgramKind::ProgramUP)
         return &b.ProgramUP;
-    if (kind == "ProgramOVER")
+    if (kind == ProgramKind::ProgramOVER)
         return &b.ProgramOVER;
     return &b.ProgramDOWN;
+}
+
+const std::string* ProjectModel::programSlot(ProgramKind kind, int button) const {
+    return const_cast<ProjectModel*>(this)->programSlot(kind, button);
 }
 
 } // namespace orvelin

@@ -2,6 +2,7 @@
 
 #include "buttonrecord.h"
 #include "documentchange.h"
+#include "programkind.h"
 
 #include <array>
 #include <cstdint>
@@ -87,10 +88,11 @@ struct ProjectModel : AppletSettings {
     void removeButton(int index);
 
     /**
-     * The program slot named by a ProgramKind ("ProgramUP", ..., "AppletProgramOUT");
-     * the button kinds take the slot of button `button`. Nullptr for an unknown kind.
+     * The program slot of `kind`; the button kinds take the slot of button `button`,
+     * nullptr when there is no such button.
      */
-    std::string* programSlot(std::string_view kind, int button);
+    std::string* programSlot(ProgramKind kind, int button);
+    const std::string* programSlot(ProgramKind kind, int button) const;
 };
 
 using AppletField = RecordField<ProjectModel>;
@@ -114,10 +116,5 @@ const std::array<AppletParameterField, kAppletParameterFieldCount>& appletParame
 
 /// The applet field called `name`; nullptr for none.
 const AppletField* appletFieldNamed(std::string_view name);
-
-/// True for "ProgramUP", "ProgramOVER" and "ProgramDOWN".
-bool isButtonProgramKind(std::string_view kind);
-/// True for the four applet kinds.
-bool isAppletProgramKind(std::string_view kind);
 
 } // namespace orvelin

@@ -204,8 +204,8 @@ std::string jsCallerFromFile(const std::string& iniPath, std::string_view applet
     return block;
 }
 
-std::string GetJSCaller(std::string_view appletName) {
-    return jsCallerFromFile(joinPath(programFolder(), "Orvel.ini"), appletName);
+std::string GetJSCaller(std::string_view appletName, const std::string& programFolder) {
+    return jsCallerFromFile(joinPath(programFolder, "Orvel.ini"), appletName);
 }
 
 const std::string& nameTheApplet(ProjectModel& model) {

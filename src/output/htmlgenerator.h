@@ -56,12 +56,12 @@ void setAppletNameFromBox(ProjectModel& model, std::string_view typed);
 bool usesJavaScript(const ProjectModel& model);
 
 /**
- * The JSCaller block of the program folder's Orvel.ini with every "AppletName"
+ * The JSCaller block of `programFolder`'s Orvel.ini with every "AppletName"
  * replaced by `appletName`: each line between "[JSCALLER]" and "[END OF JSCALLER]"
  * as CR LF followed by the line, so the result starts with CR LF. A missing or
  * unreadable file gives the empty text, without a message.
  */
-std::string GetJSCaller(std::string_view appletName);
+std::string GetJSCaller(std::string_view appletName, const std::string& programFolder);
 /// The same, from a given file.
 std::string jsCallerFromFile(const std::string& iniPath, std::string_view appletName);
 

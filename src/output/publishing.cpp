@@ -213,8 +213,8 @@ std::string pageText(std::string_view code, bool usesJavaScript, bool withPlayer
     return page;
 }
 
-std::string previewPagePath() {
-    return joinPath(writableProgramFolder(), "AppletTemp/Temp.htm");
+std::string previewPagePath(const std::string& programFolder) {
+    return joinPath(writableProgramFolder(programFolder), "AppletTemp/Temp.htm");
 }
 
 int copyMediaFiles(const std::vector<PageFile>& files, const std::string& folder,
@@ -237,12 +237,12 @@ int copyMediaFiles(const std::vector<PageFile>& files, const std::string& folder
 }
 
 bool previewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
-                 UserInterface& ui, Shell& shell) {
-    const std::string path = previewPagePath();
+                 UserInterface& ui, Shell& shell, const std::string& programFolder) {
+    const std::string path = previewPagePath(programFolder);
     const std::string folder = folderOf(path);
     std::error_code ec;
     fs::create_directories(folder, ec); // an existing folder is no error
-    const std::vector<PageFile> files = pageFiles(model, programFolder(), page.withPlayer);
+    const std::vector<PageFile> files = pageFiles(model, programFolder, page.withPlayer);
     if (!writePage(path, page, files, ui))
         return false;
     // The applet files are not part of this program: a machine without them still
@@ -259,8 +259,8 @@ bool previewPage(const ProjectModel& model, const PageSource& page, const std::s
 }
 
 bool buildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
-               UserInterface& ui) {
-    const std::vector<PageFile> files = pageFiles(model, programFolder(), page.withPlayer);
+               UserInterface& ui, const std::string& programFolder) {
+    const std::vector<PageFile> files = pageFiles(model, programFolder, page.withPlayer);
     if (!writePage(target, page, files, ui))
         return false;
     const std::string folder = folderOf(target);
@@ -271,10 +271,11 @@ bool buildPage(const ProjectModel& model, const PageSource& page, const std::str
     return copyMediaFiles(files, folder, ui) == 0;
 }
 
-bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui) {
+bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui,
+                 const std::string& programFolder) {
     const std::optional<std::string> target =
         ui.chooseSaveFile(kPageFileFilter, defaultAppletName(model.ProjectFileName) + ".html");
-    return target && buildPage(model, page, *target, ui);
+    return target && buildPage(model, page, *target, ui, programFolder);
 }
 
 } // namespace orvelin

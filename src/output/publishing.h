@@ -53,8 +53,8 @@ std::vector<PageFile> pageFiles(const ProjectModel& model, const std::string& pr
  */
 std::string pageText(std::string_view code, bool usesJavaScript, bool withPlayer = false);
 
-/// The preview page: AppletTemp/Temp.htm in the program's writable folder.
-std::string previewPagePath();
+/// The preview page: AppletTemp/Temp.htm in the writable folder of `programFolder`.
+std::string previewPagePath(const std::string& programFolder);
 
 /**
  * The media copy routine: copies the background, image and sound files of `files`
@@ -83,26 +83,26 @@ struct PageSource {
 };
 
 /**
- * Test in Browser: writes the preview page, copies the applet files that the program
- * folder holds, the player when the page plays, and the project's media beside it, and
+ * Test in Browser: writes the preview page, copies the applet files that
+ * `programFolder` holds, the player when the page plays, and the project's media beside it, and
  * opens it: with the desktop's default browser when `program` is empty, else by
  * starting `program` with the page's path. Returns true when the page was handed to a
  * browser; every failure is shown. A page that would play without its player is not
  * written: the message names the missing file.
  */
 bool previewPage(const ProjectModel& model, const PageSource& page, const std::string& program,
-                 UserInterface& ui, Shell& shell);
+                 UserInterface& ui, Shell& shell, const std::string& programFolder);
 
 /**
- * Build Applet: writes the page as `target` and copies the applet files (unless the
- * target's folder is the program folder itself), the player when the page plays, and
- * the project's media beside it. A page that cannot be written stops with a message
- * and leaves any earlier file as it was; missing applet files stop with "Can't copy
- * Applet Class files" after the page is written, unless the page plays through the
- * player, which needs no applet. Returns true when nothing failed.
+ * Build Applet: writes the page as `target` and copies the applet files of
+ * `programFolder` (unless the target's folder is that folder itself), the player when the page
+ * plays, and the project's media beside it. A page that cannot be written stops with a message and
+ * leaves any earlier file as it was; missing applet files stop with "Can't copy Applet Class files"
+ * after the page is written, unless the page plays through the player, which needs no applet.
+ * Returns true when nothing failed.
  */
 bool buildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
-               UserInterface& ui);
+               UserInterface& ui, const std::string& programFolder);
 
 /// The file filter of the build's save dialog.
 inline constexpr const char* kPageFileFilter = "HTML (*.htm;*.html);;All Files (*.*)";
@@ -112,6 +112,7 @@ inline constexpr const char* kPageFileFilter = "HTML (*.htm;*.html);;All Files (
  * followed by ".html"; cancelling writes nothing. Returns true when a build ran and
  * nothing failed.
  */
-bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui);
+bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui,
+                 const std::string& programFolder);
 
 } // namespace orvelin

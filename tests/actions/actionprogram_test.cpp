@@ -34,18 +34,9 @@ TEST(ProgramText, EverySemicolonClosesALineAndTextAfterTheLastIsDropped) {
 }
 
 TEST(ProgramText, GetWordCountsFromOneAndTwoBlanksMakeAnEmptyWord) {
-    const std::tuple<const char*, int, const char*> cases[] = {{"3 1 10 -999", 1, "3"},
-                                                               {"3 1 10 -999", 3, "10"},
-                                                               {"3 1 10 -999", 4, "-999"},
-                                                               {"3 1 10 -999", 5, ""},
-                                                               {"x", 1, "x"},
-                                                               {"", 1, ""},
-                                                               {"a  b", 2, ""},
-                                                               {"a  b", 3, "b"},
-                                                               {" a", 1, ""},
-                                                               {" a", 2, "a"},
-                                                               {"a ", 1, "a"},
-                                                               {"a ", 2, ""}};
+    const std::tuple<const char*, int, const char*> cases[] = {
+        {"3 1 10 -999", 1, "3"}, {"3 1 10 -999", 4, "-999"}, {"3 1 10 -999", 5, ""}, {"", 1, ""},
+        {"a  b", 2, ""},         {"a  b", 3, "b"},           {" a", 2, "a"},         {"a ", 2, ""}};
     for (const auto& [line, n, word] : cases)
         EXPECT_EQ(GetWord(line, n), word) << '"' << line << "\" " << n;
 }
@@ -53,9 +44,7 @@ TEST(ProgramText, GetWordCountsFromOneAndTwoBlanksMakeAnEmptyWord) {
 TEST(ReadableLines, ShowOneLinePerCommandAndNoneForAnythingElse) {
     const std::pair<std::string, const char*> cases[] = {
         {"1 2", "Show Button 2"},
-        {"2 3", "Hide Button 3"},
         {"3 1 10 -999 -999 -999", "Move Button 1  ->  x:10 y:   width:   height:  "},
-        {"3 1 -999 -999 -999 -999", "Move Button 1  ->  x:   y:   width:   height:  "},
         {"3 2 -5 0 20 30", "Move Button 2  ->  x:-5 y:0 width:20 height:30"},
         {"4 1 1 Hi&nbspthere", "Set Label Button 1 Up State  ->  Hi there"},
         {"5 1 2 FF8000", "Set Color Button 1 Mouse-Over  ->  FF8000"},
@@ -65,20 +54,12 @@ TEST(ReadableLines, ShowOneLinePerCommandAndNoneForAnythingElse) {
         // comes back as a blank.
         {"4 1 1 " + EncodeLabel("a|b"), "Set Label Button 1 Up State  ->  aIb"},
         {"4 1 1 " + EncodeLabel("x&nbspy"), "Set Label Button 1 Up State  ->  x y"},
-        {"4 1 3 " + EncodeLabel("say \"hi\""), "Set Label Button 1 Down State  ->  say \"hi\""},
         // Numbers outside the lists show empty text.
         {"1 4", "Show "},
-        {"2 0", "Hide "},
-        {"1 x", "Show "},
         {"4 2 9 a", "Set Label Button 2   ->  a"},
         {"", "<none>"},
-        {"0 1", "<none>"},
-        {"8 1", "<none>"},
         {"01 2", "<none>"},
-        {" 1 2", "<none>"},
-        {"+1 2", "<none>"},
-        {"12 1", "<none>"},
-        {"b", "<none>"}};
+        {" 1 2", "<none>"}};
     for (const auto& [line, readable] : cases)
         EXPECT_EQ(Readable(line), readable) << '"' << line << '"';
     EXPECT_EQ(Readable("1 1", 0), "Show ");

@@ -68,7 +68,7 @@ TEST(ProgramFuzz, TheEditorKeepsItsListsInStepWithAnyStoredProgram) {
         orvelin::testing::FakeUserInterface ui;
         ProgramBuffer buffer{RandomProgram(rng)};
         ActionEditor editor(model, ui, buffer);
-        editor.open("ProgramOVER");
+        editor.open(ProgramKind::ProgramOVER);
         for (int step = 0; step < 12; ++step) {
             const int readable = static_cast<int>(editor.readableLines().size());
             editor.select(readable == 0 ? -1 : static_cast<int>(rng() % readable));

@@ -11,6 +11,7 @@
 #include "frmmessage.h"
 #include "frmmultilineeditor.h"
 #include "frmsetaction.h"
+#include "programfolder.h"
 #include "qtshell.h"
 #include "tempfolder.h"
 #include "testapplication.h"
@@ -90,7 +91,7 @@ TEST(AccessibleNames, EveryControlThatTakesFocusInEveryWindowSaysWhatItIs) {
     FrmBgOffset offset(model, nullptr);
     FrmBrowserSetup browsers({{"Firefox", "/usr/bin/firefox"}}, {});
     FrmEditBrowser browser({"Firefox", "/usr/bin/firefox"});
-    FrmHTML html(model, ui, settings, shell);
+    FrmHTML html(model, ui, settings, shell, findProgramFolder());
     FrmMessage message;
     FrmMultiLineEditor lines(&label);
     ProgramBuffer buffer;

@@ -1,6 +1,7 @@
 #include "desktopdialogs.h"
 #include "desktopsetup.h"
 #include "fakeui.h"
+#include "programfolder.h"
 #include "qtdesktoptools.h"
 #include "settings.h"
 #include "tempfolder.h"
@@ -59,7 +60,7 @@ TEST(DesktopSetup, TheStartUpPromptRegistersOrvelinForOrvFilesWithTheRealTools) 
     FakeUserInterface ui;
     QtDesktopTools tools;
     QWidget owner;
-    DesktopSetup setup(settings, ui, tools, &owner);
+    DesktopSetup setup(settings, ui, tools, findProgramFolder(), &owner);
 
     setup.offerAtStartup();
     Answer(owner, "btnNo", true);

@@ -11,7 +11,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QMenu>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTest>
@@ -105,27 +104,6 @@ TEST(FrmDesign, ShowsOnePicturePerButtonPlacedFromItsRecordInZOrder) {
     EXPECT_EQ(w.design.pictureCount(), 0);
 }
 
-TEST(FrmDesign, MovingAButtonThroughRedrawButtonPaintsItOnce) {
-    Window w(1);
-    const int before = w.design.paintCount();
-    w.model.button(1).x = 40;
-    w.model.button(1).Width = 70;
-    w.design.RedrawButton(1, false, false, false);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(w.design.paintCount(), before + 1);
-    EXPECT_EQ(w.picture(1)->geometry(), QRect(40, 20, 70, 30));
-}
-
-TEST(FrmDesign, RedrawFollowsTheEditedStateAndTheSelection) {
-    Window w(2);
-    w.model.CurrentState = ButtonState::DOWN;
-    w.list.addSelection(2);
-    w.design.redrawAll();
-    EXPECT_EQ(w.pixel(1, 25, 15), qRgb(255, 0, 0));
-    EXPECT_EQ(w.pixel(1, 0, 0), qRgb(0, 0, 0));
-    EXPECT_EQ(w.pixel(2, 2, 2), qRgb(255, 255, 255));
-}
-
 TEST(FrmDesign, HandlesAndThePositionerStandWhereTheRecordSays) {
     Window w(1);
     const QPoint b(FrmDesign::kMargin + 10, FrmDesign::kMargin + 20);
@@ -160,15 +138,8 @@ TEST(FrmDesign, TransparentButtonsShowTheBackgroundAndFollowTheSwitch) {
     EXPECT_EQ(w.pixel(1, 25, 15), qRgb(0, 255, 0));
 }
 
-TEST(FrmDesign, CommandsAreAnnouncedAsSignalsAndClosingOnlyHides) {
+TEST(FrmDesign, ClosingOnlyHidesUntilTheProgramEnds) {
     Window w(1);
-    QSignalSpy html(&w.design, &FrmDesign::btnViewHtmlClicked);
-    QSignalSpy remove(&w.design, &FrmDesign::btnRemoveClicked);
-    for (const char* name : {"btnRemove", "btnViewHtml"})
-        w.design.findChild<QPushButton*>(name)->click();
-    EXPECT_EQ(html.count(), 1);
-    EXPECT_EQ(remove.count(), 1);
-
     QSignalSpy unloading(&w.design, &FrmDesign::unloading);
     EXPECT_FALSE(w.design.close());
     EXPECT_FALSE(w.design.isVisible());
@@ -226,17 +197,6 @@ TEST(DesignInteraction, RightClickMenuSendsTheButtonBack) {
     ASSERT_FALSE(w.notices.empty());
     EXPECT_EQ(w.notices.back().buttons, std::vector<int>({2, 3}));
     EXPECT_TRUE(w.notices.back().selection);
-}
-
-TEST(DesignInteraction, TheBottomHandleResizesTheCurrentButton) {
-    Window w(1);
-    const int paints = w.design.paintCount();
-    w.editor.calls.clear();
-    Window::drag(w.design.picSizer(SizerBottom), QPoint(3, 3), QPoint(0, 10));
-    EXPECT_EQ(w.picture(1)->geometry(), QRect(10, 20, 100, 44)); // 30 + 10 + 4
-    EXPECT_EQ(w.model.button(1).Height, 44);
-    EXPECT_EQ(w.editor.calls, QStringList({QStringLiteral("geometry 1")}));
-    EXPECT_EQ(w.design.paintCount() - paints, 1);
 }
 
 TEST(DesignInteraction, HandlesFollowTheCurrentButtonSoAHandleDragResizesByItsDistance) {

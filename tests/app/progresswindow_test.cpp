@@ -33,13 +33,6 @@ TEST(ProgressWindow, ShowsTitleTextAndPercentWithOneBusyPointer) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-TEST(QtUserInterface, MessagesGetTheProgramTitleAndSingleLineBreaks) {
-    EXPECT_EQ(QtUserInterface::messageTitle(""), QStringLiteral("Orvelin"));
-    EXPECT_EQ(QtUserInterface::messageTitle("Warning"), QStringLiteral("Warning"));
-    EXPECT_EQ(QtUserInterface::displayText("Error loading project.\r\nFile not found"),
-              QStringLiteral("Error loading project.\nFile not found"));
-}
-
 TEST(ColorButton, ModelColoursKeepRedInTheLowByteAndSettingOneDoesNotReportIt) {
     EXPECT_EQ(colorFromRef(65535), QColor(255, 255, 0));
     EXPECT_EQ(colorToRef(QColor(0x12, 0x34, 0x56)), 0x563412);

@@ -36,18 +36,6 @@ ProjectModel WithImage(const std::string& path, int style, int width = 100, int 
 
 } // namespace
 
-TEST(DrawLabel, CentredLabelInkIsCentredWhateverItsLength) {
-    for (const char* label : {"H", "HHH", "HIHIHIHIHIH"})
-        for (QSize size : {QSize(107, 40), QSize(200, 61)}) {
-            SCOPED_TRACE(std::string(label) + " in " + std::to_string(size.width()));
-            const QRect ink =
-                InkBox(Paint(OneButton(PlainButton(size.width(), size.height(), label))), kWhite);
-            ASSERT_FALSE(ink.isEmpty());
-            EXPECT_NEAR(CentreX(ink), size.width() / 2.0, 1.0);
-            EXPECT_NEAR(ink.top() + ink.height() / 2.0, size.height() / 2.0, 2.0);
-        }
-}
-
 TEST(DrawLabel, StyleCodesSelectBoldAndItalic) {
     auto paint = [](const std::string& style) {
         ButtonRecord b = PlainButton(200, 40, "IIIIIIII");
@@ -150,21 +138,6 @@ TEST(DrawPix, TileRepeatsAGifFromTheTopLeftCorner) {
                 << x << "," << y;
 }
 
-TEST(DrawPix, StretchFillsThePictureWithAJpeg) {
-    QTemporaryDir dir;
-    QImage halves(20, 10, QImage::Format_RGB32);
-    halves.fill(qRgb(0, 160, 0));
-    QPainter(&halves).fillRect(10, 0, 10, 10, QColor(160, 0, 160));
-    ASSERT_TRUE(halves.save(dir.filePath("halves.jpg"), "JPEG"));
-    const QImage picture = Paint(WithImage(dir.filePath("halves.jpg").toStdString(), 2));
-    // Green left, purple right, up to the corners (JPEG shifts colours a little).
-    for (QPoint at : {QPoint(2, 2), QPoint(2, 37), QPoint(97, 2), QPoint(97, 37)}) {
-        const QRgb c = picture.pixel(at);
-        EXPECT_TRUE(at.x() < 50 ? qGreen(c) > 120 && qRed(c) < 40 : qRed(c) > 120 && qGreen(c) < 40)
-            << at.x() << "," << at.y();
-    }
-}
-
 TEST(DrawPix, AMissingOrBrokenImagePaintsTheColourWithoutAMessage) {
     QTemporaryDir dir;
     QFile junk(dir.filePath("junk.gif"));
@@ -178,17 +151,6 @@ TEST(DrawPix, AMissingOrBrokenImagePaintsTheColourWithoutAMessage) {
         EXPECT_TRUE(InkBox(Paint(OneButton(b), 1, nullptr, nullptr, &ui), kGreen).isEmpty());
         EXPECT_TRUE(ui.shown.empty());
     }
-}
-
-TEST(DrawPix, RelativeAndBackslashPathsResolveBesideTheProjectFile) {
-    QTemporaryDir dir;
-    ASSERT_TRUE(QDir(dir.path()).mkpath("art"));
-    SaveMarkedTile(dir, 4, "art/mark.png");
-    ProjectModel model = WithImage("art\\mark.png", 1, 8, 8);
-    model.ProjectFileName = dir.filePath("bar.orv").toStdString();
-    const QImage picture = Paint(model);
-    EXPECT_EQ(Pixel(picture, 4, 4), kRed);
-    EXPECT_EQ(Pixel(picture, 1, 1), kBlue);
 }
 
 TEST(DrawPix, TransparentButtonShowsTheBackgroundUnderIt) {

@@ -44,12 +44,3 @@ TEST(ReadImageFile, GoesByTheContentNotTheExtension) {
     EXPECT_EQ(readImageFile(disguised), expected);
     EXPECT_EQ(imageFileSize(disguised), expected.size());
 }
-
-TEST(ReadImageFile, AnUnreadableFileGivesNothing) {
-    orvelin::testing::TempFolder folder;
-    const QString text =
-        QString::fromStdString(folder.write("notes.gif", "GIF89a but not really an image"));
-    EXPECT_TRUE(readImageFile(text).isNull());
-    EXPECT_FALSE(imageFileSize(text).isValid());
-    EXPECT_TRUE(readImageFile(QString::fromStdString(folder.path("missing.png"))).isNull());
-}

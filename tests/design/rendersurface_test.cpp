@@ -128,18 +128,6 @@ TEST(RenderSurface, PaintsTheBackgroundThenTheButtonsInZOrderEachInItsState) {
     EXPECT_EQ(Pixel(renderSurface(model, ButtonState::OVER), 35, 25), kGreen);
 }
 
-TEST(RenderSurface, ClipsEachButtonToItsRectangle) {
-    ProjectModel model = Applet(1);
-    model.button(1).x = 40;
-    model.button(1).y = 20;
-    model.button(1).LabelUP = "WWWWWWWWWWWWWWWWWWWW"; // far wider than the button
-    model.button(1).BackColorUP = 0x00FF00;
-    const QImage surface = renderSurface(model, ButtonState::UP);
-    EXPECT_EQ(Pixel(surface, 45, 22), kGreen);
-    EXPECT_TRUE(InkBox(surface, 0, QRect(0, 0, 40, 60)).isEmpty());
-    EXPECT_TRUE(InkBox(surface, 0, QRect(70, 0, 50, 60)).isEmpty());
-}
-
 TEST(RenderSurface, ATransparentButtonShowsTheBackgroundButNotTheButtonsBelow) {
     QTemporaryDir dir;
     ASSERT_TRUE(Coordinates(7, 5).save(dir.filePath("bg.png")));

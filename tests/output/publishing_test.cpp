@@ -41,7 +41,6 @@ protected:
         fs::create_directories(temp.dir() / "program");
         fs::create_directories(temp.dir() / "projects/art");
         fs::create_directories(temp.dir() / "site");
-        setProgramFolderOverride(temp.path("program"));
         temp.write("program/Orvel1b6.class", "class");
         temp.write("program/Orvel1b6.jar", "jar");
         temp.write("projects/art/home up.gif", "GIF89a home");
@@ -51,14 +50,14 @@ protected:
         for (int i = 0; i < 3; ++i)
             model.addButton(kFactoryDefaultButton);
     }
-    void TearDown() override { setProgramFolderOverride(""); }
 
     bool Build(const std::string& target, bool withPlayer = false) {
-        html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName));
-        return buildPage(model, {html.text, html.usesJavaScript, withPlayer}, target, ui);
+        html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName, program));
+        return buildPage(model, {html.text, html.usesJavaScript, withPlayer}, target, ui, program);
     }
 
     TempFolder temp;
+    const std::string program = temp.path("program");
     ProjectModel model;
     GeneratedHtml html;
     FakeUserInterface ui;
@@ -126,25 +125,23 @@ TEST_F(Publishing, MissingFilesAreReportedPerButtonUntilCancelledWhileCopyingGoe
     EXPECT_EQ(ui.shown[0].kind, "okcancel");
     EXPECT_EQ(ui.shown[1].text, kCantCopyButton2);
     EXPECT_EQ(temp.read("site/click.au"), "au");
-    EXPECT_EQ(temp.read("site/click.au.js"),
-              "(window.OrvelinSounds = window.OrvelinSounds || {})[\"click.au\"] =\n\"YXU=\";\n");
 }
 
 TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
     model.button(1).URL = "javascript:go()";
     model.button(1).image(ButtonState::UP) = "art/home up.gif";
-    html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName));
+    html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName, program));
     RecordingShell shell;
     const std::string page = temp.path("program/AppletTemp/Temp.htm");
-    ASSERT_TRUE(previewPage(model, {html.text, true}, "", ui, shell));
-    ASSERT_TRUE(previewPage(model, {html.text, true}, "/opt/fox", ui, shell));
+    ASSERT_TRUE(previewPage(model, {html.text, true}, "", ui, shell, program));
+    ASSERT_TRUE(previewPage(model, {html.text, true}, "/opt/fox", ui, shell, program));
     EXPECT_EQ(shell.calls, (std::vector<std::string>{"open " + page, "/opt/fox " + page}));
     EXPECT_EQ(temp.read("program/AppletTemp/Temp.htm"), pageText(html.text, true));
     EXPECT_EQ(temp.read("program/AppletTemp/home&nbspup.gif"), "GIF89a home");
     EXPECT_EQ(temp.read("program/AppletTemp/Orvel1b6.class"), "class");
 
     shell.works = false;
-    EXPECT_FALSE(previewPage(model, {html.text, true}, "", ui, shell));
+    EXPECT_FALSE(previewPage(model, {html.text, true}, "", ui, shell, program));
     ASSERT_EQ(ui.messages().size(), 1u);
     EXPECT_EQ(ui.messages()[0].rfind(page + " could not be opened", 0), 0u);
 }

@@ -22,7 +22,6 @@ public:
     std::deque<Answer> answers;                         ///< for the two question kinds
     std::deque<std::optional<std::string>> chosenFiles; ///< for the two file choosers
     std::vector<std::string> progressTexts;
-    std::vector<int> progressPercents;
     int progressShows = 0;
     int progressHides = 0;
     bool progressVisible = false;
@@ -55,11 +54,10 @@ public:
         chosen = chosenFilter;
         return chooseSaveFile(filter, proposed);
     }
-    void showProgress(const std::string& title, const std::string& text, int percent) override {
+    void showProgress(const std::string& title, const std::string& text, int /*percent*/) override {
         ++progressShows;
         progressVisible = true;
         progressTexts.push_back(title + "|" + text);
-        progressPercents.push_back(percent);
     }
     void hideProgress() override {
         ++progressHides;
