@@ -64,12 +64,3 @@ TEST(ReadableLines, ShowOneLinePerCommandAndNoneForAnythingElse) {
         EXPECT_EQ(Readable(line), readable) << '"' << line << '"';
     EXPECT_EQ(Readable("1 1", 0), "Show ");
 }
-
-TEST(ReadableLines, UseTheTextsTheyAreGiven) {
-    ReadableTexts t = FreshProjectTexts(2);
-    t.commands[2] = "Verschieben";
-    t.buttons = {"Knopf 1", "Knopf 2"};
-    t.widthCaption = "Breite:";
-    t.heightCaption = "Höhe:";
-    EXPECT_EQ(readableLine("3 2 1 2 3 4", t), "Verschieben Knopf 2  ->  x:1 y:2 Breite:3 Höhe:4");
-}
