@@ -274,7 +274,6 @@ TEST_F(EditorFixture, AskToSaveOnAnUnchangedProjectAsksNothingAndOnYesSavesUnder
     Unsaved({Answer::Yes});
     EXPECT_EQ(editor.AskToSave(), SaveAnswer::Yes);
     ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.shown[0].kind, "yesnocancel");
     EXPECT_EQ(ui.shown[0].text, "The Project " + PathOf("a.orv") +
                                     " has changed.\r\nDo you want to Save the changes?");
     EXPECT_EQ(ui.shown[0].title, "Orvelin");

@@ -22,7 +22,6 @@ public:
     std::deque<Answer> answers;                         ///< for the two question kinds
     std::deque<std::optional<std::string>> chosenFiles; ///< for the two file choosers
     int progressShows = 0;
-    int progressHides = 0;
     bool progressVisible = false;
 
     void showMessage(const std::string& text, const std::string& title) override {
@@ -57,10 +56,7 @@ public:
         ++progressShows;
         progressVisible = true;
     }
-    void hideProgress() override {
-        ++progressHides;
-        progressVisible = false;
-    }
+    void hideProgress() override { progressVisible = false; }
 
     /// Texts of the messages shown, in order.
     std::vector<std::string> messages() const {
