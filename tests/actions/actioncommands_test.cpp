@@ -54,7 +54,6 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
     const std::vector<std::tuple<int, CommandInputs, std::string>> cases = {
         {1, none, "<no buttons>"},
         {4, Typed(""), "<no buttons>"},
-        {6, none, "6 300"},
         {7, none, "7 0 go()"},
         {0, button(1), "<silent>"},
         {1, button(2), "1 2"},
@@ -65,12 +64,10 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
         // The first bad box is the one reported.
         {3, Move("10", "", "abc", "40000"), "<wrong: Type mismatch>"},
         {3, Move("32768", "", "", ""), "<wrong: Overflow>"},
-        {3, Move(" ", "", "", ""), "<wrong: Type mismatch>"},
         {4, button(1, 2, ""), "4 1 2 &nbsp"},
         {4, button(3, 3, "Hi there|\"x\";y"), "4 3 3 Hi&nbspthereI&y02x&y02;y"},
         // A colour needs exactly six characters, not checked to be hexadecimal.
         {5, button(1, 2, "12345"), "<silent>"},
-        {5, button(1, 2, "FF8000"), "5 1 2 FF8000"},
         {5, button(1, 2, "zzzzzz"), "5 1 2 zzzzzz"},
         {5, button(1, 2, "äöüÄÖÜ"), "5 1 2 äöüÄÖÜ"}, // six characters in twelve bytes
         // Wait stores the positive number, or 5.
@@ -78,7 +75,6 @@ TEST(BuildCommand, TurnsTheTypedInputsIntoTheCommandLineOrARefusal) {
         {6, Typed("abc"), "6 5"},
         {6, Typed("2.50"), "6 2.5"},
         {7, Typed("", ""), "<silent>"},
-        {7, Typed("", "alert('Hi; there')"), "7 0 alert('Hi&y01&nbspthere')"},
         {7, Typed("", "f(\"a|b\");"), "7 0 f(&y02aIb&y02)&y01"},
     };
     for (auto [command, inputs, expected] : cases) {

@@ -65,7 +65,6 @@ TEST_F(ActionEditorTest, OkCopiesTheProgramToEverySelectedButtonOnly) {
     EXPECT_EQ(model.button(1).ProgramOVER, "1 1;");
     EXPECT_EQ(model.button(2).ProgramUP, "");
     EXPECT_FALSE(model.Saved);
-    EXPECT_EQ(editor.targetButtons({false, true, true}), std::vector<int>({2, 3}));
     editor.open(ProgramKind::AppletProgramOVER);
     EXPECT_TRUE(editor.targetButtons({true, true, true}).empty());
 }
@@ -109,28 +108,15 @@ TEST_F(ActionEditorTest, ButtonCommandsAreRefusedWithoutButtonsButWaitIsAdded) {
     EXPECT_EQ(editor.commandLines(), Lines({"6 100"}));
 }
 
-TEST_F(ActionEditorTest, EmptyLabelIsAddedAsABlankThatStaysInTheBox) {
-    editor.open(ProgramKind::ProgramOVER);
-    editor.setState(2);
-    ASSERT_TRUE(add(SetLabel, 1));
-    EXPECT_EQ(editor.commandLines().back(), "4 2 3 &nbsp");
-    EXPECT_EQ(editor.inputs().label, " ");
-    EXPECT_EQ(editor.selection(), 2);
-}
-
 TEST_F(ActionEditorTest, ColourOfFiveCharactersOrNoCommandAddsNothing) {
     editor.open(ProgramKind::ProgramOVER);
     editor.setCommand(SetLabel);
     editor.inputs().label = "Hello";
     editor.setCommand(SetColor); // empties the label box
     EXPECT_EQ(editor.inputs().label, "");
-    editor.select(0);
     editor.inputs().label = "12345";
     EXPECT_FALSE(editor.add());
     EXPECT_TRUE(ui.shown.empty());
-    EXPECT_EQ(editor.commandLines().size(), 2u);
-    EXPECT_EQ(editor.selection(), 0);
-
     editor.setCommand(-1); // no command: the list is rebuilt with the last line selected
     EXPECT_FALSE(editor.add());
     EXPECT_EQ(editor.commandLines().size(), 2u);

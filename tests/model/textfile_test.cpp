@@ -7,7 +7,6 @@
 #include <string>
 #include <sys/file.h>
 #include <unistd.h>
-#include <vector>
 
 using namespace orvelin;
 namespace fs = std::filesystem;
@@ -23,17 +22,6 @@ TEST(TextEncoding, ValidUtf8PassesAndAnythingElseIsReadAsWindows1252) {
         {"é\xFF", "Ã©ÿ"}};
     for (const auto& [bytes, text] : cases)
         EXPECT_EQ(toUtf8(bytes), text) << text;
-}
-
-TEST(TextLines, BreakAtCrLfAndLoneLf) {
-    using Lines = std::vector<std::string_view>;
-    bool terminated = false;
-    EXPECT_EQ(splitLines("a\r\nb\nc\r\n", &terminated), (Lines{"a", "b", "c"}));
-    EXPECT_TRUE(terminated);
-    EXPECT_EQ(splitLines("a\r\n\r\nb", &terminated), (Lines{"a", "", "b"}));
-    EXPECT_FALSE(terminated);
-    EXPECT_EQ(splitLines("x\ry\r", &terminated), (Lines{"x\ry\r"}));
-    EXPECT_TRUE(splitLines("").empty());
 }
 
 TEST(TextFile, ReadingTakesTheWholeFileDropsAByteOrderMarkAndConvertsOldText) {

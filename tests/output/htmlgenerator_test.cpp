@@ -171,17 +171,6 @@ TEST_F(HtmlGenerator, CallerBlockIsReadBetweenItsMarkersWhateverTheirCase) {
     }
 }
 
-TEST_F(HtmlGenerator, ShippedCallerBlockDefinesInitJSCallerForTheApplet) {
-    const std::string block =
-        jsCallerFromFile(std::string(ORVELIN_SOURCE_DIR) + "/data/Orvel.ini", "Nav");
-    EXPECT_TRUE(block.starts_with("\r\n"));
-    for (const char* part :
-         {"function InitJSCaller()", "document.applets['Nav']", "<script", "</script>"})
-        EXPECT_NE(block.find(part), std::string::npos) << part;
-    for (const char* part : {"AppletName", "JSCALLER]", "chkNoBackGround"})
-        EXPECT_EQ(block.find(part), std::string::npos) << part;
-}
-
 TEST_F(HtmlGenerator, AnyTextInAnyFieldLeavesEveryParameterInsideItsQuotesWithItsFields) {
     // Whatever a damaged project or a careless caller puts into its texts, the applet gets
     // the same lines: each parameter inside its quotes, with all its fields.

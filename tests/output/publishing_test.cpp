@@ -76,12 +76,6 @@ TEST(PageText, WrapsTheCodeWithTheBodyTagOfItsJavaScriptFlagAndMarksUtf8) {
               "</Body>\r\n</Html>\r\n");
 }
 
-TEST(SoundScriptText, NameIsAScriptStringAndBytesAreBase64) {
-    EXPECT_EQ(soundScriptText("a\"<\\.au", std::string("\xFF\0b!", 4)),
-              "(window.OrvelinSounds = window.OrvelinSounds || {})[\"a\\x22\\x3c\\x5c.au\"] =\n"
-              "\"/wBiIQ==\";\n");
-}
-
 TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
     // Two buttons name one image; one path uses Windows separators.
     model.button(1).image(ButtonState::UP) = "art/home up.gif";

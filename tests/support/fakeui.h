@@ -21,9 +21,7 @@ public:
     std::vector<Shown> shown;
     std::deque<Answer> answers;                         ///< for the two question kinds
     std::deque<std::optional<std::string>> chosenFiles; ///< for the two file choosers
-    std::vector<std::string> progressTexts;
     int progressShows = 0;
-    int progressHides = 0;
     bool progressVisible = false;
 
     void showMessage(const std::string& text, const std::string& title) override {
@@ -54,15 +52,11 @@ public:
         chosen = chosenFilter;
         return chooseSaveFile(filter, proposed);
     }
-    void showProgress(const std::string& title, const std::string& text, int /*percent*/) override {
+    void showProgress(const std::string&, const std::string&, int) override {
         ++progressShows;
         progressVisible = true;
-        progressTexts.push_back(title + "|" + text);
     }
-    void hideProgress() override {
-        ++progressHides;
-        progressVisible = false;
-    }
+    void hideProgress() override { progressVisible = false; }
 
     /// Texts of the messages shown, in order.
     std::vector<std::string> messages() const {

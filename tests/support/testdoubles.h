@@ -23,12 +23,6 @@ public:
         m_values[{normalizeSection(section), key}] = value;
     }
 
-    /// Whether the key was ever written.
-    bool contains(const std::string& section, const std::string& key) const {
-        return m_values.count({normalizeSection(section), key}) > 0;
-    }
-    std::size_t size() const { return m_values.size(); }
-
 private:
     std::map<std::pair<std::string, std::string>, std::string> m_values;
 };
