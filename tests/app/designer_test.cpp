@@ -329,9 +329,7 @@ TEST(PlaceDesignWindow, HidesNothingOfTheMainEditorWhereTheScreenAllows) {
     EXPECT_TRUE(screen.contains(place));
     EXPECT_EQ(place.height(), 800 - (16 + 560 + 8));
     // A tall editor: to its right.
-    place = placeDesignWindow(screen, QRect(16, 16, 700, 700), wanted, minimum);
-    EXPECT_EQ(place.left(), 16 + 700 + 8);
-    EXPECT_TRUE(screen.contains(place));
+    EXPECT_EQ(placeDesignWindow(screen, QRect(16, 16, 700, 700), wanted, minimum).left(), 724);
     // No room anywhere: the minimum size at the bottom of the screen.
     place = placeDesignWindow(screen, QRect(0, 0, 1200, 780), wanted, minimum);
     EXPECT_EQ(place.bottom(), 799);

@@ -68,6 +68,21 @@ function launch() {
     return chromium.launch({ executablePath: process.env.ORVELIN_CHROMIUM || '/usr/bin/chromium' });
 }
 
+/** A scratch folder `s.dir` for the file's tests and the browser `s.browser` launched before
+ *  them; both go after them. */
+function session(tag) {
+    const { before, after } = require('node:test');
+    const s = { dir: tempDir(tag) };
+    before(async () => {
+        s.browser = await launch();
+    });
+    after(async () => {
+        await s.browser.close();
+        fs.rmSync(s.dir, { recursive: true, force: true });
+    });
+    return s;
+}
+
 /** A fresh context and page of `browser` at `url`, with the console messages and page
  *  errors it collects; `init` runs in the page before its own scripts. */
 async function open(browser, url, contextOptions = {}, init = null) {
@@ -117,4 +132,4 @@ async function pixelAt(page, x, y) {
     return '#' + zlib.inflateSync(Buffer.concat(data)).subarray(1, 4).toString('hex');
 }
 
-module.exports = { binDir, cli, tempDir, makePage, launch, open, comparePngs, pixelAt };
+module.exports = { binDir, cli, tempDir, makePage, launch, session, open, comparePngs, pixelAt };

@@ -1,7 +1,7 @@
 'use strict';
 // The player in Debian's chromium, on pages opened from disk: states, radio buttons,
 // links and targets, the keyboard, touch, two applets, late applets and spoiled parameters.
-const { test, before, after } = require('node:test');
+const { test } = require('node:test');
 const assert = require('node:assert');
 const fs = require('fs');
 const path = require('path');
@@ -9,9 +9,10 @@ const kit = require('./pagekit');
 
 const bar = path.join(__dirname, 'data', 'bar.orv');
 const UP = '#ffff00', OVER = '#00ffff', DOWN = '#ff0000';
-let browser, dir;
+const s = kit.session('player');
+fs.writeFileSync(path.join(s.dir, 'second.htm'), '<!DOCTYPE html><title>Second</title>');
 
-const open = (url, options) => kit.open(browser, url, options);
+const open = (url, options) => kit.open(s.browser, url, options);
 
 /** Page position of the middle of a button's top-left corner area (clear of the label). */
 async function spot(page, appletName, n) {
@@ -19,18 +20,8 @@ async function spot(page, appletName, n) {
     return { x: box.x + 5 + (n - 1) * 95 + 4, y: box.y + 10 + 4 };
 }
 
-before(async () => {
-    browser = await kit.launch();
-    dir = kit.tempDir('player');
-    fs.writeFileSync(path.join(dir, 'second.htm'), '<!DOCTYPE html><title>Second</title>');
-});
-after(async () => {
-    await browser.close();
-    fs.rmSync(dir, { recursive: true, force: true });
-});
-
 test('hover, press and release show each state; a tap on a radio button keeps it down', async () => {
-    const url = kit.makePage([bar], dir, { name: 'push.htm' });
+    const url = kit.makePage([bar], s.dir, { name: 'push.htm' });
     const { context, page, messages } = await open(url, { hasTouch: true });
     const at = await spot(page, 'bar', 4);
     assert.strictEqual(await kit.pixelAt(page, at.x, at.y), UP);
@@ -46,7 +37,7 @@ test('hover, press and release show each state; a tap on a radio button keeps it
     await context.close();
 
     // Behaviour 1: the pressed button stays down until another one is pressed.
-    const radio = kit.makePage([path.join(__dirname, 'data', 'radio.orv')], dir,
+    const radio = kit.makePage([path.join(__dirname, 'data', 'radio.orv')], s.dir,
                                { name: 'radio.htm' });
     const r = await open(radio, { hasTouch: true });
     const pick = await spot(r.page, 'radio', 4), also = await spot(r.page, 'radio', 5);
@@ -63,7 +54,7 @@ test('hover, press and release show each state; a tap on a radio button keeps it
 
 test('links open in their targets; Tab reaches the buttons by their labels; canvases are sharp',
      async () => {
-    const url = kit.makePage([bar], dir, {
+    const url = kit.makePage([bar], s.dir, {
         name: 'links.htm',
         body: '<iframe name="side" src="about:blank"></iframe>\r\n',
     });
@@ -103,7 +94,7 @@ test('links open in their targets; Tab reaches the buttons by their labels; canv
 
 test('two applets and a late one play; a spoiled parameter costs its own button only', async () => {
     const code = kit.cli(['html', bar]);
-    const url = kit.makePage([bar, bar], dir, {
+    const url = kit.makePage([bar, bar], s.dir, {
         name: 'two.htm',
         edit: (text, i) => i === 0 ? text : text.replace('name = "bar"', 'name = "Second"')
             .replace(/(<Param Name="2" value=")[^"]*/, '$1spoiled|')
