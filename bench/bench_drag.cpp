@@ -31,9 +31,7 @@ QApplication& App() {
 
 /// The main editor's part is left out: it fills the same fields whatever the count.
 struct NoEditor : SurfaceEditorLink {
-    void ShowProp(int) override {}
     void showGeometry(int) override {}
-    void showSelection() override {}
 };
 
 /// Where button `i` of 101 stands: ten to a row, small enough to fit the applet.

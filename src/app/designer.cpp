@@ -56,7 +56,7 @@ Designer::~Designer() {
 
 void Designer::connectWindows() {
     Editor& editor = m_main->editor();
-    m_surfaceLink = std::make_unique<EditorSurfaceLink>(editor, *m_main);
+    m_surfaceLink = std::make_unique<EditorSurfaceLink>(editor);
     m_interaction = std::make_unique<DesignInteraction>(*m_design, m_model, m_list, *m_surfaceLink);
     m_arrange = std::make_unique<ArrangeTools>(*m_design, m_model, m_list, m_main->history());
     m_snap = std::make_unique<SnapGuides>(*m_design, m_model, m_list, m_settings);

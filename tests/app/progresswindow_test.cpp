@@ -2,12 +2,11 @@
 #include "frmmessage.h"
 #include "paintsupport.h"
 #include "qtuserinterface.h"
-#include "startupprobe.h"
 #include "testapplication.h"
 
-#include <QMainWindow>
 #include <QSignalSpy>
 #include <QTest>
+#include <chrono>
 #include <gtest/gtest.h>
 
 using namespace orvelin;
@@ -31,6 +30,13 @@ TEST(ProgressWindow, ShowsTitleTextAndPercentWithOneBusyPointer) {
     ui.hideProgress();
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+
+    // With a delay, a short operation shows neither the window nor the busy pointer.
+    ui.setProgressDelay(std::chrono::hours(1));
+    ui.showProgress("Please Wait...", "Loading Button # 1 of 4", 25);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    ui.hideProgress();
 }
 
 TEST(ColorButton, ModelColoursKeepRedInTheLowByteAndSettingOneDoesNotReportIt) {
@@ -43,24 +49,4 @@ TEST(ColorButton, ModelColoursKeepRedInTheLowByteAndSettingOneDoesNotReportIt) {
     button.setColour(255);
     EXPECT_EQ(button.colour(), 255);
     EXPECT_EQ(chosen.count(), 0);
-}
-
-TEST(StartupProbe, GoesIdleOnceEveryWatchedWindowIsShown) {
-    orvelin::testing::TestApplication();
-    QMainWindow first, second;
-    first.setObjectName(QStringLiteral("first"));
-    second.setObjectName(QStringLiteral("second"));
-    StartupProbe probe;
-    probe.watch(&first);
-    probe.watch(&second);
-    QSignalSpy idle(&probe, &StartupProbe::idle);
-    probe.start();
-    first.show();
-    QTest::qWait(50);
-    EXPECT_EQ(idle.count(), 0) << "the second window is not shown yet";
-    second.show();
-    EXPECT_TRUE(idle.wait(5000));
-    EXPECT_EQ(probe.exposed(), (QStringList{QStringLiteral("first"), QStringLiteral("second")}));
-    QTest::qWait(20);
-    EXPECT_EQ(idle.count(), 1);
 }

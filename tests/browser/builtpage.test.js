@@ -17,14 +17,6 @@ function fail(message) {
     process.exit(1);
 }
 
-function loadPlaywright() {
-    try {
-        return require('playwright-core');
-    } catch (e) {
-        fail('playwright-core is not installed; run scripts/install-node-modules.sh');
-    }
-}
-
 // Every <Param Name="..." value="..."> of a text, in order.
 function parameters(text) {
     return [...text.matchAll(/<Param Name="([^"]*)" ?value="([^"]*)">/g)].map((m) => [m[1], m[2]]);
@@ -34,9 +26,7 @@ async function main() {
     const [cli, project, programData] = process.argv.slice(2);
     if (!cli || !project || !programData)
         fail('usage: builtpage.test.js ORVELIN_CLI PROJECT PROGRAM_FOLDER');
-    if (!fs.existsSync(CHROMIUM))
-        fail(CHROMIUM + ' is missing; run scripts/install-deps.sh');
-    const { chromium } = loadPlaywright();
+    const { chromium } = require('playwright-core'); // scripts/install-node-modules.sh
 
     // A program folder with stand-ins for the applet files, which are not part of
     // Orvelin: the build copies them and the page names them.

@@ -39,7 +39,6 @@ ProjectModel Applet(int count) {
 
 TEST_F(AppletBackground, CenterPlacesTheImageInTheMiddleShiftedByTheOffsetOverTheColour) {
     model.BackImg = dir.filePath("gone.jpg").toStdString(); // missing: the plain colour
-    EXPECT_EQ(render().size(), QSize(60, 40));
     EXPECT_TRUE(InkBox(render(), kGreen).isEmpty());
     model.BackImg = SaveMarkedTile(dir, 10, "c.png");
     EXPECT_EQ(Pixel(render(), 25, 15), kRed);
@@ -120,7 +119,6 @@ TEST(RenderSurface, PaintsTheBackgroundThenTheButtonsInZOrderEachInItsState) {
     model.button(2).BackColorUP = 0xFF0000; // later, so on top
     model.button(2).BackColorOVER = 0x00FF00;
     const QImage surface = renderSurface(model, ButtonState::UP);
-    EXPECT_EQ(surface.size(), QSize(120, 60));
     EXPECT_EQ(Pixel(surface, 0, 0), 0u);
     EXPECT_EQ(Pixel(surface, 15, 15), kRed);
     EXPECT_EQ(Pixel(surface, 35, 25), kBlue);

@@ -2,7 +2,6 @@
 // The player draws what the design window draws: a project using every image placement,
 // borders on and off, a transparent and a hidden button, multi-line and placed labels,
 // bold and italic, compared in each state with `orvelin-cli render` of the same project.
-// Set ORVELIN_PLAYER_SHOTS to a folder to keep the screenshots and the difference masks.
 const { test } = require('node:test');
 const assert = require('node:assert');
 const fs = require('fs');
@@ -14,7 +13,6 @@ const TOLERANCE = 48; // levels per channel
 
 test('every state matches the design window\'s picture', async () => {
     const dir = kit.tempDir('pixels');
-    const keep = process.env.ORVELIN_PLAYER_SHOTS;
     const browser = await kit.launch();
     try {
         const url = kit.makePage([project], dir);
@@ -39,12 +37,6 @@ test('every state matches the design window\'s picture', async () => {
             assert.ok(diff.total, 'the page and the render differ in size: ' + diff.size);
             const share = diff.close / diff.total;
             results.push(state + ' ' + (100 * share).toFixed(2) + '%');
-            if (keep) {
-                fs.mkdirSync(keep, { recursive: true });
-                fs.copyFileSync(rendered, path.join(keep, state + '-render.png'));
-                fs.writeFileSync(path.join(keep, state + '-player.png'), shot);
-                fs.writeFileSync(path.join(keep, state + '-mask.png'), diff.mask);
-            }
             assert.ok(share >= 0.97, `${state}: ${(100 * share).toFixed(2)}% of the pixels close`);
         }
         console.log('pixels within ' + TOLERANCE + ' levels: ' + results.join(', '));

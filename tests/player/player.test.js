@@ -1,7 +1,7 @@
 'use strict';
 // The player in Debian's chromium, on pages opened from disk: states, radio buttons,
 // links and targets, the keyboard, touch, two applets, late applets and spoiled parameters.
-const { test, before, after } = require('node:test');
+const { test } = require('node:test');
 const assert = require('node:assert');
 const fs = require('fs');
 const path = require('path');
@@ -9,9 +9,10 @@ const kit = require('./pagekit');
 
 const bar = path.join(__dirname, 'data', 'bar.orv');
 const UP = '#ffff00', OVER = '#00ffff', DOWN = '#ff0000';
-let browser, dir;
+const s = kit.session('player');
+fs.writeFileSync(path.join(s.dir, 'second.htm'), '<!DOCTYPE html><title>Second</title>');
 
-const open = (url, options) => kit.open(browser, url, options);
+const open = (url, options) => kit.open(s.browser, url, options);
 
 /** Page position of the middle of a button's top-left corner area (clear of the label). */
 async function spot(page, appletName, n) {
@@ -19,18 +20,8 @@ async function spot(page, appletName, n) {
     return { x: box.x + 5 + (n - 1) * 95 + 4, y: box.y + 10 + 4 };
 }
 
-before(async () => {
-    browser = await kit.launch();
-    dir = kit.tempDir('player');
-    fs.writeFileSync(path.join(dir, 'second.htm'), '<!DOCTYPE html><title>Second</title>');
-});
-after(async () => {
-    await browser.close();
-    fs.rmSync(dir, { recursive: true, force: true });
-});
-
 test('hover, press and release show each state; a tap on a radio button keeps it down', async () => {
-    const url = kit.makePage([bar], dir, { name: 'push.htm' });
+    const url = kit.makePage([bar], s.dir, { name: 'push.htm' });
     const { context, page, messages } = await open(url, { hasTouch: true });
     const at = await spot(page, 'bar', 4);
     assert.strictEqual(await kit.pixelAt(page, at.x, at.y), UP);
@@ -46,7 +37,7 @@ test('hover, press and release show each state; a tap on a radio button keeps it
     await context.close();
 
     // Behaviour 1: the pressed button stays down until another one is pressed.
-    const radio = kit.makePage([path.join(__dirname, 'data', 'radio.orv')], dir,
+    const radio = kit.makePage([path.join(__dirname, 'data', 'radio.orv')], s.dir,
                                { name: 'radio.htm' });
     const r = await open(radio, { hasTouch: true });
     const pick = await spot(r.page, 'radio', 4), also = await spot(r.page, 'radio', 5);
@@ -61,12 +52,18 @@ test('hover, press and release show each state; a tap on a radio button keeps it
     await r.context.close();
 });
 
-test('links open in their targets; Tab reaches the buttons in order by their labels', async () => {
-    const url = kit.makePage([bar], dir, {
+test('links open in their targets; Tab reaches the buttons by their labels; canvases are sharp',
+     async () => {
+    const url = kit.makePage([bar], s.dir, {
         name: 'links.htm',
         body: '<iframe name="side" src="about:blank"></iframe>\r\n',
     });
-    const { context, page } = await open(url);
+    // A high-density screen gets canvases at its own resolution.
+    const { context, page } = await open(url, { deviceScaleFactor: 2 });
+    assert.deepStrictEqual(await page.evaluate(() => {
+        const c = document.querySelector('[name=bar] canvas');
+        return [c.width, c.height, c.clientWidth, c.clientHeight];
+    }), [960, 120, 480, 60]);
     const names = [];
     for (let i = 0; i < 5; i++) {
         await page.keyboard.press('Tab');
@@ -97,7 +94,7 @@ test('links open in their targets; Tab reaches the buttons in order by their lab
 
 test('two applets and a late one play; a spoiled parameter costs its own button only', async () => {
     const code = kit.cli(['html', bar]);
-    const url = kit.makePage([bar, bar], dir, {
+    const url = kit.makePage([bar, bar], s.dir, {
         name: 'two.htm',
         edit: (text, i) => i === 0 ? text : text.replace('name = "bar"', 'name = "Second"')
             .replace(/(<Param Name="2" value=")[^"]*/, '$1spoiled|')
@@ -120,16 +117,5 @@ test('two applets and a late one play; a spoiled parameter costs its own button 
     assert.strictEqual(await kit.pixelAt(page, third.x, third.y), '#202020');
     await page.mouse.move(third.x + 20, third.y + 10);
     assert.strictEqual(await kit.pixelAt(page, third.x, third.y), OVER);
-    await context.close();
-});
-
-test('a high-density screen gets canvases at its own resolution', async () => {
-    const url = kit.makePage([bar], dir, { name: 'dense.htm' });
-    const { context, page } = await open(url, { deviceScaleFactor: 2 });
-    const size = await page.evaluate(() => {
-        const c = document.querySelector('[name=bar] canvas');
-        return [c.width, c.height, c.clientWidth, c.clientHeight];
-    });
-    assert.deepStrictEqual(size, [960, 120, 480, 60]);
     await context.close();
 });

@@ -1,14 +1,14 @@
 'use strict';
 // Action programs in Debian's chromium, on pages opened from disk: every command and its
 // timing, the events that run them (pointer, keyboard, touch) and the page's functions.
-const { test, before, after } = require('node:test');
+const { test } = require('node:test');
 const assert = require('node:assert');
 const fs = require('fs');
 const path = require('path');
 const kit = require('./pagekit');
 
 const bar = path.join(__dirname, 'data', 'bar.orv');
-let browser, dir;
+const s = kit.session('programs');
 
 /** Puts program texts into the applet code: `buttons` maps a button number to its
  *  [UP, OVER, DOWN] programs, `applet` holds [OVER, DOWN, OUT, Start]. */
@@ -23,27 +23,18 @@ function withPrograms(buttons, applet) {
     });
 }
 
-const open = (url, options) => kit.open(browser, url, options, () => { window.log = []; });
+const open = (url, options) => kit.open(s.browser, url, options, () => { window.log = []; });
 
 const center = (page, n) => page.evaluate((k) => {
     const r = document.getElementsByName('bar')[0].children[k].getBoundingClientRect();
     return { x: r.x + 4, y: r.y + 4 };
 }, n);
 
-before(async () => {
-    browser = await kit.launch();
-    dir = kit.tempDir('programs');
-});
-after(async () => {
-    await browser.close();
-    fs.rmSync(dir, { recursive: true, force: true });
-});
-
 test('a program hides, waits, shows, moves, relabels and recolours in order and on time', async () => {
     const program = '7 0 log.push(performance.now())&y01throw&nbsp0;2 2;6 500.5;1 2;' +
         '3 3 5 -999 -999 20;4 4 1 New&nbsplabel;5 1 1 123456;bad line;1 99;4 1 7 x;' +
         '7 0 log.push(document.title)';
-    const url = kit.makePage([bar], dir, {
+    const url = kit.makePage([bar], s.dir, {
         name: 'commands.htm', edit: withPrograms({ 4: ['', '', program + ';'] }),
     });
     const { context, page, messages } = await open(url);
@@ -89,7 +80,7 @@ test('a program hides, waits, shows, moves, relabels and recolours in order and 
 
 test('the applet programs and the button programs run on pointer, keyboard and touch', async () => {
     const js = (word) => `7 0 log.push('${word}');`;
-    const url = kit.makePage([bar], dir, {
+    const url = kit.makePage([bar], s.dir, {
         name: 'events.htm',
         edit: withPrograms({ 4: [js('b-up'), js('b-over'), js('b-down')] },
                            [js('over'), js('down'), js('out'), js('start')]),
@@ -122,9 +113,9 @@ test('the applet programs and the button programs run on pointer, keyboard and t
 });
 
 test('page functions drive a bar by a name that is no identifier', async () => {
-    const project = path.join(dir, 'A<B.orv');
+    const project = path.join(s.dir, 'A<B.orv');
     fs.copyFileSync(bar, project);
-    const url = kit.makePage([project], dir, {
+    const url = kit.makePage([project], s.dir, {
         name: 'jscaller.htm',
         edit: withPrograms({ 1: ['', '', "7 0 log.push('pressed');"] }),
         body: '<script>log.push(InitJSCaller(), OrvelinHide("A<B", 2), OrvelinShow("nobar", 2));' +

@@ -1,7 +1,7 @@
 'use strict';
 // State sounds: the player's Sun audio decoder against files written by sox, and the OVER
 // sound of a built page, opened from disk, reaching the audio output.
-const { test, before, after } = require('node:test');
+const { test } = require('node:test');
 const assert = require('node:assert');
 const { execFileSync } = require('child_process');
 const fs = require('fs');
@@ -9,20 +9,11 @@ const path = require('path');
 const kit = require('./pagekit');
 
 const bar = path.join(__dirname, 'data', 'bar.orv');
-let browser, dir;
-
-before(async () => {
-    browser = await kit.launch();
-    dir = kit.tempDir('sounds');
-});
-after(async () => {
-    await browser.close();
-    fs.rmSync(dir, { recursive: true, force: true });
-});
+const s = kit.session('sounds');
 
 /** A two-tone sound written by sox with `options` (rate, channels, encoding). */
 function sox(name, options) {
-    const file = path.join(dir, name);
+    const file = path.join(s.dir, name);
     execFileSync('sox', ['-n', ...options, file, 'synth', '0.3', 'sine', '440', 'sine', '660',
                          'vol', '0.8']);
     return file;
@@ -37,8 +28,8 @@ test('the decoder reads every encoding sox writes as sox reads it', async () => 
         'pcm24.au': ['-r', '44100', '-c', '3', '-e', 'signed', '-b', '24'],
         'float.au': ['-r', '16000', '-c', '1', '-e', 'floating-point', '-b', '32'],
     };
-    const page = await browser.newPage();
-    await page.goto(kit.makePage([bar], dir, { name: 'decode.htm' }));
+    const page = await s.browser.newPage();
+    await page.goto(kit.makePage([bar], s.dir, { name: 'decode.htm' }));
     for (const [name, options] of Object.entries(cases)) {
         const file = sox(name, options);
         const expected = new Float32Array(new Uint8Array(execFileSync(
@@ -74,12 +65,12 @@ test('the OVER sound of a built page opened from disk plays after the first gest
     const first = lines[2].split('|');
     first[32] = sound;
     lines[2] = first.join('|');
-    const project = path.join(dir, 'sound.orv');
+    const project = path.join(s.dir, 'sound.orv');
     fs.writeFileSync(project, lines.join('\n'));
-    const site = path.join(dir, 'site');
+    const site = path.join(s.dir, 'site');
     fs.mkdirSync(site);
     // A program folder of its own: the build copies the player from it.
-    const program = path.join(dir, 'program');
+    const program = path.join(s.dir, 'program');
     fs.mkdirSync(program);
     for (const name of ['Orvel.ini', 'orvelin-player.js'])
         fs.copyFileSync(path.join(kit.binDir, name), path.join(program, name));
@@ -88,7 +79,7 @@ test('the OVER sound of a built page opened from disk plays after the first gest
 
     // Every node that reaches the output is also heard by an analyser.
     const url = kit.makePage([project], site);
-    const { context, page, messages } = await kit.open(browser, url, {}, () => {
+    const { context, page, messages } = await kit.open(s.browser, url, {}, () => {
         window.heard = [];
         const connect = AudioNode.prototype.connect;
         AudioNode.prototype.connect = function (target, ...rest) {
