@@ -98,22 +98,6 @@ TEST(EditorText, SaveAsAddsTheProjectExtensionToANameWithoutOneUnderTheProjectFi
               "/a/b.ar/a/bar");
 }
 
-TEST_F(EditorFixture, StartupWithAnEmptyStoreShowsOneSavedButton) {
-    settings.setFlag(SettingKey::AutoTile, false);
-    ASSERT_EQ(editor.startup(""), StartupResult::Ready);
-    EXPECT_EQ(Shown(), "1 buttons, current 1, list 1 selecting 1, saved");
-    EXPECT_EQ(model.CurrentState, ButtonState::UP);
-    EXPECT_EQ(model.button(1), ButtonRecord{});
-    EXPECT_EQ(view.caption, kTitle);
-    EXPECT_EQ(view.actionTitle, "Set Action: On Leaving Button...");
-    EXPECT_EQ(view.language, "English");
-    EXPECT_FALSE(view.onTopChecked || view.autoTileChecked || design.onTop);
-    EXPECT_TRUE(ui.shown.empty());
-    EXPECT_TRUE(editor.mayAskToAssociate());
-    backend.set(kParams, "DontAskToAssociate", "1");
-    EXPECT_FALSE(editor.mayAskToAssociate());
-}
-
 TEST_F(EditorFixture, StartupAppliesTheStoredOptions) {
     settings.setFlag(SettingKey::frmDesignOnTop, true);
     settings.setValue(SettingKey::LanguageCurrent, "rus");
@@ -122,17 +106,6 @@ TEST_F(EditorFixture, StartupAppliesTheStoredOptions) {
     EXPECT_TRUE(design.onTop && view.onTopChecked && view.autoTileChecked);
     EXPECT_EQ(view.language, "rus");
     EXPECT_EQ(view.recent[1], (std::pair<std::string, bool>{"/x/a.orv", true}));
-}
-
-TEST_F(EditorFixture, AQuotedCommandLineOpensTheFileNamedInsideTheQuotes) {
-    const std::string path = WriteProject("my project", 3);
-    ASSERT_EQ(editor.startup("  \"" + path + "\" "), StartupResult::Ready);
-    EXPECT_EQ(Shown(), "3 buttons, current 1, list 3 selecting 1, saved");
-    EXPECT_EQ(model.button(2).LabelUP, "my project2");
-    EXPECT_EQ(model.ProjectFileName, path);
-    EXPECT_EQ(view.caption, kTitle + " " + path);
-    EXPECT_EQ(settings.recentFile(1), path);
-    EXPECT_TRUE(ui.messages().empty());
 }
 
 TEST_F(EditorFixture, AnUnreadableCommandLinePathReportsAndKeepsTheEditorOpen) {
@@ -236,34 +209,6 @@ TEST_F(EditorFixture, RemovingTheLastButtonLeavesCurrentButton1AndTheNextAddMake
     EXPECT_EQ(view.props.size(), shown);
     editor.addButton();
     EXPECT_EQ(Shown(), "1 buttons, current 1, list 1 selecting 1, changed");
-}
-
-TEST_F(EditorFixture, ListClicksMakeTheCurrentButtonAndKeepTheListsSelection) {
-    Start(2);
-    editor.setListSelection({1, 3});
-    editor.clickList(3);
-    EXPECT_EQ(Shown(), "3 buttons, current 3, list 3 selecting 1 3, saved");
-    EXPECT_EQ(view.props.back().caption, "Properties for Button # 3");
-    editor.clickList(4);
-    editor.clickList(0);
-    EXPECT_EQ(Shown(), "3 buttons, current 3, list 3 selecting 1 3, saved");
-}
-
-TEST_F(EditorFixture, SwitchingTheStateRetitlesTheActionAndShowsThatState) {
-    Start(1);
-    const std::tuple<const char*, const char*, const char*> states[] = {
-        {"OVER", "OVER", "Set Action: On Entering Button..."},
-        {"DOWN", "DOWN", "Set Action: On Button Press..."},
-        {"SIDEWAYS", "DOWN", "Set Action: On Button Press..."},
-        {"UP", "UP", "Set Action: On Leaving Button..."}};
-    for (const auto& [state, shown, title] : states) {
-        editor.switchState(state);
-        EXPECT_EQ(view.state, model.CurrentState);
-        EXPECT_EQ(view.actionTitle, title);
-        EXPECT_EQ(editor.actionProgramKind(), "Program" + std::string(shown));
-        EXPECT_EQ(view.props.back().state, shown);
-    }
-    EXPECT_TRUE(model.Saved);
 }
 
 TEST_F(EditorFixture, AskToSaveOnAnUnchangedProjectAsksNothingAndOnYesSavesUnderItsName) {
@@ -447,23 +392,6 @@ TEST_F(EditorFixture, ImportingALegacyProjectLeavesItUnnamedAndUnsaved) {
     EXPECT_EQ(view.caption, kTitle);
 }
 
-TEST_F(EditorFixture, MakeDefaultStoresTheCurrentButtonForNewOnes) {
-    Start();
-    editor.removeButton();
-    model.CurrentButton = 0;
-    editor.makeDefault();
-    EXPECT_EQ(ui.messages(), Texts{"Nothing selected"});
-    EXPECT_EQ(settings.value(SettingKey::strDefaultBtn), "-1");
-    editor.addButton();
-    model.button(1).LabelUP = "Say \"hi\"";
-    model.button(1).FontColorDOWN = 7;
-    editor.makeDefault();
-    EXPECT_EQ(ui.messages().back(), "Properties of this button will be used to create new ones.");
-    editor.addButton();
-    EXPECT_EQ(model.button(2).LabelUP, "Say \"hi\"");
-    EXPECT_EQ(model.button(2).FontColorDOWN, 7);
-}
-
 TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     Start();
     const std::string dir = folder.dir().string();
@@ -489,20 +417,3 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     EXPECT_NE(ui.messages()[2].find("apt install"), std::string::npos);
 }
 
-TEST_F(EditorFixture, OptionCommandsStoreTheChoiceAndShowIt) {
-    Start();
-    editor.toggleKeepOnTop();
-    EXPECT_TRUE(editor.keepOnTop() && view.onTopChecked && design.onTop);
-    EXPECT_EQ(backend.get(kParams, "frmDesignOnTop", ""), "1");
-    editor.toggleKeepOnTop();
-    EXPECT_FALSE(editor.keepOnTop() || view.onTopChecked);
-
-    editor.setLanguage("heb");
-    EXPECT_EQ(settings.value(SettingKey::LanguageCurrent), "heb");
-    EXPECT_EQ(view.language, "heb");
-    EXPECT_TRUE(ui.shown.empty());
-    editor.setLanguage("English");
-    EXPECT_EQ(settings.value(SettingKey::LanguageCurrent), "English");
-    EXPECT_EQ(ui.messages(),
-              Texts{"Change will take effect the next time the Program is started."});
-}

@@ -92,27 +92,6 @@ TEST_F(PropertyFixture, NothingIsWrittenWhileUpdatingOrWithoutASelection) {
     EXPECT_TRUE(view.props.empty());
 }
 
-TEST_F(PropertyFixture, FillingThePanelDoesNotCountAsAnEdit) {
-    MakeButtons(1, {1}, 1);
-    // The window's controls fire their change signals while being filled.
-    view.onFill = [this] {
-        props.setLabel("echo");
-        props.setAppletWidth("1");
-    };
-    props.ShowProp(1);
-    props.SetMainParams();
-    EXPECT_EQ(model.button(1).LabelUP, "");
-    EXPECT_EQ(model.AppletWidth, 510);
-    EXPECT_TRUE(model.Saved);
-    EXPECT_FALSE(model.Updating) << "the flag is restored afterwards";
-    ASSERT_EQ(view.props.size(), 1u);
-    EXPECT_TRUE(view.props[0].updating);
-    EXPECT_EQ(view.mainParamsUpdating, (std::vector<bool>{true}));
-    props.ShowProp(2);
-    props.ShowProp(0);
-    EXPECT_EQ(view.props.size(), 1u) << "no panel for a button that does not exist";
-}
-
 TEST_F(PropertyFixture, PositionTextAndCenterTextAreOneFlagAndRefreshThePanel) {
     MakeButtons(3, {2, 3}, 3);
     model.CurrentState = ButtonState::OVER;
@@ -123,21 +102,6 @@ TEST_F(PropertyFixture, PositionTextAndCenterTextAreOneFlagAndRefreshThePanel) {
     EXPECT_EQ(view.props.size(), 1u) << "the panel shows the new flag";
     props.setCenterText(true);
     EXPECT_EQ(model.button(2).PositionTextOVER + model.button(3).PositionTextOVER, 0);
-}
-
-TEST_F(PropertyFixture, AppletControlsWriteTheModelAndTheSurfaceFollowsTheTypedSize) {
-    EXPECT_TRUE(props.setAppletWidth("300"));
-    EXPECT_EQ(design.count("AppletChanged"), 1); // at once, not only on Enter
-    // A size below 1, or none while it is typed, is refused and written nowhere.
-    for (const char* refused : {"x", "", "0", "-5"})
-        EXPECT_FALSE(props.setAppletHeight(refused)) << refused;
-    props.setBehaviour(1);
-    props.setDOWNBtn(true);
-    EXPECT_EQ(
-        (std::vector<int>{model.AppletWidth, model.AppletHeight, model.Behaviour, model.DOWNBtn}),
-        (std::vector<int>{300, 170, 1, 1}));
-    EXPECT_EQ(design.count("AppletChanged"), 1);
-    EXPECT_FALSE(model.Saved);
 }
 
 TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsOn) {
