@@ -416,4 +416,3 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     EXPECT_TRUE(ui.messages()[2].starts_with(page + " could not be opened: "));
     EXPECT_NE(ui.messages()[2].find("apt install"), std::string::npos);
 }
-
