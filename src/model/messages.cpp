@@ -149,8 +149,8 @@ MessageTable::MessageTable() {
         m_texts[i] = englishDefault(static_cast<Msg>(i));
 }
 
-MessageTable& messages() {
-    static MessageTable table;
+const MessageTable& messages() {
+    static const MessageTable table;
     return table;
 }
 

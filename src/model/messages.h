@@ -105,8 +105,9 @@ private:
     std::array<std::string, static_cast<std::size_t>(Msg::Count)> m_texts;
 };
 
-/// The program's one message table.
-MessageTable& messages();
+/// The program's messages, in English: a constant table until language files can
+/// replace its texts.
+const MessageTable& messages();
 
 /// Carriage return and line feed, the line break of every text the program writes.
 inline constexpr std::string_view kCrLf = "\r\n";

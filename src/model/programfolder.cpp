@@ -12,11 +12,6 @@ namespace orvelin {
 
 namespace {
 
-std::string& overrideFolder() {
-    static std::string folder;
-    return folder;
-}
-
 bool isSeparator(char c) {
     return c == '/' || c == '\\';
 }
@@ -52,8 +47,6 @@ bool isWritableFolder(const std::string& folder) {
 std::string findProgramFolder(std::string_view chosen) {
     if (!chosen.empty())
         return std::string(chosen);
-    if (!overrideFolder().empty())
-        return overrideFolder();
     if (std::string fromEnvironment = environmentText("ORVELIN_PROGRAM_DIR");
         !fromEnvironment.empty())
         return fromEnvironment;
@@ -79,10 +72,6 @@ bool runFromBuildFolder() {
     std::error_code ec;
     const fs::path exeFolder = executableFolder();
     return !exeFolder.empty() && fs::is_regular_file(exeFolder / "Orvel.ini", ec);
-}
-
-void setProgramFolderOverride(const std::string& folder) {
-    overrideFolder() = folder;
 }
 
 std::string joinPath(std::string_view folder, std::string_view name) {

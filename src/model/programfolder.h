@@ -21,13 +21,6 @@ std::string executablePath();
 /// rather than from an installed copy.
 bool runFromBuildFolder();
 
-/**
- * What findProgramFolder() gives when nothing is chosen, for an editor made without a
- * folder of its own; an empty text removes it. Kept only for callers that cannot yet
- * hand the editor its folder.
- */
-void setProgramFolderOverride(const std::string& folder);
-
 /// `folder` joined with `name`; either may use "/" or "\".
 std::string joinPath(std::string_view folder, std::string_view name);
 

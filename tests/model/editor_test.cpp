@@ -1,7 +1,6 @@
 #include "editor.h"
 #include "editorfakes.h"
 #include "fakeui.h"
-#include "programfolder.h"
 #include "projectfile.h"
 #include "tempfolder.h"
 #include "testdoubles.h"
@@ -35,8 +34,8 @@ struct EditorFixture : ::testing::Test {
     orvelin::testing::RecordingDesignView design{model};
     orvelin::testing::FakeShell shell;
     orvelin::testing::RecordingEditorView view{model};
-    Editor editor{model, list, ui, settings, design, shell, view};
     orvelin::testing::TempFolder folder;
+    Editor editor{model, list, ui, settings, design, shell, view, folder.dir().string()};
 
     std::string PathOf(const std::string& name) const { return folder.path(name); }
 
@@ -396,7 +395,6 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     Start();
     const std::string dir = folder.dir().string();
     const std::string page = dir + "/help/help.htm";
-    setProgramFolderOverride(dir);
     editor.help(); // no page: not handed to the desktop at all
     std::filesystem::create_directories(dir + "/help");
     orvelin::testing::WriteBytes(page, "<html></html>");
@@ -405,7 +403,6 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     shell.succeed = false;
     editor.soundConverter();
     editor.help();
-    setProgramFolderOverride("");
     ASSERT_EQ(shell.started.size(), 2u);
     EXPECT_EQ(shell.started[0].first, dir + "/SoundConv");
     EXPECT_EQ(shell.opened, (Texts{page, page}));
