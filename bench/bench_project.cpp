@@ -1,8 +1,8 @@
 // Loading and saving a full project beside plain stream reading and writing of the
 // same bytes: the project file should cost no more than about three times as much.
 
+#include "fakeui.h"
 #include "projectfile.h"
-#include "testdoubles.h"
 #include "userinterface.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@
 #include <string>
 
 using namespace orvelin;
-using orvelin::testing::SilentUserInterface;
+using orvelin::testing::FakeUserInterface;
 namespace fs = std::filesystem;
 
 namespace {
@@ -63,7 +63,7 @@ std::string savedProjectFile() {
     static const std::string path = [] {
         const std::string p = (folder() / "full.orv").string();
         ProjectModel m = fullProject();
-        SilentUserInterface ui;
+        FakeUserInterface ui;
         SaveProject(m, p, ui);
         return p;
     }();
@@ -77,7 +77,7 @@ std::string fileBytes(const std::string& path) {
 
 void BM_LoadProject(benchmark::State& state) {
     const std::string path = savedProjectFile();
-    SilentUserInterface ui;
+    FakeUserInterface ui;
     ProjectModel model;
     for (auto _ : state) {
         const bool ok = LoadProject(model, path, &ui).loaded();
@@ -105,7 +105,7 @@ BENCHMARK(BM_ReadPlainStream);
 
 void BM_SaveProject(benchmark::State& state) {
     ProjectModel model = fullProject();
-    SilentUserInterface ui;
+    FakeUserInterface ui;
     const std::string path = (folder() / "save.orv").string();
     for (auto _ : state) {
         const bool ok = SaveProject(model, path, ui);
@@ -157,7 +157,7 @@ std::string emptyLinesFile() {
 template <LoadResult (*Load)(ProjectModel&, const std::string&, ProgressView*)>
 void loadEmptyLines(benchmark::State& state) {
     const std::string path = emptyLinesFile();
-    SilentUserInterface ui;
+    FakeUserInterface ui;
     ProjectModel model;
     std::size_t peak = 0;
     for (auto _ : state) {

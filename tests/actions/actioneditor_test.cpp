@@ -55,20 +55,6 @@ TEST_F(ActionEditorTest, OpeningFillsTheListsAndLoadsTheCurrentButtonsProgram) {
     EXPECT_TRUE(ui.shown.empty());
 }
 
-TEST_F(ActionEditorTest, OkCopiesTheProgramToEverySelectedButtonOnly) {
-    editor.open(ProgramKind::ProgramOVER);
-    editor.inputs().milliseconds = "250";
-    ASSERT_TRUE(add(Wait));
-    editor.ok({false, true, true});
-    EXPECT_EQ(model.button(2).ProgramOVER, "2 1;6 500;6 250;");
-    EXPECT_EQ(model.button(3).ProgramOVER, "2 1;6 500;6 250;");
-    EXPECT_EQ(model.button(1).ProgramOVER, "1 1;");
-    EXPECT_EQ(model.button(2).ProgramUP, "");
-    EXPECT_FALSE(model.Saved);
-    editor.open(ProgramKind::AppletProgramOVER);
-    EXPECT_TRUE(editor.targetButtons({true, true, true}).empty());
-}
-
 TEST_F(ActionEditorTest, ALabelWithASemicolonIsAddedOnlyWhenTheUserAcceptsTheCut) {
     editor.open(ProgramKind::ProgramOVER);
     editor.inputs().label = "Bye now; see you";

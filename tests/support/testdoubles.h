@@ -1,10 +1,8 @@
 #pragma once
 
 #include "settings.h"
-#include "userinterface.h"
 
 #include <map>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -27,18 +25,6 @@ private:
     std::map<std::pair<std::string, std::string>, std::string> m_values;
 };
 
-/// A user interface that shows nothing and cancels every question, for code that
-/// loads or saves without anyone watching.
-class SilentUserInterface : public UserInterface {
-public:
-    void showMessage(const std::string&, const std::string&) override {}
-    Answer askYesNoCancel(const std::string&, const std::string&) override {
-        return Answer::Cancel;
-    }
-    Answer askOkCancel(const std::string&, const std::string&) override { return Answer::Ok; }
-    std::optional<std::string> chooseOpenFile(const std::string&) override { return {}; }
-    std::optional<std::string> chooseSaveFile(const std::string&, const std::string&) override {
-        return {};
     }
     void showProgress(const std::string&, const std::string&, int) override {}
     void hideProgress() override {}
