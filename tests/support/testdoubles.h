@@ -25,9 +25,4 @@ private:
     std::map<std::pair<std::string, std::string>, std::string> m_values;
 };
 
-    }
-    void showProgress(const std::string&, const std::string&, int) override {}
-    void hideProgress() override {}
-};
-
 } // namespace orvelin::testing
