@@ -1,6 +1,7 @@
 // One drag step on the design surface with 101 selected buttons, against the floor
 // set by the toolkit: moving 101 plain widgets by the same offset.
 
+#include "benchapplication.h"
 #include "buttonpicture.h"
 #include "designinteraction.h"
 #include "frmdesign.h"
@@ -17,17 +18,6 @@ using namespace orvelin;
 namespace {
 
 constexpr int kButtons = 101;
-
-QApplication& App() {
-    static int argc = 1;
-    static char name[] = "bench_drag";
-    static char* argv[] = {name, nullptr};
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Never destroyed: tearing it down among the exit handlers crashes in Qt's own statics.
-    static QApplication* app = new QApplication(argc, argv);
-    return *app;
-}
 
 /// The main editor's part is left out: it fills the same fields whatever the count.
 struct NoEditor : SurfaceEditorLink {
@@ -46,7 +36,7 @@ QMouseEvent MoveEvent(QPointF local) {
 }
 
 void BM_DragStepWith101SelectedButtons(benchmark::State& state) {
-    App();
+    BenchApplication();
     ProjectModel model;
     ButtonList list;
     NoEditor editor;
@@ -87,7 +77,7 @@ void BM_DragStepWith101SelectedButtons(benchmark::State& state) {
 BENCHMARK(BM_DragStepWith101SelectedButtons);
 
 void BM_Move101PlainWidgets(benchmark::State& state) {
-    App();
+    BenchApplication();
     QWidget window;
     auto* area = new QWidget(&window);
     area->setGeometry(12, 12, 510, 170);

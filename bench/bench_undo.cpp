@@ -1,6 +1,7 @@
 // Undo and redo of a group move of 101 buttons in the running designer, against one
 // drag step of the same group in the same designer.
 
+#include "benchapplication.h"
 #include "buttonpicture.h"
 #include "designer.h"
 #include "frmdesign.h"
@@ -9,7 +10,6 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <chrono>
 
@@ -18,19 +18,6 @@ using namespace orvelin;
 namespace {
 
 constexpr int kButtons = 101;
-
-QApplication& App() {
-    static int argc = 1;
-    static char name[] = "bench_undo";
-    static char* argv[] = {name, nullptr};
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The settings go to a folder of their own, never the user's.
-    static QTemporaryDir config;
-    qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
-    static QApplication* app = new QApplication(argc, argv);
-    return *app;
-}
 
 /// The designer with 101 small buttons, all selected, the history empty.
 struct Bench {
@@ -67,7 +54,7 @@ struct Bench {
 };
 
 void BM_DragStepOf101ButtonsInTheDesigner(benchmark::State& state) {
-    App();
+    BenchApplication();
     Bench bench;
     const QPointF grab(5, 5);
     bench.mouse(QEvent::MouseButtonPress, grab);
@@ -85,7 +72,7 @@ void BM_DragStepOf101ButtonsInTheDesigner(benchmark::State& state) {
 BENCHMARK(BM_DragStepOf101ButtonsInTheDesigner);
 
 void UndoRedo(benchmark::State& state, bool timeUndo) {
-    App();
+    BenchApplication();
     Bench bench;
     UndoHistory& history = bench.designer.mainWindow().history();
     for (int i = 1; i <= kButtons; ++i)
