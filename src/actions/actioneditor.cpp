@@ -2,9 +2,9 @@
 
 #include "actioncommands.h"
 #include "actionprogram.h"
-#include "messages.h"
 #include "programbuffer.h"
 #include "projectmodel.h"
+#include "textcatalogue.h"
 #include "texthelpers.h"
 #include "userinterface.h"
 
@@ -19,7 +19,7 @@ std::string wrongBoxLine(int box) {
     static const char* const names[] = {"X", "Y", "width", "height"};
     if (box < 0 || box > 3)
         return {};
-    return std::string(kCrLf) + messages()[Msg::WrongBox] + names[box];
+    return std::string(kCrLf) + orvelin::texts()[Msg::WrongBox] + names[box];
 }
 
 std::string moveBox(std::string word) {
@@ -45,7 +45,7 @@ void ActionEditor::open(ProgramKind kind) {
 
     m_buttonTexts.clear();
     for (int i = 1; i <= m_model.ButtonCount; ++i)
-        m_buttonTexts.push_back(messages()[Msg::ButtonPrefix] + std::to_string(i));
+        m_buttonTexts.push_back(orvelin::texts()[Msg::ButtonPrefix] + std::to_string(i));
     m_button = m_buttonTexts.empty() ? -1 : 0;
     setCommand(0);
     m_state = 0;
@@ -113,7 +113,8 @@ bool ActionEditor::add() {
     // would cut the label there and leave the rest as a line of its own.
     if (m_command + 1 == static_cast<int>(ActionCommand::SetLabel) && !m_buttonTexts.empty() &&
         m_inputs.label.find(';') != std::string::npos &&
-        m_ui.askYesNoCancel(messages()[Msg::LabelCutAtSemicolon]) != UserInterface::Answer::Yes)
+        m_ui.askYesNoCancel(orvelin::texts()[Msg::LabelCutAtSemicolon]) !=
+            UserInterface::Answer::Yes)
         return false;
     CommandInputs in;
     in.haveButtons = !m_buttonTexts.empty();
@@ -133,10 +134,11 @@ bool ActionEditor::add() {
     case CommandResult::Outcome::Line:
         break;
     case CommandResult::Outcome::NoButtons:
-        m_ui.showWarning(messages()[Msg::NoButtonsOnApplet]);
+        m_ui.showWarning(orvelin::texts()[Msg::NoButtonsOnApplet]);
         return false;
     case CommandResult::Outcome::WrongParameters:
-        m_ui.showWarning(result.error + wrongBoxLine(result.box), messages()[Msg::WrongParameters]);
+        m_ui.showWarning(result.error + wrongBoxLine(result.box),
+                         orvelin::texts()[Msg::WrongParameters]);
         return false;
     case CommandResult::Outcome::Silent:
         return false;

@@ -1,7 +1,7 @@
 #include "appletpanel.h"
 
 #include "colorbutton.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "panelwidgets.h"
 #include "projectmodel.h"
 #include "propertyeditor.h"
@@ -54,7 +54,7 @@ QWidget* AppletPanel::buildSize() {
     grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 0, 2);
     grid->addWidget(m_height, 0, 3);
     grid->setColumnStretch(4, 1);
-    m_sizeNote = new QLabel(QString::fromStdString(messages()[Msg::AppletSizeRange]), group);
+    m_sizeNote = new QLabel(QString::fromStdString(texts()[Msg::AppletSizeRange]), group);
     m_sizeNote->setObjectName(QStringLiteral("lblSizeNote"));
     m_sizeNote->setWordWrap(true);
     m_sizeNote->setStyleSheet(QStringLiteral("color: #a03000;"));

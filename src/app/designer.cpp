@@ -8,9 +8,9 @@
 #include "frmmain.h"
 #include "globalini.h"
 #include "mainmenus.h"
-#include "messages.h"
 #include "programfolder.h"
 #include "snapguides.h"
+#include "textcatalogue.h"
 #include "undohistory.h"
 #include "windowgeometry.h"
 
@@ -47,11 +47,19 @@ Designer::Designer(UserInterface* ui)
         return project.isEmpty() ? std::string() : QFileInfo(project).absolutePath().toStdString();
     });
     m_design->setNoBackGround(GlobalIni::forProgram(m_programFolder).noBackGround());
+    m_main->editor().setLanguageFiles(&m_languages);
     connectWindows();
 }
 
 Designer::~Designer() {
     m_model.notices.stopListening(m_listening);
+}
+
+void Designer::showTexts(const QString& language) {
+    applyLayoutDirection(language.toStdString());
+    applyWindowTexts(*m_design);
+    if (m_html)
+        applyWindowTexts(*m_html);
 }
 
 void Designer::connectWindows() {
@@ -70,6 +78,7 @@ void Designer::connectWindows() {
             [&editor] { editor.removeButton(); });
     connect(m_design.get(), &FrmDesign::btnViewHtmlClicked, this, [this] { showHtml(); });
     connect(m_main.get(), &FrmMain::htmlViewRequested, this, [this] { showHtml(); });
+    connect(m_main.get(), &FrmMain::textsChanged, this, &Designer::showTexts);
     // An open HTML window shows the code of the document as it changes, once for all
     // the notices of one event.
     m_listening = m_model.notices.listen([this](const DocumentChange& change) {
@@ -85,7 +94,7 @@ void Designer::connectWindows() {
     connect(m_design.get(), &FrmDesign::noBackGroundClicked, this, [this](bool on) {
         TextFileError error;
         if (!GlobalIni::forProgram(m_programFolder).setNoBackGround(on, &error))
-            m_ui.showWarning(withSystemCause(messages()[Msg::IniWriteFailed], error));
+            m_ui.showWarning(withSystemCause(texts()[Msg::IniWriteFailed], error));
     });
     connect(m_design.get(), &FrmDesign::unloading, this,
             [this] { saveWindowGeometry(*m_design, m_settings, kDesignForm); });

@@ -2,11 +2,14 @@
 
 #include "buttonlist.h"
 #include "editor.h"
+#include "languagefiles.h"
 #include "projectmodel.h"
 #include "qsettingsbackend.h"
 #include "qtshell.h"
 #include "qtuserinterface.h"
 #include "settings.h"
+#include "textcatalogue.h"
+#include "windowtexts.h"
 
 #include <QObject>
 #include <QString>
@@ -56,6 +59,9 @@ private:
     void placeDesignWindow();
     /// Shows the HTML window with freshly generated code.
     void showHtml();
+    /// The windows that are always there take the texts in force, laid out for
+    /// `language`.
+    void showTexts(const QString& language);
     /// Sizes the design window to show the whole applet, within the screen.
     void fitDesignWindow();
 
@@ -67,6 +73,10 @@ private:
     QtUserInterface m_qtUi;
     UserInterface& m_ui;
     QtShell m_shell;
+    // The texts every window takes as it is made: before the windows.
+    TextCatalogue m_texts;
+    LanguageFiles m_languages{m_texts, m_settings, m_programFolder};
+    LanguageInForce m_inForce{m_texts, m_languages};
     // The main window's editor refers to the design window: it goes first.
     std::unique_ptr<FrmDesign> m_design;
     std::unique_ptr<FrmMain> m_main;

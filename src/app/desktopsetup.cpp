@@ -1,7 +1,7 @@
 #include "desktopsetup.h"
 
 #include "desktopdialogs.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "programfolder.h"
 #include "settings.h"
 #include "userinterface.h"
@@ -31,7 +31,7 @@ void DesktopSetup::offerAtStartup() {
                    error.empty()) {
             m_settings.setValue(SettingKey::ShortCut, "Created");
         } else {
-            m_ui.showMessage(messages()[Msg::ShortCutFailed] + error + ".");
+            m_ui.showMessage(texts()[Msg::ShortCutFailed] + error + ".");
         }
         if (offers.associate)
             askToAssociate();
@@ -53,13 +53,13 @@ void DesktopSetup::askToAssociate() {
 
 void DesktopSetup::associateNow() {
     if (associate())
-        m_ui.showMessage(messages()[Msg::AssociateDone]);
+        m_ui.showMessage(texts()[Msg::AssociateDone]);
 }
 
 bool DesktopSetup::associate() {
     const std::string error = registerFileType(m_tools, currentDesktopPlaces(m_programFolder));
     if (!error.empty())
-        m_ui.showMessage(messages()[Msg::AssociateFailed] + error + ".");
+        m_ui.showMessage(texts()[Msg::AssociateFailed] + error + ".");
     return error.empty();
 }
 

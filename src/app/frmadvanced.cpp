@@ -2,7 +2,7 @@
 
 #include "accessiblenames.h"
 #include "buttonrecord.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "settings.h"
 #include "userinterface.h"
 
@@ -96,7 +96,7 @@ void FrmAdvanced::chkAutoTile_Click(bool checked) {
 }
 
 void FrmAdvanced::btnRestoreDefaults_Click() {
-    if (m_ui.askOkCancel(messages()[Msg::RestoreDefaultsQuestion]) != UserInterface::Answer::Ok)
+    if (m_ui.askOkCancel(texts()[Msg::RestoreDefaultsQuestion]) != UserInterface::Answer::Ok)
         return;
     m_settings.setDefaultButton(kFactoryDefaultButton);
     for (SettingKey option : {SettingKey::AutoTile, SettingKey::Html5Player,

@@ -3,7 +3,7 @@
 #include "accessiblenames.h"
 #include "frmbrowsersetup.h"
 #include "htmlgenerator.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "publishing.h"
 #include "windowgeometry.h"
 
@@ -102,7 +102,7 @@ void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {
 }
 
 void FrmHTML::MakeHTML() {
-    const MessageTable& msg = messages();
+    const TextCatalogue& msg = texts();
     m_ui.showProgress(msg[Msg::PleaseWait], msg[Msg::GeneratingHtml], -1);
     const std::string& name = nameTheApplet(m_model);
     const GeneratedHtml html = orvelin::MakeHTML(m_model, name, GetJSCaller(name, m_programFolder));

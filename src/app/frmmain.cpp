@@ -9,10 +9,11 @@
 #include "frmsetaction.h"
 #include "imagefile.h"
 #include "mainmenus.h"
-#include "messages.h"
 #include "propertypanel.h"
+#include "textcatalogue.h"
 #include "undohistory.h"
 #include "windowgeometry.h"
+#include "windowtexts.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -176,10 +177,10 @@ void FrmMain::ShowProp(int index, const std::string& caption) {
     // Edits go to the selected buttons: a current button taken out of the selection is
     // shown, but the panel does not pretend to edit it.
     const bool editable = m_list.isSelected(index);
-    m_properties->setEditable(editable,
-                              editable ? QString()
-                                       : QString::fromStdString(buttonEntryText(index) +
-                                                                messages()[Msg::NotSelectedNote]));
+    m_properties->setEditable(
+        editable,
+        editable ? QString()
+                 : QString::fromStdString(buttonEntryText(index) + texts()[Msg::NotSelectedNote]));
 }
 
 void FrmMain::SetMainParams() {
@@ -213,6 +214,11 @@ void FrmMain::showState(ButtonState state) {
 
 void FrmMain::setOnTopChecked(bool checked) {
     m_menus->setOnTopChecked(checked);
+}
+
+void FrmMain::showTexts(const std::string& language) {
+    applyWindowTexts(*this);
+    emit textsChanged(QString::fromStdString(language));
 }
 
 void FrmMain::setLanguageChecked(const std::string& language) {

@@ -48,6 +48,7 @@ public:
     void showState(ButtonState state) override;
     void setOnTopChecked(bool checked) override;
     void setLanguageChecked(const std::string& language) override;
+    void showTexts(const std::string& language) override;
     void setAutoTileChecked(bool checked) override;
     void closeLabelEditor() override;
     void quitProgram() override;
@@ -57,6 +58,8 @@ public:
 signals:
     void designWindowRequested();
     void htmlViewRequested();
+    /// A language changed the texts in force; this window has taken them already.
+    void textsChanged(const QString& language);
     /// The close path said yes: the program ends.
     void closed();
 

@@ -1,7 +1,7 @@
 #include "frmsetaction.h"
 
 #include "accessiblenames.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "paintsupport.h"
 #include "projectmodel.h"
 #include "typedfieldvalidator.h"
@@ -328,7 +328,7 @@ void FrmSetAction::load(ProgramKind kind) {
     setWindowTitle(QString::fromLatin1(programKindTitle(kind)));
     m_editor.open(kind);
     const auto targets = static_cast<int>(m_editor.targetButtons(m_selected).size());
-    m_lblTargets->setText(Q(messages()[Msg::ProgramForButtons]).arg(targets));
+    m_lblTargets->setText(Q(texts()[Msg::ProgramForButtons]).arg(targets));
     m_lblTargets->setVisible(targets > 1);
     showCombos();
     showInputs();

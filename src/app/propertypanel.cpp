@@ -3,7 +3,7 @@
 #include "colorbutton.h"
 #include "editor.h"
 #include "fontfamilybox.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "panelwidgets.h"
 #include "typedfieldvalidator.h"
 
@@ -336,7 +336,7 @@ void PropertyPanel::bindFontSize() {
     QLineEdit* edit = m_fontSize->lineEdit();
     connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
         const bool refused = !text.trimmed().isEmpty() && !isUsableFontSize(Std(text));
-        showNote(refused ? QString::fromStdString(messages()[Msg::FontSizeRange]) : QString());
+        showNote(refused ? QString::fromStdString(texts()[Msg::FontSizeRange]) : QString());
     });
     connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
         if (!isUsableFontSize(Std(edit->text())))

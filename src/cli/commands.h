@@ -28,6 +28,8 @@ int runPage(const std::vector<std::string>& args, const std::string& programFold
 int runBuild(const std::vector<std::string>& args, const std::string& programFolder,
              std::ostream& out, std::ostream& err);
 int runResave(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runLanguageTemplate(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int runLanguageCheck(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #ifdef ORVELIN_CLI_RENDER
 int runRender(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 #endif
@@ -58,5 +60,7 @@ extern const char* const kPageUsage;
 extern const char* const kBuildUsage;
 extern const char* const kResaveUsage;
 extern const char* const kRenderUsage;
+extern const char* const kLanguageTemplateUsage;
+extern const char* const kLanguageCheckUsage;
 
 } // namespace orvelin::cli

@@ -22,6 +22,8 @@ void printHelp(std::ostream& out) {
 #ifdef ORVELIN_CLI_RENDER
         << kRenderUsage << '\n'
 #endif
+        << kLanguageTemplateUsage << '\n'
+        << kLanguageCheckUsage << '\n'
         << "  orvelin-cli help    (also --help, -h)\n"
            "      Shows this text.\n"
            "\n"
@@ -38,6 +40,7 @@ void printHelp(std::ostream& out) {
            "  1  a project could not be loaded or saved (or an image not rendered); the\n"
            "     reason is on stderr and nothing is written to stdout; for build, any\n"
            "     message shown (a file not copied, the page not written)\n"
+           "     (a language file that language-check finds a problem in)\n"
            "  2  wrong command line; a usage text is on stderr\n";
 }
 
@@ -79,6 +82,10 @@ int main(int argc, char** argv) {
         return runBuild(args, programFolder(), std::cout, std::cerr);
     if (command == "resave")
         return runResave(args, std::cout, std::cerr);
+    if (command == "language-template")
+        return runLanguageTemplate(args, std::cout, std::cerr);
+    if (command == "language-check")
+        return runLanguageCheck(args, std::cout, std::cerr);
 #ifdef ORVELIN_CLI_RENDER
     // Rendering needs the painting library; the build defines ORVELIN_CLI_RENDER
     // only when it is there (rendercommand.cpp).

@@ -1,9 +1,9 @@
 #include "buttonpainter.h"
 
 #include "imagecache.h"
-#include "messages.h"
 #include "paintsupport.h"
 #include "propertyeditor.h"
+#include "textcatalogue.h"
 
 #include <QBrush>
 #include <QFont>
@@ -136,9 +136,9 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
             const std::string description = dynamic_cast<const std::out_of_range*>(&error)
                                                 ? std::string("Subscript out of range")
                                                 : std::string(error.what());
-            const MessageTable& texts = messages();
-            m_ui->showWarning(texts[Msg::SomethingWrong] + std::string(kCrLf) +
-                              texts[Msg::OnDrawLabel] + std::to_string(index) + ") " +
+            const TextCatalogue& msg = texts();
+            m_ui->showWarning(msg[Msg::SomethingWrong] + std::string(kCrLf) +
+                              msg[Msg::OnDrawLabel] + std::to_string(index) + ") " +
                               std::string(kCrLf) + description);
         }
         return false;

@@ -1,6 +1,6 @@
 #include "buttonlist.h"
 
-#include "messages.h"
+#include "textcatalogue.h"
 
 namespace orvelin {
 
@@ -61,7 +61,7 @@ void ButtonList::setSelected(int index, bool selected) {
 }
 
 std::string buttonEntryText(int index) {
-    return messages()[Msg::ButtonPrefix] + std::to_string(index);
+    return texts()[Msg::ButtonPrefix] + std::to_string(index);
 }
 
 } // namespace orvelin

@@ -1,8 +1,9 @@
 #include "editor.h"
 
-#include "messages.h"
+#include "languagefiles.h"
 #include "programfolder.h"
 #include "projectfile.h"
+#include "textcatalogue.h"
 #include "texthelpers.h"
 
 #include <algorithm>
@@ -151,7 +152,10 @@ StartupResult Editor::startup(std::string_view commandLine) {
     m_model.Saved = true;
     m_view.setCaption(mainTitle());
     m_recent.GetRecent();
-    m_view.setLanguageChecked(m_settings.value(SettingKey::LanguageCurrent));
+    const std::string language = m_settings.value(SettingKey::LanguageCurrent);
+    m_view.setLanguageChecked(language);
+    if (language != kEnglish)
+        applyLanguage(language);
     m_model.CurrentState = ButtonState::UP;
     showCurrentState();
     if (appendDefaultButton() == StartupResult::Quit)
@@ -228,7 +232,7 @@ bool Editor::saveAs() {
     // The dialog asked about the name as typed; the added extension may name a file.
     std::error_code ec;
     if (path != *chosen && std::filesystem::exists(path, ec)) {
-        const MessageTable& msg = messages();
+        const TextCatalogue& msg = texts();
         if (m_ui.askOkCancel(path + msg[Msg::FileExists] + std::string(kCrLf) +
                              msg[Msg::ReplaceQuestion]) != UserInterface::Answer::Ok)
             return false;
@@ -263,7 +267,7 @@ void Editor::importLegacy() {
 
 bool showLoadResult(const LoadResult& result, UserInterface& ui) {
     constexpr std::size_t kCleanedLinesShown = 10;
-    const MessageTable& msg = messages();
+    const TextCatalogue& msg = texts();
     if (result.earlierVersion)
         ui.showMessage(msg[Msg::EarlierVersion] + std::string(kCrLf) + std::string(kCrLf) +
                            msg[Msg::EarlierVersionNote] + kVersionText,
@@ -284,7 +288,7 @@ bool showLoadResult(const LoadResult& result, UserInterface& ui) {
 SaveAnswer Editor::AskToSave() {
     if (m_model.Saved)
         return SaveAnswer::Saved;
-    const MessageTable& msg = messages();
+    const TextCatalogue& msg = texts();
     const std::string text = msg[Msg::AskToSaveProject] + m_model.ProjectFileName +
                              msg[Msg::AskToSaveChanged] + std::string(kCrLf) +
                              msg[Msg::AskToSaveQuestion];
@@ -311,7 +315,7 @@ void Editor::addButton() {
 
 StartupResult Editor::appendDefaultButton() {
     if (m_model.ButtonCount >= kMaxButtons) {
-        const MessageTable& msg = messages();
+        const TextCatalogue& msg = texts();
         m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return StartupResult::Ready;
     }
@@ -326,9 +330,9 @@ StartupResult Editor::appendDefaultButton() {
 }
 
 void Editor::repairDefaultButton() {
-    m_ui.showWarning(messages()[Msg::SettingsCorrupted]);
+    m_ui.showWarning(texts()[Msg::SettingsCorrupted]);
     m_settings.setDefaultButton(kFactoryDefaultButton);
-    m_ui.showMessage(messages()[Msg::SettingsRestored]);
+    m_ui.showMessage(texts()[Msg::SettingsRestored]);
 }
 
 void Editor::duplicateButton() {
@@ -336,7 +340,7 @@ void Editor::duplicateButton() {
     if (m_model.ButtonCount < 1 || source < 1 || source > m_model.ButtonCount)
         return;
     if (m_model.duplicateButton(source) == ProjectModel::AddResult::LimitReached) {
-        const MessageTable& msg = messages();
+        const TextCatalogue& msg = texts();
         m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return;
     }
@@ -390,7 +394,7 @@ void Editor::pasteButtons(std::string_view text) {
     if (!buttons || buttons->empty())
         return;
     if (m_model.ButtonCount + static_cast<int>(buttons->size()) > kMaxButtons) {
-        const MessageTable& msg = messages();
+        const TextCatalogue& msg = texts();
         m_ui.showWarning(msg[Msg::ButtonLimit] + std::string(kCrLf) + msg[Msg::ButtonLimitHint]);
         return;
     }
@@ -451,11 +455,11 @@ ProgramKind Editor::actionProgramKind() const {
 void Editor::makeDefault() {
     const int current = m_model.CurrentButton;
     if (current < 1 || current > m_model.ButtonCount) {
-        m_ui.showWarning(messages()[Msg::NothingSelected]);
+        m_ui.showWarning(texts()[Msg::NothingSelected]);
         return;
     }
     m_settings.setDefaultButton(serializeButton(m_model.button(current)));
-    m_ui.showMessage(messages()[Msg::DefaultButtonStored]);
+    m_ui.showMessage(texts()[Msg::DefaultButtonStored]);
 }
 
 std::string Editor::programFolder() const {
@@ -465,7 +469,7 @@ std::string Editor::programFolder() const {
 void Editor::soundConverter() {
     const std::string folder = programFolder();
     if (!m_shell.startProgram(joinPath(folder, "SoundConv"), {}))
-        m_ui.showWarning(folder + messages()[Msg::SoundConvNotFound]);
+        m_ui.showWarning(folder + texts()[Msg::SoundConvNotFound]);
 }
 
 void Editor::help() {
@@ -473,9 +477,9 @@ void Editor::help() {
     // A missing page and a page no program opens need different remedies.
     std::error_code ec;
     if (!std::filesystem::is_regular_file(page, ec))
-        m_ui.showWarning(page + messages()[Msg::LanguageFileNotFound]);
+        m_ui.showWarning(page + texts()[Msg::LanguageFileNotFound]);
     else if (!m_shell.openDocument(page))
-        m_ui.showWarning(page + messages()[Msg::HelpNotFound]);
+        m_ui.showWarning(page + texts()[Msg::HelpNotFound]);
 }
 
 void Editor::toggleKeepOnTop() {
@@ -495,10 +499,27 @@ void Editor::applyKeepOnTop() {
 }
 
 void Editor::setLanguage(const std::string& language) {
+    if (language != kEnglish && m_languages) {
+        applyLanguage(language);
+        return;
+    }
     m_settings.setValue(SettingKey::LanguageCurrent, language);
     m_view.setLanguageChecked(language);
-    if (language == "English")
-        m_ui.showMessage(messages()[Msg::LanguageNextStart]);
+    if (language == kEnglish)
+        m_ui.showMessage(texts()[Msg::LanguageNextStart]);
+}
+
+void Editor::applyLanguage(const std::string& language) {
+    if (!m_languages)
+        return;
+    // The windows that are always there take their sections at once; the others
+    // read theirs as they are shown.
+    if (m_languages->applyMain(language, m_ui))
+        for (TextSection section : {TextSection::Design, TextSection::Html, TextSection::About})
+            m_languages->applyWindow(section, language);
+    const std::string inForce = m_languages->current();
+    m_view.setLanguageChecked(inForce);
+    m_view.showTexts(inForce);
 }
 
 void Editor::setAutoTile(bool on) {

@@ -54,6 +54,8 @@ bool showLoadResult(const LoadResult& result, UserInterface& ui);
  * and tell the design surface and the main window what to show. The windows only bind
  * their controls to it. The property controls are bound to properties().
  */
+class LanguageFiles;
+
 class Editor {
 public:
     /// Help and the sound converter come from `programFolder`; without one the editor
@@ -123,6 +125,9 @@ public:
     bool keepOnTop() const;
     /// "English", "rus" or "heb".
     void setLanguage(const std::string& language);
+    /// The language files the language commands and the start-up read; without them a
+    /// language choice is only stored.
+    void setLanguageFiles(LanguageFiles* languages) { m_languages = languages; }
     void setAutoTile(bool on);
 
     /// Fills the property panel from button `index` with Updating set (no-op for 0).
@@ -137,6 +142,9 @@ public:
     RecentFiles& recent() { return m_recent; }
 
 private:
+    // The main block and the always-shown windows' sections of `language`, then the
+    // windows show the texts in force.
+    void applyLanguage(const std::string& language);
     // Empties model and list for a project about to be read; the old button count.
     int clearProject();
     // After a reader ran: list entries, the first button, the notice of a new project.
@@ -161,6 +169,7 @@ private:
     Shell& m_shell;
     EditorView& m_view;
     std::string m_programFolder;
+    LanguageFiles* m_languages = nullptr;
     RecentFiles m_recent;
     PropertyEditor m_properties;
     int m_listening = 0;

@@ -52,6 +52,9 @@ public:
     /// A new, opened or imported project took the place of the old one (whose edits
     /// can no longer be undone).
     virtual void projectReplaced() {}
+    /// A language file changed the texts in force: the windows show them, laid out
+    /// for `language` ("rus", "heb").
+    virtual void showTexts(const std::string& language) { (void)language; }
 };
 
 } // namespace orvelin

@@ -8,9 +8,9 @@
 namespace orvelin {
 
 /**
- * Every text the core shows the user, by name. The table starts with the English
- * defaults; a language file replaces entries in place. The order of the entries is
- * the order in which a language file's message lines fill them: append, never reorder.
+ * Every message the core shows the user, by name. Their texts in force come from the
+ * text catalogue, which a language file can change; where each one sits in a language
+ * file is fixed by the catalogue's sections, not by this order.
  */
 enum class Msg : std::size_t {
     // Progress window.
@@ -92,22 +92,10 @@ enum class Msg : std::size_t {
     Count
 };
 
-class MessageTable {
-public:
-    MessageTable(); ///< filled with the English defaults
-
-    const std::string& operator[](Msg id) const { return m_texts[static_cast<std::size_t>(id)]; }
-    void set(Msg id, std::string text) { m_texts[static_cast<std::size_t>(id)] = std::move(text); }
-
-    static const char* englishDefault(Msg id);
-
-private:
-    std::array<std::string, static_cast<std::size_t>(Msg::Count)> m_texts;
-};
-
-/// The program's messages, in English: a constant table until language files can
-/// replace its texts.
-const MessageTable& messages();
+/// The message's name in the text catalogue and in translators' lists ("PleaseWait").
+std::string_view messageName(Msg id);
+/// The built-in English text; the text in force is the catalogue's (textcatalogue.h).
+std::string_view englishMessage(Msg id);
 
 /// Carriage return and line feed, the line break of every text the program writes.
 inline constexpr std::string_view kCrLf = "\r\n";

@@ -1,6 +1,6 @@
 #include "projectfile.h"
 
-#include "messages.h"
+#include "textcatalogue.h"
 #include "privateprofile.h"
 #include "textfile.h"
 #include "texthelpers.h"
@@ -62,7 +62,7 @@ void appendNumber(std::string& out, std::int32_t value) {
 void showButtonProgress(ProgressView* progress, std::string& text, Msg what, int i, int n) {
     if (!progress)
         return;
-    const MessageTable& msg = messages();
+    const TextCatalogue& msg = texts();
     text.assign(msg[what]);
     appendNumber(text, i);
     text += msg[Msg::OfWord];
@@ -213,7 +213,7 @@ std::optional<LoadError> readLegacyProject(ProjectModel& model, const std::strin
  */
 std::vector<std::string> cleanLoadedFields(ProjectModel& model) {
     std::vector<std::string> lines;
-    const MessageTable& msg = messages();
+    const TextCatalogue& msg = texts();
     std::string names;
     for (const AppletField& f : appletFields())
         if (f.text && cleanFieldInPlace(f.kind, model.*f.text))
@@ -249,7 +249,7 @@ LoadResult finishLoad(ProjectModel& model, const std::string& path, ProgressView
 
 void startLoad(ProjectModel& model, ProgressView* progress) {
     if (progress)
-        progress->showProgress(messages()[Msg::PleaseWait], messages()[Msg::LoadingProject], -1);
+        progress->showProgress(texts()[Msg::PleaseWait], texts()[Msg::LoadingProject], -1);
     model.ButtonCount = 0;
     model.CurrentButton = 0;
     // Until the new file gives content, what is shown (the applet's background) is
@@ -301,13 +301,13 @@ std::string projectText(const ProjectModel& model, ProgressView* progress) {
 }
 
 bool SaveProject(ProjectModel& model, const std::string& path, UserInterface& ui) {
-    ui.showProgress(messages()[Msg::PleaseWait], messages()[Msg::SavingButtonsToFile], -1);
+    ui.showProgress(texts()[Msg::PleaseWait], texts()[Msg::SavingButtonsToFile], -1);
     const std::string text = projectText(model, &ui);
     TextFileError error;
     const bool written = writeFileAtomically(path, text, &error);
     ui.hideProgress();
     if (!written) {
-        ui.showWarning(withSystemCause(messages()[Msg::ErrorSaving], error));
+        ui.showWarning(withSystemCause(texts()[Msg::ErrorSaving], error));
         return false;
     }
     model.Saved = true;

@@ -1,6 +1,6 @@
 #include "propertyeditor.h"
 
-#include "messages.h"
+#include "textcatalogue.h"
 #include "texthelpers.h"
 
 namespace orvelin {
@@ -271,7 +271,7 @@ void PropertyEditor::ShowProp(int index) {
     if (index < 1 || index > m_model.ButtonCount)
         return;
     UpdatingGuard guard(m_model);
-    m_view.ShowProp(index, messages()[Msg::PropertiesForButton] + std::to_string(index));
+    m_view.ShowProp(index, texts()[Msg::PropertiesForButton] + std::to_string(index));
 }
 
 void PropertyEditor::SetMainParams() {

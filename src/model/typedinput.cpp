@@ -1,6 +1,6 @@
 #include "typedinput.h"
 
-#include "messages.h"
+#include "textcatalogue.h"
 
 #include <cctype>
 
@@ -51,7 +51,7 @@ TypedText acceptTyped(TypedField field, std::string_view typed) {
             refused += c;
         }
     }
-    const MessageTable& msg = messages();
+    const TextCatalogue& msg = texts();
     if (!refused.empty()) {
         std::string names;
         for (const char c : refused) {

@@ -1,7 +1,7 @@
 #include "publishing.h"
 
 #include "htmlgenerator.h"
-#include "messages.h"
+#include "textcatalogue.h"
 #include "programfolder.h"
 #include "textfile.h"
 #include "texthelpers.h"
@@ -77,7 +77,7 @@ void addFile(std::vector<PageFile>& files, PageFile::Kind kind, int button,
 std::string withCancelHint(std::string text) {
     text.append(kCrLf);
     text.append(kCrLf);
-    text.append(messages()[Msg::PressCancelToStop]);
+    text.append(texts()[Msg::PressCancelToStop]);
     return text;
 }
 
@@ -93,7 +93,7 @@ bool writePage(const std::string& path, const PageSource& page, const std::vecto
     std::error_code ec;
     for (const PageFile& file : files) {
         if (file.kind == PageFile::Kind::Player && !fs::is_regular_file(file.source, ec)) {
-            ui.showMessage(ReplaceAll(messages()[Msg::PlayerMissing], "%1", file.source));
+            ui.showMessage(ReplaceAll(texts()[Msg::PlayerMissing], "%1", file.source));
             return false;
         }
     }
@@ -103,7 +103,7 @@ bool writePage(const std::string& path, const PageSource& page, const std::vecto
     else if (writeFileAtomically(path, pageText(page.code, page.usesJavaScript, page.withPlayer),
                                  &error))
         return true;
-    ui.showMessage(messages()[Msg::PageNotWritten] + path + ": " + error.description);
+    ui.showMessage(texts()[Msg::PageNotWritten] + path + ": " + error.description);
     return false;
 }
 
@@ -120,11 +120,11 @@ bool copyProgramFiles(const std::vector<PageFile>& files, const std::string& fol
         if (!isProgramFile(file) || copyInto(file, folder))
             continue;
         if (file.kind == PageFile::Kind::Player) {
-            ui.showMessage(messages()[Msg::PlayerNotCopied] + joinPath(folder, file.name));
+            ui.showMessage(texts()[Msg::PlayerNotCopied] + joinPath(folder, file.name));
             return false;
         }
         if (!appletOptional || fs::exists(file.source, ec)) {
-            ui.showMessage(messages()[appletFailure]);
+            ui.showMessage(texts()[appletFailure]);
             return false;
         }
     }
@@ -229,8 +229,8 @@ int copyMediaFiles(const std::vector<PageFile>& files, const std::string& folder
             continue;
         const std::string text =
             file.kind == PageFile::Kind::Background
-                ? messages()[Msg::CantCopyBackground]
-                : messages()[Msg::CantCopyButtonFiles] + std::to_string(file.button);
+                ? texts()[Msg::CantCopyBackground]
+                : texts()[Msg::CantCopyButtonFiles] + std::to_string(file.button);
         showMessages = ui.askOkCancel(withCancelHint(text)) != UserInterface::Answer::Cancel;
     }
     return failed;
@@ -254,7 +254,7 @@ bool previewPage(const ProjectModel& model, const PageSource& page, const std::s
     const bool opened =
         program.empty() ? shell.openDocument(path) : shell.startProgram(program, {path});
     if (!opened)
-        ui.showMessage(path + messages()[Msg::PageNotOpened]);
+        ui.showMessage(path + texts()[Msg::PageNotOpened]);
     return opened;
 }
 

@@ -9,6 +9,7 @@
 #include "sizerhandle.h"
 #include "tempfolder.h"
 #include "testapplication.h"
+#include "textcatalogue.h"
 #include "undohistory.h"
 #include "windowgeometry.h"
 
@@ -303,7 +304,7 @@ TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
     b.ui.shown.clear();
     QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(b.model().ButtonCount, 100);
-    EXPECT_EQ(b.ui.messages().size(), 1u);
+    EXPECT_EQ(b.ui.texts().size(), 1u);
     QGuiApplication::clipboard()->setText(QStringLiteral("Orvelin\r\n1|2|"));
     QTest::keyClick(b.find("lstButtons"), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(b.model().ButtonCount, 100);

@@ -7,6 +7,7 @@
 #include "tempfolder.h"
 #include "testapplication.h"
 #include "testdoubles.h"
+#include "textcatalogue.h"
 
 #include <QCheckBox>
 #include <QPushButton>
@@ -71,7 +72,7 @@ TEST(DesktopSetup, TheStartUpPromptRegistersOrvelinForOrvFilesWithTheRealTools) 
     settings.setValue(SettingKey::DontAskToAssociate, "0");
     setup.offerAtStartup();
     Answer(owner, "btnYes", false);
-    EXPECT_TRUE(ui.messages().empty()) << ui.messages().front();
+    EXPECT_TRUE(ui.texts().empty()) << ui.texts().front();
     EXPECT_EQ(Trimmed(tools.run("xdg-mime", {"query", "filetype", project}).output),
               "application/x-orvelin-project");
     EXPECT_EQ(Trimmed(tools.run("xdg-mime", {"query", "default", kProjectMimeType}).output),

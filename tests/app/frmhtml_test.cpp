@@ -9,6 +9,7 @@
 #include "tempfolder.h"
 #include "testapplication.h"
 #include "testdoubles.h"
+#include "textcatalogue.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -80,7 +81,7 @@ TEST(FrmHTML, PreviewStartsTheChosenBrowserWithThePagePath) {
     const std::string page = previewPagePath(temp.path(""));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !temp.read("args").empty(); }, 10000));
     EXPECT_EQ(temp.read("args"), page + "\n");
-    EXPECT_TRUE(ui.messages().empty());
+    EXPECT_TRUE(ui.texts().empty());
     window.close();
     EXPECT_NE(settings.storedGeometry("frmHTML").width, 0);
 }

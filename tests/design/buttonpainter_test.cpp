@@ -1,5 +1,6 @@
 #include "fakeui.h"
 #include "painttesting.h"
+#include "textcatalogue.h"
 
 #include <QDir>
 
@@ -88,9 +89,8 @@ TEST(DrawLabel, AnInvalidFontSizeIsReportedOnceAndTheBorderIsStillPainted) {
     b.Border = 1;
     FakeUserInterface ui;
     const QImage picture = Paint(OneButton(b), 1, nullptr, nullptr, &ui);
-    ASSERT_EQ(ui.messages(),
-              std::vector<std::string>(
-                  {"Something wrong\r\nOn DrawLabel(1) \r\nInvalid property value"}));
+    ASSERT_EQ(ui.texts(), std::vector<std::string>(
+                              {"Something wrong\r\nOn DrawLabel(1) \r\nInvalid property value"}));
     EXPECT_TRUE(InkBox(picture, kWhite, QRect(2, 2, 103, 36)).isEmpty());
     EXPECT_NE(Pixel(picture, 106, 39), kWhite);
 }

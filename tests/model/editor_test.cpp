@@ -4,6 +4,7 @@
 #include "projectfile.h"
 #include "tempfolder.h"
 #include "testdoubles.h"
+#include "textcatalogue.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -109,7 +110,7 @@ TEST_F(EditorFixture, StartupAppliesTheStoredOptions) {
 
 TEST_F(EditorFixture, AnUnreadableCommandLinePathReportsAndKeepsTheEditorOpen) {
     ASSERT_EQ(editor.startup(PathOf("missing.orv")), StartupResult::Ready);
-    EXPECT_EQ(ui.messages(), Texts{"Error loading project.\r\nFile not found"});
+    EXPECT_EQ(ui.texts(), Texts{"Error loading project.\r\nFile not found"});
     EXPECT_EQ(Shown(), "0 buttons, current 0, list 0 selecting, saved");
     EXPECT_EQ(settings.recentFile(1), "-1");
 }
@@ -120,7 +121,7 @@ TEST_F(EditorFixture, ADamagedDefaultButtonIsRepairedAndEndsTheProgram) {
     const Texts repair = {"Registry settings were currupted. Program will try to restore "
                           "previous settings.",
                           "Settings restored. Please restart the program."};
-    EXPECT_EQ(ui.messages(), repair);
+    EXPECT_EQ(ui.texts(), repair);
     EXPECT_EQ(backend.get(kParams, "strDefaultBtn", ""), kFactoryDefaultButton);
     EXPECT_EQ(model.ButtonCount + list.count(), 0);
     EXPECT_EQ(view.quits, 0) << "start-up leaves the ending to its caller";
@@ -130,7 +131,7 @@ TEST_F(EditorFixture, ADamagedDefaultButtonIsRepairedAndEndsTheProgram) {
     settings.setValue(SettingKey::strDefaultBtn, "0|0|107|40||||||_self|x|");
     editor.addButton();
     EXPECT_EQ(view.quits, 1);
-    EXPECT_EQ(ui.messages(), repair);
+    EXPECT_EQ(ui.texts(), repair);
     EXPECT_EQ(model.ButtonCount, 0);
     EXPECT_EQ(settings.defaultButton(), kFactoryDefaultButton);
 }
@@ -159,7 +160,7 @@ TEST_F(EditorFixture, The102ndButtonIsRefusedWithTheTwoLineMessage) {
     const ButtonRecord spare = model.button(102);
     editor.addButton();
     editor.duplicateButton();
-    EXPECT_EQ(ui.messages(), (Texts{kLimitMessage, kLimitMessage}));
+    EXPECT_EQ(ui.texts(), (Texts{kLimitMessage, kLimitMessage}));
     EXPECT_EQ(Shown(), "101 buttons, current 101, list 101 selecting 101, saved");
     EXPECT_EQ(model.button(102), spare);
 }
@@ -240,7 +241,7 @@ TEST_F(EditorFixture, ClosingEndsOnNoOrASaveAndStaysOnCancelOrAFailedSave) {
     model.ProjectFileName = PathOf("no such folder/p.orv");
     ui.answers = {Answer::Yes};
     EXPECT_FALSE(editor.close());
-    EXPECT_EQ(ui.messages().back(), kSaveError);
+    EXPECT_EQ(ui.texts().back(), kSaveError);
     model.ProjectFileName = PathOf("p.orv");
     ui.answers = {Answer::Yes};
     EXPECT_TRUE(editor.close());
@@ -301,7 +302,7 @@ TEST_F(EditorFixture, AFileCutOffKeepsTheButtonsReadSoFarInListAndSurface) {
     editor.open();
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
     EXPECT_EQ(design.count("LoadButton 4") + design.count("LoadButton 5"), 1);
-    EXPECT_EQ(ui.messages(), Texts{"Error loading project.\r\nInput past end of file"});
+    EXPECT_EQ(ui.texts(), Texts{"Error loading project.\r\nInput past end of file"});
     // What is shown has no file name, and its images are found beside the file it is from.
     EXPECT_EQ(model.ProjectFileName, "");
     EXPECT_EQ(view.caption, kTitle);
@@ -406,10 +407,10 @@ TEST_F(EditorFixture, SoundConverterAndHelpUseTheProgramFolder) {
     ASSERT_EQ(shell.started.size(), 2u);
     EXPECT_EQ(shell.started[0].first, dir + "/SoundConv");
     EXPECT_EQ(shell.opened, (Texts{page, page}));
-    ASSERT_EQ(ui.messages().size(), 3u);
-    EXPECT_EQ(ui.messages()[0], page + " not found");
-    EXPECT_EQ(ui.messages()[1], dir + "/SoundConv not found.");
+    ASSERT_EQ(ui.texts().size(), 3u);
+    EXPECT_EQ(ui.texts()[0], page + " not found");
+    EXPECT_EQ(ui.texts()[1], dir + "/SoundConv not found.");
     // The page's path first, then what to install or choose.
-    EXPECT_TRUE(ui.messages()[2].starts_with(page + " could not be opened: "));
-    EXPECT_NE(ui.messages()[2].find("apt install"), std::string::npos);
+    EXPECT_TRUE(ui.texts()[2].starts_with(page + " could not be opened: "));
+    EXPECT_NE(ui.texts()[2].find("apt install"), std::string::npos);
 }

@@ -2,6 +2,7 @@
 #include "fakeui.h"
 #include "projectfile.h"
 #include "tempfolder.h"
+#include "textcatalogue.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -126,7 +127,7 @@ TEST_F(ProjectFileTest, LinesAfterTheLastButtonAndLoneLineFeedsAreAccepted) {
         EXPECT_EQ(loaded.button(count).x, count);
         EXPECT_TRUE(count == 102 || loaded.button(count + 1) == ButtonRecord{});
     }
-    EXPECT_TRUE(ui.messages().empty());
+    EXPECT_TRUE(ui.texts().empty());
     // The applet name is read from the field after the ones the writer produces.
     write(kHeader + "\r\n510|170|0|0|0|0||0||||0|0||written|read|\r\n");
     EXPECT_TRUE(Load(model, path(), ui));
@@ -163,7 +164,7 @@ TEST_F(ProjectFileTest, DamagedFilesKeepTheButtonsReadBeforeTheDamage) {
         EXPECT_EQ(loaded.CurrentButton, 0);
         EXPECT_EQ(loaded.ProjectFileName, "");
         EXPECT_FALSE(loaded.Saved);
-        EXPECT_EQ(fresh.messages(), Texts{"Error loading project.\r\n" + std::string(cause)});
+        EXPECT_EQ(fresh.texts(), Texts{"Error loading project.\r\n" + std::string(cause)});
         EXPECT_FALSE(fresh.progressVisible);
     }
 }
@@ -184,8 +185,8 @@ TEST_F(ProjectFileTest, FailedSaveLeavesTheOldFileAlone) {
     EXPECT_EQ(folder.read("project.orv"), old);
     EXPECT_FALSE(ui.progressVisible);
     EXPECT_EQ(folder.entries(), 1) << "nothing is left behind in the folder";
-    EXPECT_EQ(ui.messages(), Texts{"Error Saving Buttons. File may be Read Only, Hidden or used by "
-                                   "another application.\r\nPermission denied"});
+    EXPECT_EQ(ui.texts(), Texts{"Error Saving Buttons. File may be Read Only, Hidden or used by "
+                                "another application.\r\nPermission denied"});
 }
 
 TEST_F(ProjectFileTest, CharactersAFieldCannotHoldAreRemovedWithOneWarning) {
@@ -204,7 +205,7 @@ TEST_F(ProjectFileTest, CharactersAFieldCannotHoldAreRemovedWithOneWarning) {
         model, folder.write("old.ini", "[Buttons]\nButtonCount=1\nFontDOWN_1=Ari\"al\n"), ui));
     EXPECT_EQ(model.button(1).FontDOWN, "Arial");
     const std::string note = "Characters that these fields cannot hold were removed:\r\n";
-    EXPECT_EQ(ui.messages(), (Texts{note + "Applet: AppletProgramStart\r\nButton 1: FontUP, "
-                                           "ProgramUP\r\nButton 3: Target",
-                                    note + "Button 1: FontDOWN"}));
+    EXPECT_EQ(ui.texts(), (Texts{note + "Applet: AppletProgramStart\r\nButton 1: FontUP, "
+                                        "ProgramUP\r\nButton 3: Target",
+                                 note + "Button 1: FontDOWN"}));
 }

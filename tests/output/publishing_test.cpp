@@ -4,6 +4,7 @@
 #include "projectmodel.h"
 #include "publishing.h"
 #include "tempfolder.h"
+#include "textcatalogue.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -95,8 +96,8 @@ TEST_F(Publishing, BuildCopiesEveryFileUnderTheNameItsParameterCarries) {
 
     // A target that is a folder: nothing is written and the message names it.
     EXPECT_FALSE(Build(temp.path("site")));
-    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't write the page " + temp.path("site") +
-                                                      ": it is a folder"});
+    EXPECT_EQ(ui.texts(), std::vector<std::string>{"Can't write the page " + temp.path("site") +
+                                                   ": it is a folder"});
 }
 
 TEST_F(Publishing, BuildingIntoTheProgramFolderLeavesItsOwnAppletFilesAlone) {
@@ -136,8 +137,8 @@ TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
 
     shell.works = false;
     EXPECT_FALSE(previewPage(model, {html.text, true}, "", ui, shell, program));
-    ASSERT_EQ(ui.messages().size(), 1u);
-    EXPECT_EQ(ui.messages()[0].rfind(page + " could not be opened", 0), 0u);
+    ASSERT_EQ(ui.texts().size(), 1u);
+    EXPECT_EQ(ui.texts()[0].rfind(page + " could not be opened", 0), 0u);
 }
 
 TEST_F(Publishing, APageThatPlaysTakesThePlayerAlongAndNeedsNoAppletFiles) {
@@ -151,13 +152,13 @@ TEST_F(Publishing, APageThatPlaysTakesThePlayerAlongAndNeedsNoAppletFiles) {
 
     // The plain page still needs its applet.
     EXPECT_FALSE(Build(temp.path("site/plain.html")));
-    EXPECT_EQ(ui.messages(), std::vector<std::string>{"Can't copy Applet Class files"});
+    EXPECT_EQ(ui.texts(), std::vector<std::string>{"Can't copy Applet Class files"});
 
     // Without the player nothing is written, and the message says which file is missing.
     fs::remove(temp.dir() / "program/orvelin-player.js");
     EXPECT_FALSE(Build(temp.path("site/lost.html"), true));
     EXPECT_FALSE(fs::exists(temp.dir() / "site/lost.html"));
-    ASSERT_EQ(ui.messages().size(), 2u);
-    EXPECT_NE(ui.messages()[1].find(temp.path("program/orvelin-player.js") + " is missing"),
+    ASSERT_EQ(ui.texts().size(), 2u);
+    EXPECT_NE(ui.texts()[1].find(temp.path("program/orvelin-player.js") + " is missing"),
               std::string::npos);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "textcatalogue.h"
 #include "userinterface.h"
 
 #include <deque>
@@ -59,7 +60,7 @@ public:
     void hideProgress() override { progressVisible = false; }
 
     /// Texts of the messages shown, in order.
-    std::vector<std::string> messages() const {
+    std::vector<std::string> texts() const {
         std::vector<std::string> out;
         for (const Shown& s : shown)
             if (s.kind == "message")

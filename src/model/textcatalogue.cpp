@@ -1,0 +1,220 @@
+#include "textcatalogue.h"
+
+#include <iterator>
+#include <unordered_map>
+#include <utility>
+
+namespace orvelin {
+
+namespace {
+
+// Each array is one part of a language file: the k-th entry takes the k-th line of
+// the part. Languages files written for the program depend on these orders: add at
+// the end of a section of our own, never reorder or remove.
+
+constexpr TextEntry kSetAction[] = {
+    {"frmSetAction", "btnAdd", "&Add"},
+    {"frmSetAction", "btnRemove", "&Remove"},
+    {"frmSetAction", "btnUP.toolTip", "Move Command Up"},
+    {"frmSetAction", "btnDown.toolTip", "Move Command Down"},
+    {"frmSetAction", "btnCopyProg", "Copy"},
+    {"frmSetAction", "btnCopyProg.toolTip", "Copy Whole Program to Buffer"},
+    {"frmSetAction", "btnPasteProg", "Paste"},
+    {"frmSetAction", "btnPasteProg.toolTip", "Append Program from Buffer to Current Program"},
+    {"frmSetAction", "btnOk", "&Ok"},
+    {"frmSetAction", "btnCancel", "&Cancel"},
+    {"frmSetAction", "lblWidth", "width:"},
+    {"frmSetAction", "lblHeight", "height:"},
+    {"frmSetAction", "lblMiliseconds", "Time in miliseconds:"},
+    {"frmSetAction", "btnGetHexColor", "..."},
+    {"frmSetAction", "btnGetHexColor.toolTip", "Select Color"},
+    {"frmSetAction", "cmbAction.item0", "Show"},
+    {"frmSetAction", "cmbAction.item1", "Hide"},
+    {"frmSetAction", "cmbAction.item2", "Move"},
+    {"frmSetAction", "cmbAction.item3", "Set Label"},
+    {"frmSetAction", "cmbAction.item4", "Set Color"},
+    {"frmSetAction", "cmbAction.item5", "Wait"},
+    {"frmSetAction", "cmbAction.item6", "Call JavaScript"},
+};
+
+constexpr TextEntry kMessages[] = {
+    message(Msg::PleaseWait),
+    message(Msg::SavingButtonsToFile),
+    message(Msg::SavingButton),
+    message(Msg::OfWord),
+    message(Msg::LoadingProject),
+    message(Msg::LoadingButton),
+    message(Msg::GeneratingHtml),
+    message(Msg::ErrorSaving),
+    message(Msg::ErrorLoading),
+    message(Msg::EarlierVersionTitle),
+    message(Msg::EarlierVersion),
+    message(Msg::EarlierVersionNote),
+    message(Msg::UnsupportedFile),
+    message(Msg::ButtonLimit),
+    message(Msg::ButtonLimitHint),
+    message(Msg::AskToSaveProject),
+    message(Msg::AskToSaveChanged),
+    message(Msg::AskToSaveQuestion),
+    message(Msg::NothingSelected),
+    message(Msg::DefaultButtonStored),
+    message(Msg::SoundConvNotFound),
+    message(Msg::SettingsCorrupted),
+    message(Msg::SettingsRestored),
+    message(Msg::LanguageNextStart),
+    message(Msg::PropertiesForButton),
+    message(Msg::ButtonPrefix),
+    message(Msg::SomethingWrong),
+    message(Msg::OnDrawLabel),
+    message(Msg::NoButtonsOnApplet),
+    message(Msg::WrongParameters),
+    message(Msg::WrongReturnParameters),
+    message(Msg::CantCopyBackground),
+    message(Msg::CantCopyButtonFiles),
+    message(Msg::PressCancelToStop),
+    message(Msg::CantCopyAppletClassFiles),
+    message(Msg::CantCopyClassFiles),
+    message(Msg::LanguageFile),
+    message(Msg::LanguageFileNotFound),
+    message(Msg::HelpNotFound),
+    message(Msg::RestoreDefaultsQuestion),
+    message(Msg::IniWriteFailed),
+    message(Msg::FontSizeRange),
+    message(Msg::LabelCutAtSemicolon),
+    message(Msg::ProgramForButtons),
+    message(Msg::NotSelectedNote),
+    message(Msg::AppletSizeRange),
+    message(Msg::FieldCannotHold),
+    message(Msg::ControlCharacters),
+    message(Msg::UrlBarEncoded),
+    message(Msg::CharacterReference),
+    message(Msg::WrongBox),
+    message(Msg::FileExists),
+    message(Msg::ReplaceQuestion),
+    message(Msg::CharactersRemoved),
+    message(Msg::AppletPrefix),
+    message(Msg::PageNotWritten),
+    message(Msg::PageNotOpened),
+    message(Msg::AssociateDone),
+    message(Msg::AssociateFailed),
+    message(Msg::ShortCutFailed),
+    message(Msg::PlayerMissing),
+    message(Msg::PlayerNotCopied),
+};
+
+constexpr SectionInfo kSections[] = {
+    {TextSection::Main, "", {}},
+    {TextSection::Design, "[frmDesign]", {}},
+    {TextSection::Html, "[frmHTML]", {}},
+    {TextSection::About, "[frmAbout]", {}},
+    {TextSection::Advanced, "[frmAdvanced]", {}},
+    {TextSection::BrowserSetup, "[frmBrowserSetup]", {}},
+    {TextSection::EditBrowser, "[frmEditBrowser]", {}},
+    {TextSection::SetAction, "[frmSetAction]", kSetAction},
+    {TextSection::AskToAssociate, "[frmAskToAssociate]", {}},
+    {TextSection::ShortCut, "[frmShortCut]", {}},
+    {TextSection::MainMore, "[frmMain]", {}},
+    {TextSection::DesignTools, "[frmDesignTools]", {}},
+    {TextSection::Messages, "[Messages]", kMessages},
+    {TextSection::BackgroundOffset, "[frmBgOffset]", {}},
+    {TextSection::LabelEditor, "[frmMultiLineEditor]", {}},
+    {TextSection::SoundConverter, "[frmSoundConv]", {}},
+};
+static_assert(std::size(kSections) == kTextSectionCount);
+
+using Place = std::pair<TextSection, std::size_t>;
+
+// Where each message and each window's text sits, looked up once.
+struct Index {
+    std::array<Place, static_cast<std::size_t>(Msg::Count)> messages{};
+    std::unordered_map<std::string, Place> controls;
+
+    Index() {
+        for (const SectionInfo& info : kSections)
+            for (std::size_t i = 0; i < info.entries.size(); ++i) {
+                const TextEntry& e = info.entries[i];
+                if (e.isMessage())
+                    messages[static_cast<std::size_t>(e.message)] = {info.section, i};
+                else
+                    controls.emplace(key(e.window, e.control), Place{info.section, i});
+            }
+    }
+
+    static std::string key(std::string_view window, std::string_view control) {
+        std::string k(window);
+        k += '/';
+        k += control;
+        return k;
+    }
+};
+
+const Index& index() {
+    static const Index built;
+    return built;
+}
+
+const TextCatalogue* inForce = nullptr;
+
+} // namespace
+
+std::span<const SectionInfo> textSections() {
+    return kSections;
+}
+
+const SectionInfo& sectionInfo(TextSection section) {
+    return kSections[static_cast<std::size_t>(section)];
+}
+
+std::string_view englishText(const TextEntry& entry) {
+    return entry.isMessage() ? englishMessage(entry.message) : entry.english;
+}
+
+std::string entryLabel(const TextEntry& entry) {
+    if (entry.isMessage())
+        return "message " + std::string(messageName(entry.message));
+    return std::string(entry.window) + ' ' + std::string(entry.control);
+}
+
+TextCatalogue::TextCatalogue() {
+    for (const SectionInfo& info : kSections) {
+        auto& texts = m_texts[static_cast<std::size_t>(info.section)];
+        texts.reserve(info.entries.size());
+        for (const TextEntry& e : info.entries)
+            texts.emplace_back(englishText(e));
+    }
+}
+
+const std::string& TextCatalogue::operator[](Msg id) const {
+    const auto [section, position] = index().messages[static_cast<std::size_t>(id)];
+    return at(section, position);
+}
+
+const std::string& TextCatalogue::text(std::string_view window, std::string_view control) const {
+    const std::string k = Index::key(window, control);
+    const auto found = index().controls.find(k);
+    if (found == index().controls.end()) {
+        static thread_local std::string missing;
+        missing = '?' + k;
+        return missing;
+    }
+    return at(found->second.first, found->second.second);
+}
+
+const std::string& TextCatalogue::at(TextSection section, std::size_t position) const {
+    return m_texts[static_cast<std::size_t>(section)].at(position);
+}
+
+void TextCatalogue::set(TextSection section, std::size_t position, std::string text) {
+    m_texts[static_cast<std::size_t>(section)].at(position) = std::move(text);
+}
+
+const TextCatalogue& texts() {
+    static const TextCatalogue english;
+    return inForce ? *inForce : english;
+}
+
+void useTexts(const TextCatalogue* catalogue) {
+    inForce = catalogue;
+}
+
+} // namespace orvelin
