@@ -83,7 +83,8 @@ QStringList applyWindowTexts(QWidget& window) {
     for (const SectionInfo& info : textSections()) {
         for (std::size_t p = 0; p < info.entries.size(); ++p) {
             const TextEntry& entry = info.entries[p];
-            if (entry.isMessage() || entry.window != windowName)
+            // Messages, other windows' texts, and texts the code puts together itself.
+            if (entry.isMessage() || entry.window != windowName || entry.control.starts_with('#'))
                 continue;
             const QString control =
                 QString::fromUtf8(entry.control.data(), qsizetype(entry.control.size()));
@@ -96,7 +97,6 @@ QStringList applyWindowTexts(QWidget& window) {
                 targets << &window;
             else
                 targets = window.findChildren<QObject*>(name);
-            // Texts the code puts together itself have names no control has.
             if (targets.isEmpty())
                 missing << control;
             for (QObject* target : targets)

@@ -20,7 +20,8 @@ QString uiText(Msg id);
  * Puts the texts in force into `window`: every catalogue entry whose window is
  * `window`'s objectName goes to the control of that name (its text, title or caption;
  * ".toolTip" its tool tip; ".item<N>" the N-th entry of a list or a tab's title), the
- * window's own name to its caption. Gives back the controls it did not find.
+ * window's own name to its caption. Names that begin with "#" are texts the code puts
+ * together itself (uiText). Gives back the controls it did not find.
  */
 QStringList applyWindowTexts(QWidget& window);
 

@@ -44,7 +44,7 @@ inline constexpr std::size_t kTextSectionCount = static_cast<std::size_t>(TextSe
  * control that shows it: the control's objectName, followed by ".toolTip" for its tool
  * tip or ".item<N>" for the N-th entry of a list, or the window's own name for its
  * caption. A text the code puts together itself (a status line, a list entry) has a
- * name of its own that names no control. A message names only its Msg.
+ * name of its own that begins with "#" ("#zoomLevel"). A message names only its Msg.
  */
 struct TextEntry {
     std::string_view window;
