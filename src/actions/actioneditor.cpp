@@ -26,12 +26,19 @@ std::string moveBox(std::string word) {
     return word == "-999" ? std::string() : word;
 }
 
+constexpr std::string_view kWindow = "frmSetAction";
+constexpr int kCommandCount = static_cast<int>(ActionCommand::CallJavaScript);
+
 } // namespace
 
+std::array<std::string, 3> mainStateCaptions() {
+    const TextCatalogue& t = orvelin::texts();
+    return {t.text("frmMain", "btnUP"), t.text("frmMain", "btnOVER"), t.text("frmMain", "btnDOWN")};
+}
+
 ActionEditor::ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
-                           ActionEditorTexts texts, std::array<std::string, 3> stateCaptions)
-    : m_model(model), m_ui(ui), m_buffer(buffer), m_texts(std::move(texts)),
-      m_commandTexts(m_texts.commandList()),
+                           std::array<std::string, 3> stateCaptions)
+    : m_model(model), m_ui(ui), m_buffer(buffer),
       m_stateTexts(std::make_move_iterator(stateCaptions.begin()),
                    std::make_move_iterator(stateCaptions.end())) {}
 
@@ -42,6 +49,13 @@ void ActionEditor::open(ProgramKind kind) {
     m_source.clear();
     m_selection = -1;
     m_inputs = ActionInputs{};
+
+    const TextCatalogue& t = orvelin::texts();
+    m_commandTexts.clear();
+    for (int c = 0; c < kCommandCount; ++c)
+        m_commandTexts.push_back(t.text(kWindow, "cmbAction.item" + std::to_string(c)));
+    m_widthCaption = t.text(kWindow, "lblWidth");
+    m_heightCaption = t.text(kWindow, "lblHeight");
 
     m_buttonTexts.clear();
     for (int i = 1; i <= m_model.ButtonCount; ++i)
@@ -299,8 +313,8 @@ void ActionEditor::refreshActionList() {
     texts.commands = m_commandTexts;
     texts.buttons = m_buttonTexts;
     texts.states = m_stateTexts;
-    texts.widthCaption = m_texts.widthCaption;
-    texts.heightCaption = m_texts.heightCaption;
+    texts.widthCaption = m_widthCaption;
+    texts.heightCaption = m_heightCaption;
 
     m_readable.clear();
     m_source.clear();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "actioneditortexts.h"
 #include "programkind.h"
 
 #include <array>
@@ -14,6 +13,9 @@ namespace orvelin {
 struct ProgramBuffer;
 struct ProjectModel;
 class UserInterface;
+
+/// The captions of the main editor's three state buttons in force, UP first.
+std::array<std::string, 3> mainStateCaptions();
 
 /// Which input controls the selected command offers; the others are hidden or disabled.
 struct ActionPanels {
@@ -47,16 +49,15 @@ class ActionEditor {
 public:
     /// Copy and paste go through `buffer`, which outlives the editor.
     ActionEditor(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
-                 ActionEditorTexts texts = {},
-                 std::array<std::string, 3> stateCaptions = defaultStateCaptions());
+                 std::array<std::string, 3> stateCaptions = mainStateCaptions());
 
     /**
      * Fills the lists for `kind` and loads its program: a button kind from the
-     * current button's slot, an applet kind from the project's.
+     * current button's slot, an applet kind from the project's. The command texts and
+     * the move panel's captions are the action editor's texts in force at this moment.
      */
     void open(ProgramKind kind);
     ProgramKind kind() const { return m_kind; }
-    const ActionEditorTexts& texts() const { return m_texts; }
 
     const std::vector<std::string>& commandLines() const { return m_code; }
     const std::vector<std::string>& readableLines() const { return m_readable; }
@@ -128,7 +129,6 @@ private:
     ProjectModel& m_model;
     UserInterface& m_ui;
     ProgramBuffer& m_buffer;
-    ActionEditorTexts m_texts;
     ProgramKind m_kind = ProgramKind::ProgramUP;
 
     std::vector<std::string> m_code;     // lstActionsCode
@@ -141,6 +141,8 @@ private:
     std::vector<std::string> m_commandTexts;
     std::vector<std::string> m_buttonTexts;
     std::vector<std::string> m_stateTexts;
+    std::string m_widthCaption;
+    std::string m_heightCaption;
     int m_command = -1;
     int m_button = -1;
     int m_state = -1;

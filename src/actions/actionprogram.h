@@ -39,8 +39,8 @@ struct ReadableTexts {
     std::vector<std::string> commands; ///< "Show" ... "Call JavaScript", command 1 first
     std::vector<std::string> buttons;  ///< "Button 1" ..., button 1 first
     std::vector<std::string> states;   ///< "Up State", "Mouse-Over", "Down State"
-    std::string widthCaption = "width:";
-    std::string heightCaption = "height:";
+    std::string widthCaption;          ///< "width:"
+    std::string heightCaption;         ///< "height:"
 };
 
 /**

@@ -1,5 +1,7 @@
 #include "desktopdialogs.h"
 
+#include "windowtexts.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -10,12 +12,12 @@ namespace orvelin {
 
 namespace {
 
-// The question, then Yes and No (Yes the default), then what `extra` adds.
-QVBoxLayout* buildQuestion(QDialog& dialog, const QString& text) {
-    dialog.setWindowTitle(QStringLiteral("Orvelin"));
+// The question, then Yes and No (Yes the default); the texts come from the window's
+// section.
+QVBoxLayout* buildQuestion(QDialog& dialog) {
     dialog.setModal(true);
     auto* layout = new QVBoxLayout(&dialog);
-    auto* label = new QLabel(text, &dialog);
+    auto* label = new QLabel(&dialog);
     label->setObjectName(QStringLiteral("lblQuestion"));
     label->setWordWrap(true);
     label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 60);
@@ -34,12 +36,11 @@ QVBoxLayout* buildQuestion(QDialog& dialog, const QString& text) {
 
 FrmAskToAssociate::FrmAskToAssociate(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmAskToAssociate"));
-    QVBoxLayout* layout = buildQuestion(
-        *this, tr("Orvelin is not the program that opens Orvelin project files (.orv).\n\n"
-                  "Make Orvelin the program for .orv files?"));
-    m_dontAsk = new QCheckBox(QStringLiteral("Don't ask me again"), this);
+    QVBoxLayout* layout = buildQuestion(*this);
+    m_dontAsk = new QCheckBox(this);
     m_dontAsk->setObjectName(QStringLiteral("chkDontAsk"));
     layout->insertWidget(1, m_dontAsk);
+    showWindowTexts(*this, TextSection::AskToAssociate);
 }
 
 bool FrmAskToAssociate::dontAskAgain() const {
@@ -48,9 +49,8 @@ bool FrmAskToAssociate::dontAskAgain() const {
 
 FrmShortCut::FrmShortCut(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmShortCut"));
-    buildQuestion(*this, tr("This copy of Orvelin runs from its build folder and has no entry "
-                            "in your applications menu.\n\nAdd Orvelin to the applications "
-                            "menu?"));
+    buildQuestion(*this);
+    showWindowTexts(*this, TextSection::ShortCut);
 }
 
 } // namespace orvelin

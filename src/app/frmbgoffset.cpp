@@ -1,13 +1,16 @@
 #include "frmbgoffset.h"
 
 #include "accessiblenames.h"
+#include "windowtexts.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <limits>
+#include <utility>
 
 namespace orvelin {
 
@@ -19,7 +22,7 @@ QSpinBox* offsetBox(const QString& name, int value, QWidget* parent) {
     box->setRange(std::numeric_limits<std::int16_t>::min(),
                   std::numeric_limits<std::int16_t>::max());
     box->setValue(value);
-    box->setSuffix(QStringLiteral(" px"));
+    box->setSuffix(uiText("frmBgOffset", "#unit"));
     box->setAccelerated(true);
     return box;
 }
@@ -29,13 +32,18 @@ QSpinBox* offsetBox(const QString& name, int value, QWidget* parent) {
 FrmBgOffset::FrmBgOffset(ProjectModel& model, QWidget* parent)
     : QDialog(parent), m_model(model), m_oldX(model.BgOffsetX), m_oldY(model.BgOffsetY) {
     setObjectName(QStringLiteral("frmBgOffset"));
-    setWindowTitle(tr("Background Offset"));
+    // The section first: the boxes' unit is one of its texts.
+    showWindowTexts(*this, TextSection::BackgroundOffset);
 
     m_x = offsetBox(QStringLiteral("txtOffsetX"), m_oldX, this);
     m_y = offsetBox(QStringLiteral("txtOffsetY"), m_oldY, this);
     auto* form = new QFormLayout;
-    form->addRow(tr("&X:"), m_x);
-    form->addRow(tr("&Y:"), m_y);
+    for (const auto& [name, box] : {std::pair{"lblOffsetX", m_x}, std::pair{"lblOffsetY", m_y}}) {
+        auto* label = new QLabel(this);
+        label->setObjectName(QLatin1String(name));
+        label->setBuddy(box);
+        form->addRow(label, box);
+    }
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnOk"));
@@ -49,6 +57,7 @@ FrmBgOffset::FrmBgOffset(ProjectModel& model, QWidget* parent)
 
     connect(m_x, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
     connect(m_y, &QSpinBox::valueChanged, this, &FrmBgOffset::preview);
+    applyWindowTexts(*this);
     nameControls(*this);
 }
 

@@ -1,6 +1,7 @@
 #include "frmmultilineeditor.h"
 
 #include "accessiblenames.h"
+#include "windowtexts.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -33,13 +34,12 @@ QString editorTextToLabel(const QString& text) {
 FrmMultiLineEditor::FrmMultiLineEditor(QLineEdit* txtLabel, QWidget* parent)
     : QDialog(parent), m_txtLabel(txtLabel) {
     setObjectName(QStringLiteral("frmMultiLineEditor"));
-    setWindowTitle(QStringLiteral("Multi-line Label"));
     setModal(true);
 
     m_txtEditor = new QPlainTextEdit(this);
     m_txtEditor->setObjectName(QStringLiteral("txtEditor"));
     m_txtEditor->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_btnClose = new QPushButton(QStringLiteral("Close"), this);
+    m_btnClose = new QPushButton(this);
     m_btnClose->setObjectName(QStringLiteral("btnClose"));
     m_btnClose->setDefault(false);
     m_btnClose->setAutoDefault(false); // Enter starts a new line, it does not close
@@ -54,6 +54,7 @@ FrmMultiLineEditor::FrmMultiLineEditor(QLineEdit* txtLabel, QWidget* parent)
 
     connect(m_txtEditor, &QPlainTextEdit::textChanged, this, &FrmMultiLineEditor::txtEditor_Change);
     connect(m_btnClose, &QPushButton::clicked, this, &QDialog::accept);
+    showWindowTexts(*this, TextSection::LabelEditor);
     nameControls(*this);
 }
 

@@ -1,11 +1,12 @@
 #include "frmsetaction.h"
 
 #include "accessiblenames.h"
-#include "textcatalogue.h"
 #include "paintsupport.h"
 #include "projectmodel.h"
+#include "textcatalogue.h"
 #include "typedfieldvalidator.h"
 #include "windowgeometry.h"
+#include "windowtexts.h"
 
 #include <QAbstractItemModel>
 #include <QColorDialog>
@@ -77,19 +78,18 @@ QFrame* separator(QWidget* parent) {
 
 FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
                            std::vector<bool> selected, QWidget* parent,
-                           const ActionEditorTexts& texts,
                            const std::array<std::string, 3>& stateCaptions)
-    : QDialog(parent), m_editor(model, ui, buffer, texts, stateCaptions),
-      m_selected(std::move(selected)) {
+    : QDialog(parent), m_editor(model, ui, buffer, stateCaptions), m_selected(std::move(selected)) {
     setObjectName(QStringLiteral("frmSetAction"));
     setModal(true);
-    buildControls(texts);
-    applyTexts(texts);
+    buildControls();
     connectControls();
+    // The texts of the language in force, before load() fills the lists from them.
+    showWindowTexts(*this, TextSection::SetAction);
     nameControls(*this);
 }
 
-void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
+void FrmSetAction::buildControls() {
     // The program, with the commands that act on its lines beside it.
     m_lstActions = new QListWidget(this);
     m_lstActions->setObjectName(QStringLiteral("lstActions"));
@@ -163,11 +163,14 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
         m_lblWidth->setObjectName(QStringLiteral("lblWidth"));
         m_lblHeight = new QLabel(m_picActionMove);
         m_lblHeight->setObjectName(QStringLiteral("lblHeight"));
-        // "x:" and "y:" are the same fixed captions the readable lines use.
-        row->addWidget(new QLabel(QStringLiteral("x:"), m_picActionMove));
+        auto* lblX = new QLabel(m_picActionMove);
+        lblX->setObjectName(QStringLiteral("lblX"));
+        auto* lblY = new QLabel(m_picActionMove);
+        lblY->setObjectName(QStringLiteral("lblY"));
+        row->addWidget(lblX);
         row->addWidget(m_txtX);
         row->addSpacing(8);
-        row->addWidget(new QLabel(QStringLiteral("y:"), m_picActionMove));
+        row->addWidget(lblY);
         row->addWidget(m_txtY);
         row->addSpacing(8);
         row->addWidget(m_lblWidth);
@@ -272,26 +275,7 @@ void FrmSetAction::buildControls(const ActionEditorTexts& texts) {
     root->addWidget(separator(this));
     root->addLayout(closing);
 
-    m_cmbAction->addItems(QList(texts.commandList()));
     resize(640, 420);
-}
-
-void FrmSetAction::applyTexts(const ActionEditorTexts& texts) {
-    m_btnAdd->setText(Q(texts.add));
-    m_btnRemove->setText(Q(texts.remove));
-    m_btnUP->setToolTip(Q(texts.moveUpTip));
-    m_btnDown->setToolTip(Q(texts.moveDownTip));
-    m_btnCopyProg->setText(Q(texts.copy));
-    m_btnCopyProg->setToolTip(Q(texts.copyTip));
-    m_btnPasteProg->setText(Q(texts.paste));
-    m_btnPasteProg->setToolTip(Q(texts.pasteTip));
-    m_btnOk->setText(Q(texts.ok));
-    m_btnCancel->setText(Q(texts.cancel));
-    m_lblWidth->setText(Q(texts.widthCaption));
-    m_lblHeight->setText(Q(texts.heightCaption));
-    m_lblMiliseconds->setText(Q(texts.milliseconds));
-    m_btnGetHexColor->setText(Q(texts.colorButton));
-    m_btnGetHexColor->setToolTip(Q(texts.colorTip));
 }
 
 void FrmSetAction::connectControls() {
@@ -324,8 +308,8 @@ void FrmSetAction::connectControls() {
     connect(m_btnCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void FrmSetAction::load(ProgramKind kind) {
-    setWindowTitle(QString::fromLatin1(programKindTitle(kind)));
+void FrmSetAction::load(ProgramKind kind, const QString& title) {
+    setWindowTitle(title.isEmpty() ? QString::fromLatin1(programKindTitle(kind)) : title);
     m_editor.open(kind);
     const auto targets = static_cast<int>(m_editor.targetButtons(m_selected).size());
     m_lblTargets->setText(Q(texts()[Msg::ProgramForButtons]).arg(targets));
@@ -336,8 +320,8 @@ void FrmSetAction::load(ProgramKind kind) {
     showPanels();
 }
 
-void FrmSetAction::myShow(ProgramKind kind) {
-    load(kind);
+void FrmSetAction::myShow(ProgramKind kind, const QString& title) {
+    load(kind, title);
     keepAboveOnTopWindows(*this);
     exec();
 }
@@ -389,7 +373,9 @@ void FrmSetAction::btnGetHexColor_Click() {
     QColor initial(QStringLiteral("#") + m_txtLabel->text());
     if (m_txtLabel->text().size() != 6 || !initial.isValid())
         initial = Qt::white;
-    const QColor colour = QColorDialog::getColor(initial, this);
+    // The colour button's tool tip names what the colour dialog does.
+    const QColor colour =
+        QColorDialog::getColor(initial, this, uiText("frmSetAction", "btnGetHexColor.toolTip"));
     if (!colour.isValid())
         return;
     m_editor.takeColor(colorToRef(colour));
@@ -433,6 +419,10 @@ void FrmSetAction::showInputs() {
 
 void FrmSetAction::showCombos() {
     m_showing = true;
+    if (m_cmbAction->count() != static_cast<int>(m_editor.commandTexts().size())) {
+        m_cmbAction->clear();
+        m_cmbAction->addItems(QList(m_editor.commandTexts()));
+    }
     if (m_cmbButtonNumber->count() != static_cast<int>(m_editor.buttonTexts().size())) {
         m_cmbButtonNumber->clear();
         m_cmbButtonNumber->addItems(QList(m_editor.buttonTexts()));
@@ -478,10 +468,9 @@ void FrmSetAction::showPanels() {
 
 void showActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
                       UserInterface& ui, ProgramBuffer& buffer, ProgramKind kind,
-                      const ActionEditorTexts& texts,
-                      const std::array<std::string, 3>& stateCaptions) {
-    FrmSetAction dialog(model, ui, buffer, selected, parent, texts, stateCaptions);
-    dialog.myShow(kind);
+                      const QString& title, const std::array<std::string, 3>& stateCaptions) {
+    FrmSetAction dialog(model, ui, buffer, selected, parent, stateCaptions);
+    dialog.myShow(kind, title);
 }
 
 } // namespace orvelin

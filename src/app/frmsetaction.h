@@ -35,19 +35,20 @@ public:
     /// `selected` is the main button list's selection: entry i-1 for button i.
     FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer& buffer,
                  std::vector<bool> selected, QWidget* parent = nullptr,
-                 const ActionEditorTexts& texts = {},
-                 const std::array<std::string, 3>& stateCaptions = defaultStateCaptions());
+                 const std::array<std::string, 3>& stateCaptions = mainStateCaptions());
 
-    /// Loads the program of `kind` and titles the window after it, without showing it.
-    void load(ProgramKind kind);
+    /**
+     * Loads the program of `kind` without showing it. The window is titled `title`, the
+     * caption of what opened it; without one, after the kind.
+     */
+    void load(ProgramKind kind, const QString& title = {});
     /// myShow: loads, then runs modally; on return OK has written the model, if chosen.
-    void myShow(ProgramKind kind);
+    void myShow(ProgramKind kind, const QString& title = {});
 
     ActionEditor& editor() { return m_editor; }
 
 private:
-    void buildControls(const ActionEditorTexts& texts);
-    void applyTexts(const ActionEditorTexts& texts);
+    void buildControls();
     void connectControls();
 
     // Control events.
@@ -112,7 +113,7 @@ private:
  */
 void showActionEditor(QWidget* parent, ProjectModel& model, const std::vector<bool>& selected,
                       UserInterface& ui, ProgramBuffer& buffer, ProgramKind kind,
-                      const ActionEditorTexts& texts = {},
-                      const std::array<std::string, 3>& stateCaptions = defaultStateCaptions());
+                      const QString& title = {},
+                      const std::array<std::string, 3>& stateCaptions = mainStateCaptions());
 
 } // namespace orvelin

@@ -37,6 +37,67 @@ constexpr TextEntry kSetAction[] = {
     {"frmSetAction", "cmbAction.item6", "Call JavaScript"},
 };
 
+// Both questions start the same way and stay small: caption, question, the answers.
+constexpr TextEntry kAskToAssociate[] = {
+    {"frmAskToAssociate", "frmAskToAssociate", "Orvelin"},
+    {"frmAskToAssociate", "lblQuestion",
+     "Orvelin is not the program that opens Orvelin project files (.orv).\r\n\r\n"
+     "Make Orvelin the program for .orv files?"},
+    {"frmAskToAssociate", "btnYes", "&Yes"},
+    {"frmAskToAssociate", "btnNo", "&No"},
+    {"frmAskToAssociate", "chkDontAsk", "Don't ask me again"},
+};
+
+constexpr TextEntry kShortCut[] = {
+    {"frmShortCut", "frmShortCut", "Orvelin"},
+    {"frmShortCut", "lblQuestion",
+     "This copy of Orvelin runs from its build folder and has no entry in your applications "
+     "menu.\r\n\r\nAdd Orvelin to the applications menu?"},
+    {"frmShortCut", "btnYes", "&Yes"},
+    {"frmShortCut", "btnNo", "&No"},
+};
+
+constexpr TextEntry kBackgroundOffset[] = {
+    {"frmBgOffset", "frmBgOffset", "Background Offset"},
+    {"frmBgOffset", "lblOffsetX", "&X:"},
+    {"frmBgOffset", "lblOffsetY", "&Y:"},
+    {"frmBgOffset", "btnOk", "OK"},
+    {"frmBgOffset", "btnCancel", "Cancel"},
+    {"frmBgOffset", "#unit", " px"},
+};
+
+constexpr TextEntry kLabelEditor[] = {
+    {"frmMultiLineEditor", "frmMultiLineEditor", "Multi-line Label"},
+    {"frmMultiLineEditor", "btnClose", "Close"},
+};
+
+constexpr TextEntry kSoundConverter[] = {
+    {"frmSoundConv", "frmSoundConv", "Sound Converter"},
+    {"frmSoundConv", "lblFiles",
+     "Sound files (WAV, FLAC, Ogg, AIFF...) to turn into Sun audio (.au, 8000 Hz, mono, 8-bit "
+     "mu-law):"},
+    {"frmSoundConv", "btnAdd", "&Add Files..."},
+    {"frmSoundConv", "btnRemove", "&Remove"},
+    {"frmSoundConv", "optBeside", "Beside each &source file"},
+    {"frmSoundConv", "optFolder", "Into &folder:"},
+    {"frmSoundConv", "btnBrowse", "&Browse..."},
+    {"frmSoundConv", "btnConvert", "&Convert"},
+    {"frmSoundConv", "btnClose", "Close"},
+    {"frmSoundConv", "#addTitle", "Add Sound Files"},
+    {"frmSoundConv", "#soundFiles", "Sounds (%1)"},
+    {"frmSoundConv", "#allFiles", "All Files (%1)"},
+    {"frmSoundConv", "#folderTitle", "Folder for the .au Files"},
+    {"frmSoundConv", "#written", "Written: %1"},
+    {"frmSoundConv", "#failed", "Failed: %1"},
+    {"frmSoundConv", "#converted", "%1 of %2 converted."},
+};
+
+// The action editor's texts beyond the 22 of its section.
+constexpr TextEntry kSetActionMore[] = {
+    {"frmSetAction", "lblX", "x:"},
+    {"frmSetAction", "lblY", "y:"},
+};
+
 constexpr TextEntry kMessages[] = {
     message(Msg::PleaseWait),
     message(Msg::SavingButtonsToFile),
@@ -111,14 +172,15 @@ constexpr SectionInfo kSections[] = {
     {TextSection::BrowserSetup, "[frmBrowserSetup]", {}},
     {TextSection::EditBrowser, "[frmEditBrowser]", {}},
     {TextSection::SetAction, "[frmSetAction]", kSetAction},
-    {TextSection::AskToAssociate, "[frmAskToAssociate]", {}},
-    {TextSection::ShortCut, "[frmShortCut]", {}},
+    {TextSection::AskToAssociate, "[frmAskToAssociate]", kAskToAssociate},
+    {TextSection::ShortCut, "[frmShortCut]", kShortCut},
     {TextSection::MainMore, "[frmMain]", {}},
     {TextSection::DesignTools, "[frmDesignTools]", {}},
     {TextSection::Messages, "[Messages]", kMessages},
-    {TextSection::BackgroundOffset, "[frmBgOffset]", {}},
-    {TextSection::LabelEditor, "[frmMultiLineEditor]", {}},
-    {TextSection::SoundConverter, "[frmSoundConv]", {}},
+    {TextSection::BackgroundOffset, "[frmBgOffset]", kBackgroundOffset},
+    {TextSection::LabelEditor, "[frmMultiLineEditor]", kLabelEditor},
+    {TextSection::SoundConverter, "[frmSoundConv]", kSoundConverter},
+    {TextSection::SetActionMore, "[frmSetActionMore]", kSetActionMore},
 };
 static_assert(std::size(kSections) == kTextSectionCount);
 

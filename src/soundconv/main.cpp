@@ -4,8 +4,14 @@
 //                                exit status 1 when any file failed, 2 for a wrong
 //                                command line
 #include "appicon.h"
+#include "languagefiles.h"
+#include "programfolder.h"
+#include "qsettingsbackend.h"
+#include "settings.h"
 #include "soundconversion.h"
 #include "soundconvwindow.h"
+#include "textcatalogue.h"
+#include "windowtexts.h"
 
 #include <QApplication>
 #include <cstring>
@@ -64,6 +70,13 @@ int main(int argc, char** argv) {
         return convertOnCommandLine(argc, argv);
     QApplication app(argc, argv);
     QApplication::setWindowIcon(orvelin::AppIcon());
+    // The designer's language: its settings' Current, the file in its program folder.
+    orvelin::QSettingsBackend store;
+    orvelin::Settings settings(store);
+    orvelin::TextCatalogue texts;
+    orvelin::LanguageFiles languages(texts, settings, orvelin::findProgramFolder());
+    const orvelin::LanguageInForce inForce(texts, languages);
+    orvelin::applyLayoutDirection(languages.current());
     orvelin::SoundConvWindow window;
     window.show();
     return QApplication::exec();

@@ -1,6 +1,7 @@
 #include "soundconvwindow.h"
 
 #include "soundconversion.h"
+#include "windowtexts.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -19,23 +20,24 @@ namespace orvelin {
 
 namespace {
 
-QPushButton* makeButton(const char* name, const QString& text, QWidget* parent) {
-    auto* button = new QPushButton(text, parent);
+QPushButton* makeButton(const char* name, QWidget* parent) {
+    auto* button = new QPushButton(parent);
     button->setObjectName(QLatin1String(name));
     return button;
+}
+
+QString text(std::string_view name) {
+    return uiText("frmSoundConv", name);
 }
 
 } // namespace
 
 SoundConvWindow::SoundConvWindow(QWidget* parent)
-    : QWidget(parent), m_files(new QListWidget(this)),
-      m_beside(new QRadioButton(QStringLiteral("Beside each &source file"), this)),
-      m_intoFolder(new QRadioButton(QStringLiteral("Into &folder:"), this)),
-      m_folder(new QLineEdit(this)), m_browse(makeButton("btnBrowse", tr("&Browse..."), this)),
-      m_convert(makeButton("btnConvert", tr("&Convert"), this)), m_progress(new QProgressBar(this)),
-      m_log(new QPlainTextEdit(this)) {
+    : QWidget(parent), m_files(new QListWidget(this)), m_beside(new QRadioButton(this)),
+      m_intoFolder(new QRadioButton(this)), m_folder(new QLineEdit(this)),
+      m_browse(makeButton("btnBrowse", this)), m_convert(makeButton("btnConvert", this)),
+      m_progress(new QProgressBar(this)), m_log(new QPlainTextEdit(this)) {
     setObjectName(QStringLiteral("frmSoundConv"));
-    setWindowTitle(QStringLiteral("Sound Converter"));
     m_files->setObjectName(QStringLiteral("lstFiles"));
     m_files->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_beside->setObjectName(QStringLiteral("optBeside"));
@@ -46,19 +48,19 @@ SoundConvWindow::SoundConvWindow(QWidget* parent)
     m_log->setReadOnly(true);
     m_beside->setChecked(true);
 
-    auto* add = makeButton("btnAdd", tr("&Add Files..."), this);
-    auto* remove = makeButton("btnRemove", tr("&Remove"), this);
-    auto* close = makeButton("btnClose", tr("Close"), this);
+    auto* add = makeButton("btnAdd", this);
+    auto* remove = makeButton("btnRemove", this);
+    auto* close = makeButton("btnClose", this);
+    auto* files = new QLabel(this);
+    files->setObjectName(QStringLiteral("lblFiles"));
+    files->setWordWrap(true);
 
     auto* fileButtons = new QVBoxLayout;
     fileButtons->addWidget(add);
     fileButtons->addWidget(remove);
     fileButtons->addStretch();
     auto* grid = new QGridLayout(this);
-    grid->addWidget(new QLabel(tr("Sound files (WAV, FLAC, Ogg, AIFF...) to turn into Sun "
-                                  "audio (.au, 8000 Hz, mono, 8-bit mu-law):"),
-                               this),
-                    0, 0, 1, 3);
+    grid->addWidget(files, 0, 0, 1, 3);
     grid->addWidget(m_files, 1, 0, 1, 2);
     grid->addLayout(fileButtons, 1, 2);
     grid->addWidget(m_beside, 2, 0, 1, 3);
@@ -82,6 +84,7 @@ SoundConvWindow::SoundConvWindow(QWidget* parent)
     connect(m_convert, &QPushButton::clicked, this, &SoundConvWindow::convertAll);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     updateButtons();
+    showWindowTexts(*this, TextSection::SoundConverter);
 }
 
 void SoundConvWindow::addFiles(const QStringList& files) {
@@ -91,13 +94,16 @@ void SoundConvWindow::addFiles(const QStringList& files) {
 
 void SoundConvWindow::chooseFiles() {
     addFiles(QFileDialog::getOpenFileNames(
-        this, tr("Add Sound Files"), {},
-        tr("Sounds (*.wav *.flac *.ogg *.oga *.aif *.aiff *.au *.snd *.voc);;All Files (*)")));
+        this, text("#addTitle"), {},
+        text("#soundFiles")
+                .arg(QStringLiteral("*.wav *.flac *.ogg *.oga *.aif *.aiff *.au *.snd "
+                                    "*.voc")) +
+            QStringLiteral(";;") + text("#allFiles").arg(QStringLiteral("*"))));
 }
 
 void SoundConvWindow::chooseFolder() {
     const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("Folder for the .au Files"), m_folder->text());
+        QFileDialog::getExistingDirectory(this, text("#folderTitle"), m_folder->text());
     if (!folder.isEmpty()) {
         m_folder->setText(folder);
         m_intoFolder->setChecked(true);
@@ -121,14 +127,15 @@ int SoundConvWindow::convertAll() {
     m_convert->setEnabled(false);
     for (int i = 0; i < count; ++i) {
         const ConversionResult result = convertToAu(m_files->item(i)->text().toStdString(), folder);
-        m_log->appendPlainText(QString::fromStdString(result.ok ? "Written: " + result.output
-                                                                : "Failed: " + result.error));
+        m_log->appendPlainText(
+            text(result.ok ? "#written" : "#failed")
+                .arg(QString::fromStdString(result.ok ? result.output : result.error)));
         failed += result.ok ? 0 : 1;
         m_progress->setValue(i + 1);
         // Several long files take a while: keep the bar and the log moving.
         QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
-    m_log->appendPlainText(tr("%1 of %2 converted.").arg(count - failed).arg(count));
+    m_log->appendPlainText(text("#converted").arg(count - failed).arg(count));
     updateButtons();
     return failed;
 }

@@ -2,6 +2,7 @@
 #include "fakeui.h"
 #include "programbuffer.h"
 #include "projectmodel.h"
+#include "textcatalogue.h"
 
 #include <gtest/gtest.h>
 
@@ -36,7 +37,8 @@ protected:
     ProjectModel model;
     FakeUserInterface ui;
     ProgramBuffer buffer;
-    ActionEditor editor{model, ui, buffer};
+    // The main editor's state captions, which it hands to the action editor.
+    ActionEditor editor{model, ui, buffer, {"Up State", "Mouse-Over", "Down State"}};
 };
 
 } // namespace
@@ -224,12 +226,16 @@ TEST_F(ActionEditorTest, DoubleClickLoadsALineBackIntoTheInputs) {
 }
 
 TEST_F(ActionEditorTest, ReplacedTextsShowInTheLists) {
-    ActionEditorTexts texts;
-    texts.at(15) = "Zeigen";
-    texts.at(11) = "Höhe:";
-    ActionEditor german(model, ui, buffer, texts, {"Oben", "Über", "Unten"});
+    // Lines 16 and 12 of a "[frmSetAction]" section: the first command and "height:".
+    TextCatalogue replaced;
+    replaced.set(TextSection::SetAction, 15, "Zeigen");
+    replaced.set(TextSection::SetAction, 11, "Höhe:");
+    useTexts(&replaced);
+    ActionEditor german(model, ui, buffer, {"Oben", "Über", "Unten"});
     model.button(2).ProgramOVER = "1 2;3 1 1 2 3 4;4 1 2 x;";
     german.open(ProgramKind::ProgramOVER);
+    useTexts(nullptr);
+    EXPECT_EQ(german.commandTexts().front(), "Zeigen");
     EXPECT_EQ(german.readableLines(),
               Lines({"Zeigen Button 2", "Move Button 1  ->  x:1 y:2 width:3 Höhe:4",
                      "Set Label Button 1 Über  ->  x"}));

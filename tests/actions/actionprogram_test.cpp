@@ -14,6 +14,8 @@ ReadableTexts FreshProjectTexts(int buttons) {
     for (int i = 1; i <= buttons; ++i)
         t.buttons.push_back("Button " + std::to_string(i));
     t.states = {"Up State", "Mouse-Over", "Down State"};
+    t.widthCaption = "width:";
+    t.heightCaption = "height:";
     return t;
 }
 

@@ -37,7 +37,9 @@ TEST(ProgramFuzz, AnyTextSplitsJoinsAndReadsConsistently) {
     ReadableTexts texts{
         {"Show", "Hide", "Move", "Set Label", "Set Color", "Wait", "Call JavaScript"},
         {"Button 1", "Button 2"},
-        {"Up State", "Mouse-Over", "Down State"}};
+        {"Up State", "Mouse-Over", "Down State"},
+        "width:",
+        "height:"};
     for (int round = 0; round < 5000; ++round) {
         const std::string text = RandomProgram(rng);
         SCOPED_TRACE(text);
