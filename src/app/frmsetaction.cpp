@@ -1,6 +1,7 @@
 #include "frmsetaction.h"
 
 #include "accessiblenames.h"
+#include "languagefiles.h"
 #include "paintsupport.h"
 #include "projectmodel.h"
 #include "textcatalogue.h"
@@ -84,7 +85,10 @@ FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer
     setModal(true);
     buildControls();
     connectControls();
-    // The texts of the language in force, before load() fills the lists from them.
+    // The texts of the language in force, before load() fills the lists from them; the
+    // captions beyond the section's 22 lines have a section of their own.
+    if (LanguageFiles* languages = windowLanguage())
+        languages->applyWindowInForce(TextSection::SetActionMore);
     showWindowTexts(*this, TextSection::SetAction);
     nameControls(*this);
 }

@@ -2,13 +2,20 @@
 // is marked with « » is read the way the program reads one, and a walk over each window
 // fails on any text without the mark.
 #include "designer.h"
+#include "desktopdialogs.h"
 #include "fakeui.h"
+#include "frmbgoffset.h"
 #include "frmdesign.h"
 #include "frmmain.h"
+#include "frmmultilineeditor.h"
+#include "frmsetaction.h"
 #include "languagefiles.h"
+#include "programbuffer.h"
 #include "programfolder.h"
+#include "projectmodel.h"
 #include "qsettingsbackend.h"
 #include "settings.h"
+#include "soundconvwindow.h"
 #include "tempfolder.h"
 #include "testapplication.h"
 #include "textcatalogue.h"
@@ -24,6 +31,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -152,7 +160,38 @@ TEST_F(WindowTexts, TheDesignHtmlAboutAndSettingsWindowsShowOnlyCatalogueTexts) 
 }
 
 TEST_F(WindowTexts, TheActionEditorAndTheSmallDialogsShowOnlyCatalogueTexts) {
-    GTEST_SKIP() << "these windows take their texts from the catalogue next";
+    QSettingsBackend backend;
+    Settings settings(backend);
+    TextCatalogue catalogue;
+    LanguageFiles languages(catalogue, settings, m_program.dir().string());
+    const LanguageInForce inForce(catalogue, languages);
+    // The button list's entries begin with a message, which start-up reads.
+    ASSERT_TRUE(languages.applyMain(kMarkedCode, m_ui));
+    ASSERT_TRUE(languages.applyWindow(TextSection::Messages, kMarkedCode));
+
+    ProjectModel model;
+    model.ButtonCount = 1;
+    model.CurrentButton = 1;
+    model.button(1).ProgramUP = "1 1;";
+    ProgramBuffer buffer;
+    FrmSetAction action(model, m_ui, buffer, {true});
+    // The caption and the state list are the main editor's texts, which it hands over.
+    action.load(ProgramKind::ProgramUP, QStringLiteral("«Set Action»"));
+    for (int command = 0; command < 7; ++command) {
+        action.findChild<QComboBox*>(QStringLiteral("cmbAction"))->setCurrentIndex(command);
+        ExpectAllFromCatalogue(action, {QStringLiteral("cmbStateSelector")});
+    }
+
+    QLineEdit label;
+    FrmMultiLineEditor labelEditor(&label);
+    FrmBgOffset offset(model);
+    FrmAskToAssociate ask;
+    FrmShortCut shortCut;
+    SoundConvWindow soundConverter;
+    for (QWidget* window :
+         std::initializer_list<QWidget*>{&labelEditor, &offset, &ask, &shortCut, &soundConverter})
+        ExpectAllFromCatalogue(*window);
+    EXPECT_TRUE(offset.findChild<QSpinBox*>()->suffix().contains(QStringLiteral("«")));
 }
 
 } // namespace
