@@ -90,6 +90,11 @@ constexpr TextEntry kSoundConverter[] = {
     {"frmSoundConv", "#written", "Written: %1"},
     {"frmSoundConv", "#failed", "Failed: %1"},
     {"frmSoundConv", "#converted", "%1 of %2 converted."},
+    {"frmSoundConv", "#noSound", "it holds no sound"},
+    {"frmSoundConv", "#replacesSource",
+     "the converted sound would replace the file itself; choose another folder"},
+    {"frmSoundConv", "#unreadable", "not a sound file that can be read (%1)"},
+    {"frmSoundConv", "#unwritable", "cannot be written (%1)"},
 };
 
 // The action editor's texts beyond the 22 of its section.

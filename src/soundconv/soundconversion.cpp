@@ -1,5 +1,8 @@
 #include "soundconversion.h"
 
+#include "textcatalogue.h"
+#include "texthelpers.h"
+
 #include <cmath>
 #include <filesystem>
 #include <memory>
@@ -25,6 +28,12 @@ ConversionResult failure(const std::string& input, const std::string& reason) {
     return {false, {}, input + ": " + reason};
 }
 
+// A reason the converter gives in words of its own, in the language in force; `detail`
+// (the sound library's or the system's own text) takes the place of "%1".
+std::string reason(std::string_view name, std::string_view detail = {}) {
+    return ReplaceAll(texts().text("frmSoundConv", name), "%1", detail);
+}
+
 // The whole sound, mixed down to one channel; button sounds are seconds long.
 bool readMono(SNDFILE* file, const SF_INFO& info, std::vector<float>& mono, std::string& error) {
     const auto channels = static_cast<std::size_t>(info.channels);
@@ -46,7 +55,7 @@ bool readMono(SNDFILE* file, const SF_INFO& info, std::vector<float>& mono, std:
         return false;
     }
     if (mono.empty()) {
-        error = "it holds no sound";
+        error = reason("#noSound");
         return false;
     }
     return true;
@@ -109,14 +118,12 @@ ConversionResult convertToAu(const std::string& input, const std::string& output
     const std::string output = auPathFor(input, outputFolder);
     std::error_code ec;
     if (fs::equivalent(input, output, ec))
-        return failure(input, "the converted sound would replace the file itself; choose "
-                              "another folder");
+        return failure(input, reason("#replacesSource"));
 
     SF_INFO info{};
     SoundFile source(sf_open(input.c_str(), SFM_READ, &info));
     if (!source)
-        return failure(input, std::string("not a sound file that can be read (") +
-                                  sf_strerror(nullptr) + ")");
+        return failure(input, reason("#unreadable", sf_strerror(nullptr)));
     std::vector<float> samples;
     std::string error;
     if (!readMono(source.get(), info, samples, error) || !resample(samples, info.samplerate, error))
@@ -126,13 +133,13 @@ ConversionResult convertToAu(const std::string& input, const std::string& output
     const std::string temporary = output + ".part";
     if (!writeAu(temporary, samples, error)) {
         fs::remove(temporary, ec);
-        return failure(output, "cannot be written (" + error + ")");
+        return failure(output, reason("#unwritable", error));
     }
     fs::rename(temporary, output, ec);
     if (ec) {
-        const std::string reason = ec.message();
+        const std::string system = ec.message();
         fs::remove(temporary, ec);
-        return failure(output, "cannot be written (" + reason + ")");
+        return failure(output, reason("#unwritable", system));
     }
     return {true, output, {}};
 }
