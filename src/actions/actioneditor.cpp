@@ -14,19 +14,21 @@ namespace orvelin {
 
 namespace {
 
+constexpr std::string_view kWindow = "frmSetAction";
+
 // The second line of "Wrong Parameters": which of Move's boxes holds the wrong value.
 std::string wrongBoxLine(int box) {
-    static const char* const names[] = {"X", "Y", "width", "height"};
+    static const char* const names[] = {"#boxX", "#boxY", "#boxWidth", "#boxHeight"};
     if (box < 0 || box > 3)
         return {};
-    return std::string(kCrLf) + orvelin::texts()[Msg::WrongBox] + names[box];
+    const TextCatalogue& t = orvelin::texts();
+    return std::string(kCrLf) + t[Msg::WrongBox] + t.text(kWindow, names[box]);
 }
 
 std::string moveBox(std::string word) {
     return word == "-999" ? std::string() : word;
 }
 
-constexpr std::string_view kWindow = "frmSetAction";
 constexpr int kCommandCount = static_cast<int>(ActionCommand::CallJavaScript);
 
 } // namespace

@@ -101,6 +101,10 @@ constexpr TextEntry kSoundConverter[] = {
 constexpr TextEntry kSetActionMore[] = {
     {"frmSetAction", "lblX", "x:"},
     {"frmSetAction", "lblY", "y:"},
+    {"frmSetAction", "#boxX", "X"},
+    {"frmSetAction", "#boxY", "Y"},
+    {"frmSetAction", "#boxWidth", "width"},
+    {"frmSetAction", "#boxHeight", "height"},
 };
 
 constexpr TextEntry kMessages[] = {
