@@ -99,9 +99,9 @@ constexpr TextEntry kSoundConverter[] = {
 
 // The action editor's texts beyond the 22 of its section.
 constexpr TextEntry kSetActionMore[] = {
-    {"frmSetAction", "lblX", "x:"},
+    {"frmSetAction", "lblX", "x:"}, // the move panel's first two captions
     {"frmSetAction", "lblY", "y:"},
-    {"frmSetAction", "#boxX", "X"},
+    {"frmSetAction", "#boxX", "X"}, // Move's boxes as "Wrong Parameters" names them
     {"frmSetAction", "#boxY", "Y"},
     {"frmSetAction", "#boxWidth", "width"},
     {"frmSetAction", "#boxHeight", "height"},
