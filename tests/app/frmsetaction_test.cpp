@@ -55,12 +55,6 @@ protected:
 
 } // namespace
 
-TEST_F(FrmSetActionTest, ShowsItsTitleAndListsTheProgram) {
-    EXPECT_EQ(dialog->windowTitle(), "Set Action: On Button Press...");
-    EXPECT_EQ(child<QComboBox>("cmbButtonNumber")->itemText(2), "Button 3");
-    EXPECT_EQ(listed(), (QStringList{"Hide Button 1", "Wait: 500 ms"}));
-}
-
 TEST_F(FrmSetActionTest, AddTakesTheTypedInputsAndShowsWhatTheEditorChanged) {
     choose(5);
     child<QComboBox>("lsMiliseconds")->setCurrentText("-250");
