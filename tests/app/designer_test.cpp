@@ -68,8 +68,7 @@ struct Program {
         QTimer::singleShot(20, &loop, &QEventLoop::quit);
         loop.exec();
     }
-    QString undoText() { return undoAction()->text().remove(QLatin1Char('&')); }
-    QAction* undoAction() { return main().history().undoAction(); }
+    QString undoText() { return main().history().undoAction()->text().remove(QLatin1Char('&')); }
 };
 
 } // namespace

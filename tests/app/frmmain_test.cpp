@@ -101,7 +101,7 @@ void ExpectActionEditor(const std::function<void()>& open, const char* title, co
 
 } // namespace
 
-TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
+TEST(MainWindow, StartsWithOneSelectedButtonAndTheCaptionAndRecentMenuNameTheProject) {
     MainWindow w;
     EXPECT_EQ(w.window.windowTitle(), QStringLiteral("Orvelin 1.0  Beta 6[*]"));
     ASSERT_EQ(w.buttons()->count(), 1);
@@ -109,18 +109,16 @@ TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
     EXPECT_TRUE(w.buttons()->item(0)->isSelected());
     EXPECT_EQ(w.field("txtWidth")->text(), QStringLiteral("107"));
     EXPECT_TRUE(w.model.Saved);
-}
 
-TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromAQuotedCommandLine) {
-    MainWindow w("\"" + kExample + "\"");
-    EXPECT_EQ(w.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample + "[*]");
-    EXPECT_GT(w.model.ButtonCount, 1);
-    EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
-    EXPECT_EQ(w.action("mnuFile1")->text().toStdString(), kExample);
-    EXPECT_FALSE(w.action("mnuFile2")->isVisible());
+    MainWindow quoted("\"" + kExample + "\"");
+    EXPECT_EQ(quoted.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample + "[*]");
+    EXPECT_GT(quoted.model.ButtonCount, 1);
+    EXPECT_EQ(quoted.buttons()->count(), quoted.model.ButtonCount);
+    EXPECT_EQ(quoted.action("mnuFile1")->text().toStdString(), kExample);
+    EXPECT_FALSE(quoted.action("mnuFile2")->isVisible());
     // An ampersand in a path shows as itself.
-    w.window.setRecentEntry(2, "/home/a&b/p.orv", true);
-    EXPECT_EQ(w.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
+    quoted.window.setRecentEntry(2, "/home/a&b/p.orv", true);
+    EXPECT_EQ(quoted.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
 }
 
 TEST(MainWindow, ShowingAnotherButtonWritesNothingBack) {
