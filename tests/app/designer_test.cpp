@@ -260,19 +260,6 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     EXPECT_EQ(projectText(p.model()), end);
 }
 
-TEST(Designer, AChangeTheDocumentAnnouncesReachesTheSurfaceAndThePanelWithoutARedrawCall) {
-    Program p;
-    p.main().editor().addButton();
-    p.main().editor().clickList(1);
-    p.model().button(1).x = 77;
-    p.model().button(1).LabelUP = "Hello";
-    DocumentChange change;
-    p.model().notices.announce(change.button(1));
-    EXPECT_EQ(p.design().pButtons(1)->x(), 77);
-    EXPECT_EQ(p.find<QLineEdit>("txtX")->text(), QStringLiteral("77"));
-    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), QStringLiteral("Hello"));
-}
-
 TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
     Program a;
     a.main().editor().addButton();
