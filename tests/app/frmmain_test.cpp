@@ -1,11 +1,9 @@
 #include "../model/editorfakes.h"
 #include "appletpanel.h"
-#include "fakeui.h"
 #include "frmmain.h"
 #include "frmsetaction.h"
 #include "mainmenus.h"
 #include "testapplication.h"
-#include "testdoubles.h"
 #include "windowgeometry.h"
 
 #include <QAction>
@@ -23,24 +21,16 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
-using orvelin::testing::MemorySettingsBackend;
 using namespace orvelin::testing;
 
 namespace {
 
 const std::string kExample = std::string(ORVELIN_SOURCE_DIR) + "/examples/navbar.orv";
 
-/// The main window over a fresh project, a scripted user, settings in memory and a
-/// recording design surface, started the way the program starts it.
-struct MainWindow {
+/// The main window over the editor's parts (its recording view unused: the window is the
+/// view), started the way the program starts it.
+struct MainWindow : EditorParts {
     QApplication& app = TestApplication();
-    ProjectModel model;
-    ButtonList list;
-    FakeUserInterface ui;
-    MemorySettingsBackend backend;
-    Settings settings{backend};
-    RecordingDesignView design{model};
-    FakeShell shell;
     FrmMain window{model, list, ui, settings, design, shell};
 
     explicit MainWindow(const std::string& commandLine = {}) {

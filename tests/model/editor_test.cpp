@@ -1,18 +1,14 @@
 #include "editor.h"
 #include "editorfakes.h"
-#include "fakeui.h"
 #include "projectfile.h"
 #include "tempfolder.h"
-#include "testdoubles.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace orvelin;
-using orvelin::testing::MemorySettingsBackend;
 using Answer = UserInterface::Answer;
 using Texts = std::vector<std::string>;
-using Selection = std::vector<int>;
 namespace fs = std::filesystem;
 
 namespace {
@@ -25,15 +21,7 @@ const std::string kSaveError =
     "Error Saving Buttons. File may be Read Only, Hidden or used by another application.\r\n"
     "No such file or directory";
 
-struct EditorFixture : ::testing::Test {
-    ProjectModel model;
-    ButtonList list;
-    orvelin::testing::FakeUserInterface ui;
-    MemorySettingsBackend backend;
-    Settings settings{backend};
-    orvelin::testing::RecordingDesignView design{model};
-    orvelin::testing::FakeShell shell;
-    orvelin::testing::RecordingEditorView view{model};
+struct EditorFixture : ::testing::Test, orvelin::testing::EditorParts {
     orvelin::testing::TempFolder folder;
     Editor editor{model, list, ui, settings, design, shell, view, folder.dir().string()};
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "buttonlist.h"
 #include "designview.h"
 #include "editorview.h"
+#include "fakeui.h"
 #include "projectmodel.h"
 #include "shell.h"
+#include "testdoubles.h"
 
 #include <algorithm>
 #include <array>
@@ -120,6 +123,19 @@ public:
         started.emplace_back(program, arguments);
         return succeed;
     }
+};
+
+/// What the editor works on: a fresh project, a scripted user, settings in memory and
+/// recording views and shell.
+struct EditorParts {
+    ProjectModel model;
+    ButtonList list;
+    FakeUserInterface ui;
+    MemorySettingsBackend backend;
+    Settings settings{backend};
+    RecordingDesignView design{model};
+    FakeShell shell;
+    RecordingEditorView view{model};
 };
 
 } // namespace orvelin::testing
