@@ -51,11 +51,7 @@ struct Program {
     FrmDesign& design() { return designer.designWindow(); }
     ProjectModel& model() { return designer.model(); }
 
-    template <typename T = QWidget> T* find(const char* name) {
-        T* child = main().findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(child, nullptr) << name;
-        return child;
-    }
+    template <typename T = QWidget> T* find(const char* name) { return Child<T>(main(), name); }
     void type(const char* field, const QString& text) {
         QLineEdit* edit = find<QLineEdit>(field);
         edit->setFocus();
@@ -327,11 +323,7 @@ TEST(Designer, ArrangeCommandsFollowTheSelectionAndEachIsOneNamedStep) {
     p.design().redrawAll();
     p.idle();
     p.main().history().clear();
-    const auto action = [&](const char* name) {
-        auto* a = p.design().findChild<QAction*>(QString::fromLatin1(name));
-        EXPECT_NE(a, nullptr) << name;
-        return a;
-    };
+    const auto action = [&](const char* name) { return Child<QAction>(p.design(), name); };
     EXPECT_FALSE(action("mnuAlignLeft")->isEnabled());
     QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, Qt::ControlModifier, QPoint(3, 3));
     p.idle();

@@ -38,9 +38,7 @@ struct MainWindow : EditorParts {
     }
 
     template <typename T = QWidget> T* find(const char* name) const {
-        T* child = window.findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(child, nullptr) << name;
-        return child;
+        return Child<T>(window, name);
     }
     QLineEdit* field(const char* name) const { return find<QLineEdit>(name); }
     QListWidget* buttons() const { return find<QListWidget>("lstButtons"); }

@@ -31,9 +31,7 @@ protected:
     }
 
     template <typename T = QWidget> T* child(const char* name) {
-        T* widget = dialog->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
+        return orvelin::testing::Child<T>(*dialog, name);
     }
     QStringList listed() {
         QStringList lines;
