@@ -5,7 +5,6 @@
 #include "editorview.h"
 #include "fakeui.h"
 #include "projectmodel.h"
-#include "shell.h"
 #include "testdoubles.h"
 
 #include <algorithm>
@@ -105,24 +104,6 @@ public:
 
 private:
     const ProjectModel& m_model;
-};
-
-/// A shell that records what it was asked to open or start.
-class FakeShell : public Shell {
-public:
-    std::vector<std::string> opened;
-    std::vector<std::pair<std::string, std::vector<std::string>>> started;
-    bool succeed = true;
-
-    bool openDocument(const std::string& path) override {
-        opened.push_back(path);
-        return succeed;
-    }
-    bool startProgram(const std::string& program,
-                      const std::vector<std::string>& arguments) override {
-        started.emplace_back(program, arguments);
-        return succeed;
-    }
 };
 
 /// What the editor works on: a fresh project, a scripted user, settings in memory and
