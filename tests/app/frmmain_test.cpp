@@ -62,29 +62,22 @@ struct MainWindow : EditorParts {
     }
 };
 
-/// Runs `inspect` on the modal dialog that `open` shows, then closes it.
-void WithModalDialog(const std::function<void()>& open,
-                     const std::function<void(QWidget&)>& inspect) {
+/// Opens the action editor through `open`, checks its title and program kind, closes it.
+void ExpectActionEditor(const std::function<void()>& open, const char* title, const char* kind) {
     bool seen = false;
     QTimer::singleShot(0, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
         seen = true;
-        inspect(*dialog);
+        EXPECT_EQ(dialog->windowTitle(), QString::fromLatin1(title));
+        if (auto* editor = qobject_cast<FrmSetAction*>(dialog))
+            EXPECT_EQ(editor->editor().kind(), kind);
+        else
+            ADD_FAILURE() << "not the action editor";
         dialog->close();
     });
     open();
-    EXPECT_TRUE(seen) << "no dialog opened";
-}
-
-/// Opens the action editor through `open` and checks its title and program kind.
-void ExpectActionEditor(const std::function<void()>& open, const char* title, const char* kind) {
-    WithModalDialog(open, [&](QWidget& dialog) {
-        auto* editor = qobject_cast<FrmSetAction*>(&dialog);
-        ASSERT_NE(editor, nullptr);
-        EXPECT_EQ(editor->windowTitle(), QString::fromLatin1(title));
-        EXPECT_EQ(editor->editor().kind(), kind);
-    });
+    EXPECT_TRUE(seen) << "no action editor opened";
 }
 
 } // namespace
