@@ -34,6 +34,7 @@ enum class TextSection : std::size_t {
     BackgroundOffset,
     LabelEditor,
     SoundConverter,
+    BrowsersMore,
     Count
 };
 
