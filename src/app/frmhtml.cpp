@@ -51,6 +51,8 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     m_txtHTML->setReadOnly(true);
     m_txtHTML->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_txtHTML->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // Code reads left to right whatever the language of the window.
+    m_txtHTML->setLayoutDirection(Qt::LeftToRight);
 
     QPushButton* preview = Command("btnPreview", this);
     m_cmbBrowser = new QComboBox(this);
