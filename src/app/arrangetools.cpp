@@ -5,6 +5,7 @@
 #include "paintedicon.h"
 #include "surfaceeditorlink.h"
 #include "undohistory.h"
+#include "windowtexts.h"
 
 #include <QAbstractEventDispatcher>
 #include <QAction>
@@ -80,9 +81,9 @@ std::int16_t toRecord(int value) {
 ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& list,
                            UndoHistory& history, QObject* parent)
     : QObject(parent), m_model(model), m_list(list), m_history(history) {
-    m_menu = new QMenu(tr("&Arrange"), &design);
+    m_menu = new QMenu(&design);
     m_menu->setObjectName(QStringLiteral("mnuArrange"));
-    m_toolBar = new QToolBar(tr("Arrange"), &design);
+    m_toolBar = new QToolBar(&design);
     m_toolBar->setObjectName(QStringLiteral("tbArrange"));
     m_toolBar->setIconSize(QSize(16, 16));
 
@@ -96,26 +97,26 @@ ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& l
             return makeSameSize(std::move(r), ref, what);
         };
     };
-    add("mnuAlignLeft", tr("Align Left"), 2, "left", align(AlignTo::Left));
-    add("mnuAlignHCentre", tr("Align Horizontal Centres"), 2, "hcentre",
-        align(AlignTo::HorizontalCentre));
-    add("mnuAlignRight", tr("Align Right"), 2, "right", align(AlignTo::Right));
-    add("mnuAlignTop", tr("Align Top"), 2, "top", align(AlignTo::Top));
-    add("mnuAlignVCentre", tr("Align Vertical Centres"), 2, "vcentre",
-        align(AlignTo::VerticalCentre));
-    add("mnuAlignBottom", tr("Align Bottom"), 2, "bottom", align(AlignTo::Bottom));
+    add("mnuAlignLeft", 2, "left", align(AlignTo::Left));
+    add("mnuAlignHCentre", 2, "hcentre", align(AlignTo::HorizontalCentre));
+    add("mnuAlignRight", 2, "right", align(AlignTo::Right));
+    add("mnuAlignTop", 2, "top", align(AlignTo::Top));
+    add("mnuAlignVCentre", 2, "vcentre", align(AlignTo::VerticalCentre));
+    add("mnuAlignBottom", 2, "bottom", align(AlignTo::Bottom));
     m_menu->addSeparator();
     m_toolBar->addSeparator();
-    add("mnuDistributeH", tr("Distribute Horizontally"), 3, "dist-h",
+    add("mnuDistributeH", 3, "dist-h",
         [](std::vector<PixelRect> r, std::size_t) { return distributeHorizontally(std::move(r)); });
-    add("mnuDistributeV", tr("Distribute Vertically"), 3, "dist-v",
+    add("mnuDistributeV", 3, "dist-v",
         [](std::vector<PixelRect> r, std::size_t) { return distributeVertically(std::move(r)); });
     m_menu->addSeparator();
     m_toolBar->addSeparator();
-    add("mnuSameWidth", tr("Same Width"), 2, "width", same(SameSize::Width));
-    add("mnuSameHeight", tr("Same Height"), 2, "height", same(SameSize::Height));
-    add("mnuSameSize", tr("Same Size"), 2, "size", same(SameSize::Both));
+    add("mnuSameWidth", 2, "width", same(SameSize::Width));
+    add("mnuSameHeight", 2, "height", same(SameSize::Height));
+    add("mnuSameSize", 2, "size", same(SameSize::Both));
 
+    // The catalogue names the commands; their tool tips are put together from the names.
+    connect(&design, &FrmDesign::textsChanged, this, [this] { showTexts(); });
     design.addArrangeTools(m_menu, m_toolBar);
     updateEnabled();
     // The selection changes in many places (the list, the surface, an undo): the
@@ -129,21 +130,28 @@ ArrangeTools::ArrangeTools(FrmDesign& design, ProjectModel& model, ButtonList& l
 
 ArrangeTools::~ArrangeTools() = default;
 
-void ArrangeTools::add(const char* name, const QString& text, int needs, const char* icon,
-                       Tool tool) {
-    auto* action = new QAction(makeIcon(icon), text, m_menu);
+void ArrangeTools::add(const char* name, int needs, const char* icon, Tool tool) {
+    auto* action = new QAction(makeIcon(icon), QString(), m_menu);
     action->setObjectName(QString::fromLatin1(name));
-    action->setToolTip(needs > 2 ? tr("%1 (at least three selected buttons)").arg(text)
-                                 : tr("%1 (on the current button)").arg(text));
     m_menu->addAction(action);
     m_toolBar->addAction(action);
-    if (QWidget* button = m_toolBar->widgetForAction(action)) {
+    if (QWidget* button = m_toolBar->widgetForAction(action))
         button->setObjectName(QString::fromLatin1(name).replace(0, 3, QStringLiteral("btn")));
-        button->setAccessibleName(text);
-    }
+    // The undo step is named after the command as it reads when it is used.
     connect(action, &QAction::triggered, this,
-            [this, tool = std::move(tool), text] { apply(tool, text); });
+            [this, tool = std::move(tool), action] { apply(tool, action->iconText()); });
     m_commands.push_back({action, needs});
+}
+
+void ArrangeTools::showTexts() {
+    const QString onCurrent = uiText("frmDesign", "#arrangeOnCurrent");
+    const QString onThree = uiText("frmDesign", "#arrangeThree");
+    for (const Command& c : m_commands) {
+        const QString name = c.action->iconText();
+        c.action->setToolTip((c.needs > 2 ? onThree : onCurrent).arg(name));
+        if (QWidget* button = m_toolBar->widgetForAction(c.action))
+            button->setAccessibleName(name);
+    }
 }
 
 QAction* ArrangeTools::action(const QString& name) const {

@@ -46,7 +46,9 @@ private:
         QAction* action;
         int needs; ///< the fewest selected buttons it works on
     };
-    void add(const char* name, const QString& text, int needs, const char* icon, Tool tool);
+    void add(const char* name, int needs, const char* icon, Tool tool);
+    /// The tool tips and the toolbar buttons' names, from the commands' texts in force.
+    void showTexts();
     /// Runs `tool` on the selection, shows the result and records one step `stepName`.
     void apply(const Tool& tool, const QString& stepName);
 

@@ -2,9 +2,10 @@
 
 #include "accessiblenames.h"
 #include "buttonrecord.h"
-#include "textcatalogue.h"
 #include "settings.h"
+#include "textcatalogue.h"
 #include "userinterface.h"
+#include "windowtexts.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -19,31 +20,22 @@ namespace orvelin {
 FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     : QDialog(parent), m_settings(settings), m_ui(ui) {
     setObjectName(QStringLiteral("frmAdvanced"));
-    setWindowTitle(QStringLiteral("Advanced"));
     setModal(true);
 
-    m_chkAutoTile =
-        new QCheckBox(QStringLiteral("Tile small background images automatically"), this);
+    m_chkAutoTile = new QCheckBox(this);
     m_chkAutoTile->setObjectName(QStringLiteral("chkAutoTile"));
-    m_chkHtml5Player = new QCheckBox(QStringLiteral("Play pages with the HTML5 player"), this);
+    m_chkHtml5Player = new QCheckBox(this);
     m_chkHtml5Player->setObjectName(QStringLiteral("chkHtml5Player"));
-    m_chkHtml5Player->setToolTip(
-        QStringLiteral("Test in Browser and Build Applet put orvelin-player.js beside the page, "
-                       "so that the buttons play in today's browsers without Java"));
     m_txtGridSize = new QSpinBox(this);
     m_txtGridSize->setObjectName(QStringLiteral("txtGridSize"));
     m_txtGridSize->setRange(0, 100);
-    m_txtGridSize->setSpecialValueText(QStringLiteral("Off"));
-    m_txtGridSize->setSuffix(QStringLiteral(" px"));
-    m_txtGridSize->setToolTip(
-        QStringLiteral("Dragged buttons snap to a grid of this size on the design window"));
-    auto* lblGridSize = new QLabel(QStringLiteral("Design &grid:"), this);
+    auto* lblGridSize = new QLabel(this);
     lblGridSize->setObjectName(QStringLiteral("lblGridSize"));
     lblGridSize->setBuddy(m_txtGridSize);
-    m_btnRestoreDefaults = new QPushButton(QStringLiteral("Restore Defaults"), this);
+    m_btnRestoreDefaults = new QPushButton(this);
     m_btnRestoreDefaults->setObjectName(QStringLiteral("btnRestoreDefaults"));
     m_btnRestoreDefaults->setAutoDefault(false);
-    m_btnOk = new QPushButton(QStringLiteral("OK"), this);
+    m_btnOk = new QPushButton(this);
     m_btnOk->setObjectName(QStringLiteral("btnOk"));
     m_btnOk->setDefault(true);
 
@@ -75,6 +67,7 @@ FrmAdvanced::FrmAdvanced(Settings& settings, UserInterface& ui, QWidget* parent)
     connect(m_btnRestoreDefaults, &QPushButton::clicked, this,
             &FrmAdvanced::btnRestoreDefaults_Click);
     connect(m_btnOk, &QPushButton::clicked, this, &FrmAdvanced::btnOk_Click);
+    showTexts();
     nameControls(*this);
 }
 
@@ -85,7 +78,14 @@ void FrmAdvanced::showOptions() {
     m_txtGridSize->setValue(QString::fromStdString(m_settings.value(SettingKey::GridSize)).toInt());
 }
 
+void FrmAdvanced::showTexts() {
+    showWindowTexts(*this, TextSection::Advanced);
+    m_txtGridSize->setSpecialValueText(uiText("frmAdvanced", "#gridOff"));
+    m_txtGridSize->setSuffix(uiText("frmAdvanced", "#gridUnit"));
+}
+
 void FrmAdvanced::showEvent(QShowEvent* event) {
+    showTexts();
     showOptions();
     QDialog::showEvent(event);
 }

@@ -40,6 +40,8 @@ private:
     void btnOk_Click();
     /// The check boxes show the stored options.
     void showOptions();
+    /// Reads the window's section of the language in force and shows its texts.
+    void showTexts();
 
     Settings& m_settings;
     UserInterface& m_ui;

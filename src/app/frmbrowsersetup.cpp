@@ -2,6 +2,7 @@
 
 #include "accessiblenames.h"
 #include "frmeditbrowser.h"
+#include "windowtexts.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -15,40 +16,19 @@ namespace orvelin {
 
 namespace {
 
-enum Text { Caption, Hint, Add, Edit, Remove, Up, Down, Find, AddTip };
-
 constexpr int kCommands = 6;
 
 } // namespace
-
-QStringList FrmBrowserSetup::defaultTexts() {
-    return {QStringLiteral("Browsers"),
-            QStringLiteral("\"Test in Browser\" opens the page in the browser chosen in the "
-                           "HTML window. The first entry is the desktop's default browser."),
-            QStringLiteral("&Add..."),
-            QStringLiteral("&Edit..."),
-            QStringLiteral("&Remove"),
-            QStringLiteral("Move &Up"),
-            QStringLiteral("Move &Down"),
-            QStringLiteral("&Find Browsers"),
-            QStringLiteral("Add a browser and its program to the list"),
-            QStringLiteral("Change the name or program of the selected browser"),
-            QStringLiteral("Remove the selected browser from the list"),
-            QStringLiteral("Move the selected browser up the list"),
-            QStringLiteral("Move the selected browser down the list"),
-            QStringLiteral("Add the browsers installed on this computer that are not listed")};
-}
 
 FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSearchPlaces places,
                                  QWidget* parent)
     : QDialog(parent), m_browsers(std::move(browsers)), m_places(std::move(places)) {
     if (m_browsers.empty())
         m_browsers.push_back({kDefaultBrowserName, ""});
-    const QStringList texts = defaultTexts();
     setObjectName(QStringLiteral("frmBrowserSetup"));
-    setWindowTitle(texts[Caption]);
 
-    auto* hint = new QLabel(texts[Hint], this);
+    auto* hint = new QLabel(this);
+    hint->setObjectName(QStringLiteral("lblHint"));
     hint->setWordWrap(true);
     m_lstBrowsers = new QListWidget(this);
     m_lstBrowsers->setObjectName(QStringLiteral("lstBrowsers"));
@@ -59,9 +39,8 @@ FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSear
     QPushButton* commands[kCommands];
     auto* column = new QVBoxLayout;
     for (int k = 0; k < kCommands; ++k) {
-        commands[k] = new QPushButton(texts[Add + k], this);
+        commands[k] = new QPushButton(this);
         commands[k]->setObjectName(QString::fromLatin1(names[k]));
-        commands[k]->setToolTip(texts[AddTip + k]);
         commands[k]->setAutoDefault(false);
         column->addWidget(commands[k]);
         if (k == 4)
@@ -73,7 +52,7 @@ FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSear
     m_btnUp = commands[3];
     m_btnDown = commands[4];
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = okCancelButtons(*this);
     auto* middle = new QHBoxLayout;
     middle->addWidget(m_lstBrowsers, 1);
     middle->addLayout(column);
@@ -96,13 +75,17 @@ FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSear
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showList(0);
+    showWindowTexts(*this, TextSection::BrowserSetup);
+    showWindowTexts(*this, TextSection::BrowsersMore);
     nameControls(*this);
 }
 
 void FrmBrowserSetup::showList(int row) {
     m_lstBrowsers->clear();
     for (const BrowserEntry& entry : m_browsers) {
-        QString text = QString::fromStdString(entry.name);
+        // The first entry is the desktop's default browser, named in the language in force.
+        QString text = m_lstBrowsers->count() == 0 ? uiText("frmHTML", "#defaultBrowser")
+                                                   : QString::fromStdString(entry.name);
         if (!entry.program.empty())
             text += QStringLiteral("  (%1)").arg(QString::fromStdString(entry.program));
         m_lstBrowsers->addItem(text);

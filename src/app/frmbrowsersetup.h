@@ -3,7 +3,6 @@
 #include "browserlist.h"
 
 #include <QDialog>
-#include <QStringList>
 #include <vector>
 
 class QListWidget;
@@ -21,12 +20,6 @@ class FrmBrowserSetup : public QDialog {
     Q_OBJECT
 
 public:
-    /// The dialog's visible texts, in the order a language file gives them: caption,
-    /// the hint, the six commands' captions (Add, Edit, Remove, Up, Down, Find), then
-    /// their tool tips in the same order.
-    static constexpr int kTextCount = 14;
-    static QStringList defaultTexts();
-
     FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSearchPlaces places,
                     QWidget* parent = nullptr);
 

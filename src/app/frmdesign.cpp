@@ -6,8 +6,10 @@
 #include "buttonpainter.h"
 #include "buttonpicture.h"
 #include "labelpositioner.h"
+#include "languagefiles.h"
 #include "manipulation.h"
 #include "sizerhandle.h"
+#include "windowtexts.h"
 
 #include <QActionGroup>
 #include <QCheckBox>
@@ -108,9 +110,13 @@ FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, Q
     : QWidget(parent, Qt::Window), m_model(model), m_list(list),
       m_ui(ui != nullptr ? std::make_unique<OneWarningPerAction>(*ui) : nullptr) {
     setObjectName(QStringLiteral("frmDesign"));
-    setWindowTitle(tr("Design"));
     buildWindow();
     appletChanged();
+    // The window's texts come from two sections: the buttons here, the tools in the other.
+    if (LanguageFiles* languages = windowLanguage())
+        languages->applyWindowInForce(TextSection::DesignTools);
+    showWindowTexts(*this, TextSection::Design);
+    showComposedTexts();
     nameControls(*this);
     // Every change of the document reaches the surface here, whoever made it.
     m_listening =
@@ -122,21 +128,16 @@ FrmDesign::~FrmDesign() {
 }
 
 void FrmDesign::buildWindow() {
-    m_btnAddBtn = new QPushButton(tr("&Add"), this);
+    m_btnAddBtn = new QPushButton(this);
     m_btnAddBtn->setObjectName(QStringLiteral("btnAddBtn"));
-    m_btnAddBtn->setToolTip(tr("Add a new button"));
-    m_btnDuplicate = new QPushButton(tr("D&uplicate"), this);
+    m_btnDuplicate = new QPushButton(this);
     m_btnDuplicate->setObjectName(QStringLiteral("btnDuplicate"));
-    m_btnDuplicate->setToolTip(tr("Duplicate the current button"));
-    m_btnRemove = new QPushButton(tr("&Remove"), this);
+    m_btnRemove = new QPushButton(this);
     m_btnRemove->setObjectName(QStringLiteral("btnRemove"));
-    m_btnRemove->setToolTip(tr("Remove the current button (the one with the handles)"));
-    m_btnViewHtml = new QPushButton(tr("View &HTML"), this);
+    m_btnViewHtml = new QPushButton(this);
     m_btnViewHtml->setObjectName(QStringLiteral("btnViewHtml"));
-    m_btnViewHtml->setToolTip(tr("Show the applet code"));
-    m_chkNoBackGround = new QCheckBox(tr("&No background"), this);
+    m_chkNoBackGround = new QCheckBox(this);
     m_chkNoBackGround->setObjectName(QStringLiteral("chkNoBackGround"));
-    m_chkNoBackGround->setToolTip(tr("Show the buttons without the applet background"));
 
     connect(m_btnAddBtn, &QPushButton::clicked, this, &FrmDesign::btnAddBtnClicked);
     connect(m_btnDuplicate, &QPushButton::clicked, this, &FrmDesign::btnDuplicateClicked);
@@ -150,8 +151,6 @@ void FrmDesign::buildWindow() {
 
     m_lblZoom = new QLabel(this);
     m_lblZoom->setObjectName(QStringLiteral("lblZoom"));
-    m_lblZoom->setToolTip(tr("Zoom of the design surface (Ctrl+wheel, Ctrl++, Ctrl+-, Ctrl+0)"));
-    m_lblZoom->setText(QStringLiteral("%1%").arg(m_zoom.percent()));
 
     auto* commands = new QHBoxLayout;
     commands->addWidget(m_btnAddBtn);
@@ -164,6 +163,9 @@ void FrmDesign::buildWindow() {
 
     m_surface = new QWidget;
     m_surface->setObjectName(QStringLiteral("picSurface"));
+    // The surface shows the applet in the applet's own coordinates: never mirrored, also
+    // when the windows are laid out right to left.
+    m_surface->setLayoutDirection(Qt::LeftToRight);
     m_surface->installEventFilter(this);
     m_area = new AppletArea(m_surface);
     m_area->move(kMargin, kMargin);
@@ -194,6 +196,7 @@ void FrmDesign::buildWindow() {
     m_scroll->setWidget(m_surface);
     m_scroll->setWidgetResizable(false);
     m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setLayoutDirection(Qt::LeftToRight);
     m_scroll->viewport()->installEventFilter(this);
 
     auto* layout = new QVBoxLayout(this);
@@ -207,27 +210,27 @@ void FrmDesign::buildViewMenu() {
     m_menuBar = new QMenuBar(this);
     m_menuBar->setObjectName(QStringLiteral("mnuDesignBar"));
     layout()->setMenuBar(m_menuBar);
-    m_mnuView = m_menuBar->addMenu(tr("&View"));
+    m_mnuView = m_menuBar->addMenu(QString());
     m_mnuView->setObjectName(QStringLiteral("mnuView"));
 
-    QAction* zoomIn = m_mnuView->addAction(tr("Zoom &In"), this,
-                                           [this] { setZoom(m_zoom.zoomedIn().percent()); });
+    QAction* zoomIn =
+        m_mnuView->addAction(QString(), this, [this] { setZoom(m_zoom.zoomedIn().percent()); });
     zoomIn->setObjectName(QStringLiteral("mnuZoomIn"));
     zoomIn->setShortcut(QKeySequence::ZoomIn);
-    QAction* zoomOut = m_mnuView->addAction(tr("Zoom &Out"), this,
-                                            [this] { setZoom(m_zoom.zoomedOut().percent()); });
+    QAction* zoomOut =
+        m_mnuView->addAction(QString(), this, [this] { setZoom(m_zoom.zoomedOut().percent()); });
     zoomOut->setObjectName(QStringLiteral("mnuZoomOut"));
     zoomOut->setShortcut(QKeySequence::ZoomOut);
-    QAction* actual = m_mnuView->addAction(tr("&Actual Size"), this,
-                                           [this] { setZoom(SurfaceZoom::kActualSize); });
+    QAction* actual =
+        m_mnuView->addAction(QString(), this, [this] { setZoom(SurfaceZoom::kActualSize); });
     actual->setObjectName(QStringLiteral("mnuZoomActual"));
     actual->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
     m_mnuView->addSeparator();
 
     m_zoomLevels = new QActionGroup(this);
     for (int percent : SurfaceZoom::kSteps) {
-        QAction* level = m_mnuView->addAction(QStringLiteral("%1%").arg(percent), this,
-                                              [this, percent] { setZoom(percent); });
+        QAction* level =
+            m_mnuView->addAction(QString(), this, [this, percent] { setZoom(percent); });
         level->setObjectName(QStringLiteral("mnuZoom%1").arg(percent));
         level->setData(percent);
         level->setCheckable(true);
@@ -241,6 +244,23 @@ void FrmDesign::addArrangeTools(QMenu* menu, QToolBar* tools) {
     // In the row of commands, after View HTML: the surface keeps its height.
     auto* commands = static_cast<QBoxLayout*>(layout()->itemAt(0)->layout());
     commands->insertWidget(4, tools);
+    retranslate();
+}
+
+void FrmDesign::retranslate() {
+    applyWindowTexts(*this);
+    showComposedTexts();
+    emit textsChanged();
+}
+
+QString FrmDesign::zoomText(int percent) {
+    return uiText("frmDesign", "#zoomLevel").arg(percent);
+}
+
+void FrmDesign::showComposedTexts() {
+    m_lblZoom->setText(zoomText(m_zoom.percent()));
+    for (QAction* level : m_zoomLevels->actions())
+        level->setText(zoomText(level->data().toInt()));
 }
 
 ButtonPicture* FrmDesign::pButtons(int index) const {
@@ -386,7 +406,7 @@ void FrmDesign::setZoom(int percent) {
     resizeSurface();
     // Every picture is placed and painted at the new scale; the marks follow.
     redrawAll();
-    m_lblZoom->setText(QStringLiteral("%1%").arg(m_zoom.percent()));
+    m_lblZoom->setText(zoomText(m_zoom.percent()));
     for (QAction* level : m_zoomLevels->actions())
         level->setChecked(level->data().toInt() == m_zoom.percent());
     emit zoomChanged(m_zoom.percent());

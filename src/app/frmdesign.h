@@ -112,6 +112,11 @@ public:
     /// Where the picture of button `index` stands on the applet area at this zoom.
     QRect pictureRect(int index) const;
 
+    /// Shows the texts in force again, the ones it puts together too (the zoom, the
+    /// zoom levels), and announces textsChanged for the tools on the window. Called
+    /// after a change of language.
+    void retranslate();
+
     /// How many times button pictures were painted since the window was made.
     int paintCount() const { return m_paintCount; }
 
@@ -126,6 +131,9 @@ signals:
     void unloading();
     /// The zoom changed, in percent.
     void zoomChanged(int percent);
+    /// The window's texts were shown again (retranslate): the tools that put texts
+    /// together on it show theirs again.
+    void textsChanged();
 
     // Mouse input, with the event's position relative to the widget named.
     void buttonMouseDown(int index, QMouseEvent* event);
@@ -166,6 +174,9 @@ private:
     void paintPicture(int index);
     void resizeSurface();
     void buildViewMenu();
+    /// The zoom label and the zoom levels, from the texts in force.
+    void showComposedTexts();
+    static QString zoomText(int percent);
     /// Ctrl+wheel on the surface: zooms by whole notches and keeps the applet point
     /// under the pointer where it is.
     void wheelZoom(QWheelEvent* event);

@@ -1,6 +1,7 @@
 #include "frmeditbrowser.h"
 
 #include "accessiblenames.h"
+#include "windowtexts.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -13,40 +14,31 @@
 
 namespace orvelin {
 
-namespace {
-
-enum Text { Caption, NameLabel, ProgramLabel, BrowseCaption, BrowseTip, NotRunnable };
-
-} // namespace
-
-QStringList FrmEditBrowser::defaultTexts() {
-    return {QStringLiteral("Browser"),
-            QStringLiteral("&Name:"),
-            QStringLiteral("&Program:"),
-            QStringLiteral("..."),
-            QStringLiteral("Choose the browser's program"),
-            QStringLiteral("%1 was not found or cannot be run. Choose the browser's program.")};
+QDialogButtonBox* okCancelButtons(QDialog& dialog) {
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("btnOk"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("btnCancel"));
+    return buttons;
 }
 
-FrmEditBrowser::FrmEditBrowser(const BrowserEntry& entry, QWidget* parent)
-    : QDialog(parent), m_texts(defaultTexts()) {
+FrmEditBrowser::FrmEditBrowser(const BrowserEntry& entry, QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmEditBrowser"));
-    setWindowTitle(m_texts[Caption]);
 
     m_txtName = new QLineEdit(QString::fromStdString(entry.name), this);
     m_txtName->setObjectName(QStringLiteral("txtName"));
     m_txtProgram = new QLineEdit(QString::fromStdString(entry.program), this);
     m_txtProgram->setObjectName(QStringLiteral("txtProgram"));
     m_txtProgram->setMinimumWidth(320);
-    auto* browse = new QPushButton(m_texts[BrowseCaption], this);
+    auto* browse = new QPushButton(this);
     browse->setObjectName(QStringLiteral("btnBrowse"));
-    browse->setToolTip(m_texts[BrowseTip]);
-    auto* nameLabel = new QLabel(m_texts[NameLabel], this);
+    auto* nameLabel = new QLabel(this);
+    nameLabel->setObjectName(QStringLiteral("lblName"));
     nameLabel->setBuddy(m_txtName);
-    auto* programLabel = new QLabel(m_texts[ProgramLabel], this);
+    auto* programLabel = new QLabel(this);
+    programLabel->setObjectName(QStringLiteral("lblProgram"));
     programLabel->setBuddy(m_txtProgram);
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto* buttons = okCancelButtons(*this);
     m_ok = buttons->button(QDialogButtonBox::Ok);
 
     auto* grid = new QGridLayout;
@@ -65,6 +57,8 @@ FrmEditBrowser::FrmEditBrowser(const BrowserEntry& entry, QWidget* parent)
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     updateOk();
+    showWindowTexts(*this, TextSection::EditBrowser);
+    showWindowTexts(*this, TextSection::BrowsersMore);
     nameControls(*this);
 }
 
@@ -82,7 +76,8 @@ void FrmEditBrowser::btnBrowse_Click() {
     const QString start = m_txtProgram->text().contains(QLatin1Char('/'))
                               ? m_txtProgram->text()
                               : QStringLiteral("/usr/bin");
-    const QString program = QFileDialog::getOpenFileName(this, m_texts[BrowseTip], start);
+    const QString program =
+        QFileDialog::getOpenFileName(this, uiText("frmEditBrowser", "btnBrowse.toolTip"), start);
     if (!program.isEmpty())
         m_txtProgram->setText(program);
 }
@@ -90,8 +85,9 @@ void FrmEditBrowser::btnBrowse_Click() {
 void FrmEditBrowser::accept() {
     const BrowserEntry chosen = entry();
     if (!isRunnableProgram(chosen.program)) {
-        QMessageBox::warning(this, QStringLiteral("Orvelin"),
-                             m_texts[NotRunnable].arg(QString::fromStdString(chosen.program)));
+        QMessageBox::warning(
+            this, uiText("frmEditBrowser", "#messageTitle"),
+            uiText("frmEditBrowser", "#notRunnable").arg(QString::fromStdString(chosen.program)));
         m_txtProgram->setFocus();
         return;
     }

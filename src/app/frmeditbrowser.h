@@ -3,12 +3,15 @@
 #include "browserlist.h"
 
 #include <QDialog>
-#include <QStringList>
 
+class QDialogButtonBox;
 class QLineEdit;
 class QPushButton;
 
 namespace orvelin {
+
+/// OK and Cancel of a browser dialog, named btnOk and btnCancel for the window's texts.
+QDialogButtonBox* okCancelButtons(QDialog& dialog);
 
 /**
  * The browser entry editor `frmEditBrowser`: a browser's name and its program, with
@@ -19,11 +22,6 @@ class FrmEditBrowser : public QDialog {
     Q_OBJECT
 
 public:
-    /// The dialog's visible texts, in the order a language file gives them:
-    /// caption, the two labels, the chooser's caption and tool tip, the message.
-    static constexpr int kTextCount = 6;
-    static QStringList defaultTexts();
-
     explicit FrmEditBrowser(const BrowserEntry& entry, QWidget* parent = nullptr);
 
     BrowserEntry entry() const;
@@ -35,7 +33,6 @@ private:
     void btnBrowse_Click();
     void updateOk();
 
-    QStringList m_texts;
     QLineEdit* m_txtName = nullptr;
     QLineEdit* m_txtProgram = nullptr;
     QPushButton* m_ok = nullptr;

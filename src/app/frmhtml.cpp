@@ -3,9 +3,10 @@
 #include "accessiblenames.h"
 #include "frmbrowsersetup.h"
 #include "htmlgenerator.h"
-#include "textcatalogue.h"
 #include "publishing.h"
+#include "textcatalogue.h"
 #include "windowgeometry.h"
+#include "windowtexts.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -25,8 +26,8 @@ namespace {
 
 const QString kFormName = QStringLiteral("frmHTML");
 
-QPushButton* Command(const char* name, const QString& text, QWidget* parent) {
-    auto* button = new QPushButton(text, parent);
+QPushButton* Command(const char* name, QWidget* parent) {
+    auto* button = new QPushButton(parent);
     button->setObjectName(QString::fromLatin1(name));
     return button;
 }
@@ -38,9 +39,8 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     : QWidget(parent, Qt::Window), m_model(model), m_ui(ui), m_settings(settings), m_shell(shell),
       m_programFolder(std::move(programFolder)), m_places(BrowserSearchPlaces::fromEnvironment()) {
     setObjectName(kFormName);
-    setWindowTitle(tr("Applet Code"));
 
-    auto* nameLabel = new QLabel(tr("Applet Name:"), this);
+    auto* nameLabel = new QLabel(this);
     nameLabel->setObjectName(QStringLiteral("lblAppletName"));
     m_txtAppletName = new QLineEdit(this);
     m_txtAppletName->setObjectName(QStringLiteral("txtAppletName"));
@@ -51,19 +51,19 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     m_txtHTML->setReadOnly(true);
     m_txtHTML->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_txtHTML->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    // Code reads left to right whatever the language of the window.
+    m_txtHTML->setLayoutDirection(Qt::LeftToRight);
 
-    QPushButton* preview = Command("btnPreview", tr("Test in &Browser"), this);
+    QPushButton* preview = Command("btnPreview", this);
     m_cmbBrowser = new QComboBox(this);
     m_cmbBrowser->setObjectName(QStringLiteral("cmbBrowser"));
     m_cmbBrowser->setMinimumContentsLength(14);
-    QPushButton* browsers = Command("btnBrowsers", tr("..."), this);
-    browsers->setToolTip(tr("Edit the list of browsers"));
+    QPushButton* browsers = Command("btnBrowsers", this);
     browsers->setMaximumWidth(32);
-    QPushButton* regenerate = Command("btnReGenerate", tr("Re&generate"), this);
-    QPushButton* copy = Command("btnCopyToClb", tr("&Copy To ClipBoard"), this);
-    QPushButton* save = Command("btnSave", tr("&Build Applet ..."), this);
-    save->setToolTip(tr("Build Applet with All files"));
-    QPushButton* close = Command("btnClose", tr("Close"), this);
+    QPushButton* regenerate = Command("btnReGenerate", this);
+    QPushButton* copy = Command("btnCopyToClb", this);
+    QPushButton* save = Command("btnSave", this);
+    QPushButton* close = Command("btnClose", this);
 
     auto* top = new QHBoxLayout;
     top->addWidget(nameLabel);
@@ -93,7 +93,18 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     connect(copy, &QPushButton::clicked, this, [this] { btnCopyToClb_Click(); });
     connect(save, &QPushButton::clicked, this, [this] { btnSave_Click(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
+    showWindowTexts(*this, TextSection::Html);
     nameControls(*this);
+}
+
+void FrmHTML::retranslate() {
+    applyWindowTexts(*this);
+    showDefaultBrowserName();
+}
+
+void FrmHTML::showDefaultBrowserName() {
+    if (m_cmbBrowser->count() > 0)
+        m_cmbBrowser->setItemText(0, uiText("frmHTML", "#defaultBrowser"));
 }
 
 void FrmHTML::setBrowserSearchPlaces(BrowserSearchPlaces places) {
@@ -140,6 +151,7 @@ void FrmHTML::loadBrowsers() {
     m_cmbBrowser->clear();
     for (const BrowserEntry& entry : m_browsers)
         m_cmbBrowser->addItem(QString::fromStdString(entry.name));
+    showDefaultBrowserName();
     m_cmbBrowser->setCurrentIndex(selectedBrowser(m_settings, m_browsers.size()));
 }
 

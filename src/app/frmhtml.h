@@ -43,6 +43,10 @@ public:
     /// The code as generated, with its CR LF line ends.
     QString code() const { return QString::fromStdString(m_code); }
 
+    /// Shows the texts in force again, the default browser's name in the chooser too.
+    /// Called after a change of language.
+    void retranslate();
+
     /// Where browsers are looked for on first use and by "Find Browsers" (tests).
     void setBrowserSearchPlaces(BrowserSearchPlaces places);
 
@@ -56,6 +60,8 @@ private:
     void btnCopyToClb_Click();
     void cmbBrowser_Click(int position);
     void btnBrowsers_Click();
+    /// The chooser's first entry, the desktop's default browser, in the language in force.
+    void showDefaultBrowserName();
     /// Fills cmbBrowser and its hidden program list from the settings.
     void loadBrowsers();
     /// The generated code as preview and build write it, with the player when it is on.

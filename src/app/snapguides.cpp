@@ -66,12 +66,12 @@ SnapGuides::SnapGuides(FrmDesign& design, ProjectModel& model, const ButtonList&
     : QObject(parent), m_design(design), m_model(model), m_list(list), m_settings(settings),
       m_overlay(new GuideOverlay(design.surface())) {
     m_overlay->hide();
-    m_snapAction = new QAction(tr("&Snap to Buttons"), &design);
+    // On the design window, whose texts it takes now and after each change of language.
+    m_snapAction = new QAction(&design);
     m_snapAction->setObjectName(QStringLiteral("mnuSnapToButtons"));
     m_snapAction->setCheckable(true);
     m_snapAction->setChecked(m_settings.flag(SettingKey::SnapToButtons));
-    m_snapAction->setToolTip(tr("Dragged buttons snap to the edges and centres of the others "
-                                "(hold Alt to place freely)"));
+    design.retranslate();
     connect(m_snapAction, &QAction::triggered, this,
             [this](bool on) { m_settings.setFlag(SettingKey::SnapToButtons, on); });
 }

@@ -172,24 +172,159 @@ constexpr TextEntry kMessages[] = {
     message(Msg::PlayerNotCopied),
 };
 
+constexpr TextEntry kDesign[] = {
+    {"frmDesign", "frmDesign", "Design"},
+    {"frmDesign", "btnAddBtn", "&Add"},
+    {"frmDesign", "btnDuplicate", "D&uplicate"},
+    {"frmDesign", "btnRemove", "&Remove"},
+    {"frmDesign", "btnViewHtml", "View &HTML"},
+    {"frmDesign", "chkNoBackGround", "&No background"},
+    {"frmDesign", "btnAddBtn.toolTip", "Add a new button"},
+    {"frmDesign", "btnDuplicate.toolTip", "Duplicate the current button"},
+    {"frmDesign", "btnRemove.toolTip", "Remove the current button (the one with the handles)"},
+    {"frmDesign", "btnViewHtml.toolTip", "Show the applet code"},
+    {"frmDesign", "chkNoBackGround.toolTip", "Show the buttons without the applet background"},
+    {"frmDesign", "lblZoom.toolTip",
+     "Zoom of the design surface (Ctrl+wheel, Ctrl++, Ctrl+-, Ctrl+0)"},
+    {"frmDesign", "#zoomLevel", "%1%"},
+    {"frmDesign", "mnuView", "&View"},
+    {"frmDesign", "mnuArrange", "&Arrange"},
+    {"frmDesign", "mnuSnapToButtons", "&Snap to Buttons"},
+};
+
+constexpr TextEntry kHtml[] = {
+    {"frmHTML", "frmHTML", "Applet Code"},
+    {"frmHTML", "lblAppletName", "Applet Name:"},
+    {"frmHTML", "btnPreview", "Test in &Browser"},
+    {"frmHTML", "btnBrowsers", "..."},
+    {"frmHTML", "btnReGenerate", "Re&generate"},
+    {"frmHTML", "btnCopyToClb", "&Copy To ClipBoard"},
+    {"frmHTML", "btnSave", "&Build Applet ..."},
+    {"frmHTML", "btnClose", "Close"},
+    {"frmHTML", "btnBrowsers.toolTip", "Edit the list of browsers"},
+    {"frmHTML", "btnSave.toolTip", "Build Applet with All files"},
+    {"frmHTML", "cmbBrowser.toolTip", "The browser that Test in Browser opens the page in"},
+    // The first browser of every list: the desktop's own choice.
+    {"frmHTML", "#defaultBrowser", "Default Browser"},
+};
+
+constexpr TextEntry kAbout[] = {
+    {"frmAbout", "frmAbout", "About Orvelin"},
+    {"frmAbout", "lblProgram", "Orvelin"},
+    {"frmAbout", "#version", "Version %1"},
+    {"frmAbout", "lblDescription",
+     "A designer for bars of web-page buttons: lay out the buttons, give each its three "
+     "states, and build the applet code that shows them in a page."},
+    {"frmAbout", "lblCopyright", "Copyright \u00a9 2026 The Orvelin developers"},
+    {"frmAbout", "#webAddress", "Web site: %1"},
+    {"frmAbout", "lblWebAddress.toolTip", "Opens the web site in your browser"},
+    {"frmAbout", "btnOk", "OK"},
+};
+
+constexpr TextEntry kAdvanced[] = {
+    {"frmAdvanced", "frmAdvanced", "Advanced"},
+    {"frmAdvanced", "chkAutoTile", "Tile small background images automatically"},
+    {"frmAdvanced", "chkHtml5Player", "Play pages with the HTML5 player"},
+    {"frmAdvanced", "lblGridSize", "Design &grid:"},
+    {"frmAdvanced", "btnRestoreDefaults", "Restore Defaults"},
+    {"frmAdvanced", "btnOk", "OK"},
+    {"frmAdvanced", "chkHtml5Player.toolTip",
+     "Test in Browser and Build Applet put orvelin-player.js beside the page, so that the "
+     "buttons play in today's browsers without Java"},
+    {"frmAdvanced", "txtGridSize.toolTip",
+     "Dragged buttons snap to a grid of this size on the design window"},
+    // The grid box: its value 0, and the unit after every other value.
+    {"frmAdvanced", "#gridOff", "Off"},
+    {"frmAdvanced", "#gridUnit", " px"},
+    {"frmAdvanced", "chkAutoTile.toolTip",
+     "A background image smaller than the applet is repeated until it fills the applet"},
+    {"frmAdvanced", "btnRestoreDefaults.toolTip",
+     "Puts back the factory default button and the default options"},
+    {"frmAdvanced", "btnOk.toolTip", "Closes the window: every change is stored at once"},
+    {"frmAdvanced", "lblGridSize.toolTip", "Off: dragged buttons are not held to a grid"},
+};
+
+constexpr TextEntry kBrowserSetup[] = {
+    {"frmBrowserSetup", "frmBrowserSetup", "Browsers"},
+    {"frmBrowserSetup", "lblHint",
+     "\"Test in Browser\" opens the page in the browser chosen in the HTML window. The first "
+     "entry is the desktop's default browser."},
+    {"frmBrowserSetup", "btnAdd", "&Add..."},
+    {"frmBrowserSetup", "btnEdit", "&Edit..."},
+    {"frmBrowserSetup", "btnRemove", "&Remove"},
+    {"frmBrowserSetup", "btnUp", "Move &Up"},
+    {"frmBrowserSetup", "btnDown", "Move &Down"},
+    {"frmBrowserSetup", "btnFind", "&Find Browsers"},
+    {"frmBrowserSetup", "btnAdd.toolTip", "Add a browser and its program to the list"},
+    {"frmBrowserSetup", "btnEdit.toolTip", "Change the name or program of the selected browser"},
+    {"frmBrowserSetup", "btnRemove.toolTip", "Remove the selected browser from the list"},
+    {"frmBrowserSetup", "btnUp.toolTip", "Move the selected browser up the list"},
+    {"frmBrowserSetup", "btnDown.toolTip", "Move the selected browser down the list"},
+    {"frmBrowserSetup", "btnFind.toolTip",
+     "Add the browsers installed on this computer that are not listed"},
+};
+
+constexpr TextEntry kEditBrowser[] = {
+    {"frmEditBrowser", "frmEditBrowser", "Browser"},
+    {"frmEditBrowser", "lblName", "&Name:"},
+    {"frmEditBrowser", "lblProgram", "&Program:"},
+    {"frmEditBrowser", "btnBrowse", "..."},
+    {"frmEditBrowser", "btnBrowse.toolTip", "Choose the browser's program"},
+    {"frmEditBrowser", "#notRunnable",
+     "%1 was not found or cannot be run. Choose the browser's program."},
+};
+
+constexpr TextEntry kDesignTools[] = {
+    {"frmDesign", "mnuZoomIn", "Zoom &In"},
+    {"frmDesign", "mnuZoomOut", "Zoom &Out"},
+    {"frmDesign", "mnuZoomActual", "&Actual Size"},
+    {"frmDesign", "tbArrange", "Arrange"},
+    {"frmDesign", "mnuAlignLeft", "Align Left"},
+    {"frmDesign", "mnuAlignHCentre", "Align Horizontal Centres"},
+    {"frmDesign", "mnuAlignRight", "Align Right"},
+    {"frmDesign", "mnuAlignTop", "Align Top"},
+    {"frmDesign", "mnuAlignVCentre", "Align Vertical Centres"},
+    {"frmDesign", "mnuAlignBottom", "Align Bottom"},
+    {"frmDesign", "mnuDistributeH", "Distribute Horizontally"},
+    {"frmDesign", "mnuDistributeV", "Distribute Vertically"},
+    {"frmDesign", "mnuSameWidth", "Same Width"},
+    {"frmDesign", "mnuSameHeight", "Same Height"},
+    {"frmDesign", "mnuSameSize", "Same Size"},
+    // An arrange command's tool tip: %1 is the command.
+    {"frmDesign", "#arrangeOnCurrent", "%1 (on the current button)"},
+    {"frmDesign", "#arrangeThree", "%1 (at least three selected buttons)"},
+    {"frmDesign", "mnuSnapToButtons.toolTip",
+     "Dragged buttons snap to the edges and centres of the others (hold Alt to place freely)"},
+};
+
+// The browser dialogs' texts that their sections have no room for.
+constexpr TextEntry kBrowsersMore[] = {
+    {"frmBrowserSetup", "btnOk", "OK"},
+    {"frmBrowserSetup", "btnCancel", "Cancel"},
+    {"frmEditBrowser", "btnOk", "OK"},
+    {"frmEditBrowser", "btnCancel", "Cancel"},
+    {"frmEditBrowser", "#messageTitle", "Orvelin"},
+};
+
 constexpr SectionInfo kSections[] = {
     {TextSection::Main, "", {}},
-    {TextSection::Design, "[frmDesign]", {}},
-    {TextSection::Html, "[frmHTML]", {}},
-    {TextSection::About, "[frmAbout]", {}},
-    {TextSection::Advanced, "[frmAdvanced]", {}},
-    {TextSection::BrowserSetup, "[frmBrowserSetup]", {}},
-    {TextSection::EditBrowser, "[frmEditBrowser]", {}},
+    {TextSection::Design, "[frmDesign]", kDesign},
+    {TextSection::Html, "[frmHTML]", kHtml},
+    {TextSection::About, "[frmAbout]", kAbout},
+    {TextSection::Advanced, "[frmAdvanced]", kAdvanced},
+    {TextSection::BrowserSetup, "[frmBrowserSetup]", kBrowserSetup},
+    {TextSection::EditBrowser, "[frmEditBrowser]", kEditBrowser},
     {TextSection::SetAction, "[frmSetAction]", kSetAction},
     {TextSection::AskToAssociate, "[frmAskToAssociate]", kAskToAssociate},
     {TextSection::ShortCut, "[frmShortCut]", kShortCut},
     {TextSection::MainMore, "[frmMain]", {}},
-    {TextSection::DesignTools, "[frmDesignTools]", {}},
+    {TextSection::DesignTools, "[frmDesignTools]", kDesignTools},
     {TextSection::Messages, "[Messages]", kMessages},
     {TextSection::BackgroundOffset, "[frmBgOffset]", kBackgroundOffset},
     {TextSection::LabelEditor, "[frmMultiLineEditor]", kLabelEditor},
     {TextSection::SoundConverter, "[frmSoundConv]", kSoundConverter},
     {TextSection::SetActionMore, "[frmSetActionMore]", kSetActionMore},
+    {TextSection::BrowsersMore, "[frmBrowsersMore]", kBrowsersMore},
 };
 static_assert(std::size(kSections) == kTextSectionCount);
 

@@ -35,6 +35,7 @@ enum class TextSection : std::size_t {
     LabelEditor,
     SoundConverter,
     SetActionMore,
+    BrowsersMore,
     Count
 };
 

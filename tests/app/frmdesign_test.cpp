@@ -1,4 +1,5 @@
 #include "appletarea.h"
+#include "arrangetools.h"
 #include "buttonpicture.h"
 #include "designinteraction.h"
 #include "frmbgoffset.h"
@@ -7,9 +8,12 @@
 #include "sizerhandle.h"
 #include "surfaceeditorlink.h"
 #include "testapplication.h"
+#include "textcatalogue.h"
+#include "undohistory.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -214,4 +218,29 @@ TEST(DesignInteraction, AtTwoHundredPercentTheModelMovesByHalfThePointerAndHandl
     QTest::keyClick(&w.design, Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_EQ(w.design.zoom().percent(), 125);
     EXPECT_EQ(added.count(), 0);
+}
+
+TEST(FrmDesign, ANewLanguageReachesTheTextsItPutsTogetherAndTheSurfaceIsNeverMirrored) {
+    Window w(2);
+    UndoHistory history(w.model, w.list);
+    ArrangeTools arrange(w.design, w.model, w.list, history);
+    TextCatalogue other;
+    const std::size_t zoomLevel = 12, alignLeft = 4, onCurrent = 15;
+    ASSERT_EQ(sectionInfo(TextSection::Design).entries[zoomLevel].control, "#zoomLevel");
+    ASSERT_EQ(sectionInfo(TextSection::DesignTools).entries[alignLeft].control, "mnuAlignLeft");
+    ASSERT_EQ(sectionInfo(TextSection::DesignTools).entries[onCurrent].control,
+              "#arrangeOnCurrent");
+    other.set(TextSection::Design, zoomLevel, "%1 %");
+    other.set(TextSection::DesignTools, alignLeft, "Links");
+    other.set(TextSection::DesignTools, onCurrent, "%1 (am aktuellen)");
+    useTexts(&other);
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    w.design.retranslate();
+    EXPECT_EQ(w.design.findChild<QLabel*>(QStringLiteral("lblZoom"))->text(), "100 %");
+    EXPECT_EQ(w.design.findChild<QAction*>(QStringLiteral("mnuZoom50"))->text(), "50 %");
+    EXPECT_EQ(arrange.action(QStringLiteral("mnuAlignLeft"))->toolTip(), "Links (am aktuellen)");
+    EXPECT_EQ(w.design.surface()->layoutDirection(), Qt::LeftToRight);
+    EXPECT_EQ(w.design.appletArea()->layoutDirection(), Qt::LeftToRight);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    useTexts(nullptr);
 }
