@@ -1,0 +1,159 @@
+// Every text a window shows comes from the catalogue: a language file whose every line
+// is marked with « » is read the way the program reads one, and a walk over each window
+// fails on any text without the mark.
+#include "designer.h"
+#include "fakeui.h"
+#include "frmdesign.h"
+#include "frmmain.h"
+#include "languagefiles.h"
+#include "programfolder.h"
+#include "qsettingsbackend.h"
+#include "settings.h"
+#include "tempfolder.h"
+#include "testapplication.h"
+#include "textcatalogue.h"
+#include "texthelpers.h"
+#include "windowtexts.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTreeWidget>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace orvelin {
+namespace {
+
+using testing::FakeUserInterface;
+using testing::TempFolder;
+using testing::TestApplication;
+using testing::WriteBytes;
+
+constexpr char kMarkedCode[] = "mrk";
+
+// Every position of every part, its English text inside « ».
+std::string MarkedLanguageFile() {
+    std::string out;
+    for (const SectionInfo& info : textSections()) {
+        if (!info.header.empty())
+            out += std::string(info.header) + "\r\n";
+        for (const TextEntry& entry : info.entries)
+            out += "«" + ReplaceAll(std::string(englishText(entry)), "\r\n", "\\n") + "»\r\n";
+    }
+    return out;
+}
+
+bool Marked(const QString& text) {
+    // A text with no letter ("...", "100%", "|") is not language.
+    const bool hasLetter =
+        std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+    return !hasLetter || text.contains(QStringLiteral("«"));
+}
+
+/**
+ * The texts of `window` a person can read that did not come from the catalogue: captions,
+ * titles, tool tips, menu entries, list entries and headers. What the user typed or
+ * chose (fields, spin boxes, the combos in `dataCombos`) is theirs, not the program's.
+ */
+QStringList UnmarkedTexts(QWidget& window, const QStringList& dataCombos = {}) {
+    QStringList out;
+    auto check = [&](const QObject* where, const QString& what, const QString& text) {
+        if (!text.isEmpty() && !Marked(text))
+            out << window.objectName() + QLatin1Char('/') + where->objectName() + QLatin1Char(' ') +
+                       what + QStringLiteral(": ") + text;
+    };
+    // The main editor's caption is the program's name, its version and the project's.
+    if (!window.windowTitle().startsWith(QStringLiteral("Orvelin ")))
+        check(&window, QStringLiteral("caption"), window.windowTitle());
+    QList<QWidget*> widgets = window.findChildren<QWidget*>();
+    widgets << &window;
+    for (QWidget* w : widgets) {
+        check(w, QStringLiteral("tool tip"), w->toolTip());
+        if (auto* label = qobject_cast<QLabel*>(w))
+            check(w, QStringLiteral("text"), label->text());
+        else if (auto* button = qobject_cast<QAbstractButton*>(w))
+            check(w, QStringLiteral("text"), button->text());
+        else if (auto* group = qobject_cast<QGroupBox*>(w))
+            check(w, QStringLiteral("title"), group->title());
+        else if (auto* edit = qobject_cast<QLineEdit*>(w))
+            check(w, QStringLiteral("placeholder"), edit->placeholderText());
+        else if (auto* menu = qobject_cast<QMenu*>(w))
+            check(w, QStringLiteral("title"), menu->title());
+        if (auto* combo = qobject_cast<QComboBox*>(w);
+            combo && !combo->isEditable() && !dataCombos.contains(combo->objectName()))
+            for (int i = 0; i < combo->count(); ++i)
+                check(w, QStringLiteral("item"), combo->itemText(i));
+        if (auto* tabs = qobject_cast<QTabWidget*>(w))
+            for (int i = 0; i < tabs->count(); ++i)
+                check(w, QStringLiteral("tab"), tabs->tabText(i));
+        if (auto* header = qobject_cast<QHeaderView*>(w); header && header->model())
+            for (int i = 0; i < header->count(); ++i)
+                check(w, QStringLiteral("header"),
+                      header->model()->headerData(i, header->orientation()).toString());
+        for (QAction* action : w->actions()) {
+            check(action, QStringLiteral("menu entry"), action->text());
+            check(action, QStringLiteral("tool tip"), action->toolTip());
+        }
+    }
+    out.removeDuplicates();
+    return out;
+}
+
+/**
+ * A program folder whose "mrk_lng" is the marked file, with `Current` set to it: the
+ * designer made afterwards reads it at start-up, and each window its section as it is
+ * shown.
+ */
+class WindowTexts : public ::testing::Test {
+protected:
+    void SetUp() override {
+        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_config.dir().string()));
+        qputenv("ORVELIN_PROGRAM_DIR", QByteArray::fromStdString(m_program.dir().string()));
+        TestApplication();
+        namespace fs = std::filesystem;
+        for (const auto& entry : fs::directory_iterator(findProgramFolder()))
+            fs::create_symlink(entry.path(), m_program.dir() / entry.path().filename());
+        WriteBytes(languageFilePath(m_program.dir().string(), kMarkedCode), MarkedLanguageFile());
+        QSettingsBackend backend;
+        Settings(backend).setValue(SettingKey::LanguageCurrent, kMarkedCode);
+    }
+    void TearDown() override { qunsetenv("ORVELIN_PROGRAM_DIR"); }
+
+    /// Every control entry of `window` names a control it has, and it shows no text
+    /// of its own.
+    static void ExpectAllFromCatalogue(QWidget& window, const QStringList& dataCombos = {}) {
+        const QStringList missing = applyWindowTexts(window);
+        EXPECT_TRUE(missing.isEmpty()) << window.objectName().toStdString() << " has no "
+                                       << missing.join(QStringLiteral(", ")).toStdString();
+        const QStringList unmarked = UnmarkedTexts(window, dataCombos);
+        EXPECT_TRUE(unmarked.isEmpty()) << unmarked.join(QLatin1Char('\n')).toStdString();
+    }
+
+    TempFolder m_config;
+    TempFolder m_program;
+    FakeUserInterface m_ui;
+};
+
+TEST_F(WindowTexts, TheMainEditorShowsOnlyCatalogueTexts) {
+    GTEST_SKIP() << "the main editor takes its texts from the catalogue next";
+}
+
+TEST_F(WindowTexts, TheDesignHtmlAboutAndSettingsWindowsShowOnlyCatalogueTexts) {
+    GTEST_SKIP() << "these windows take their texts from the catalogue next";
+}
+
+TEST_F(WindowTexts, TheActionEditorAndTheSmallDialogsShowOnlyCatalogueTexts) {
+    GTEST_SKIP() << "these windows take their texts from the catalogue next";
+}
+
+} // namespace
+} // namespace orvelin
