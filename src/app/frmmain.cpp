@@ -213,9 +213,11 @@ void FrmMain::setOnTopChecked(bool checked) {
 }
 
 void FrmMain::showTexts(const std::string& language) {
-    // The main block is read already; the window's further texts follow it.
+    // The main block is read already; the main editor's further texts and the messages
+    // that did not fit in it follow.
     if (LanguageFiles* languages = windowLanguage())
-        languages->applyWindowInForce(TextSection::MainMore);
+        for (TextSection section : {TextSection::MainMore, TextSection::Messages})
+            languages->applyWindowInForce(section);
     applyWindowTexts(*this);
     // The texts put together from the catalogue's parts.
     m_binding->showTexts();

@@ -37,6 +37,7 @@ constexpr TextEntry kSetAction[] = {
     {"frmSetAction", "cmbAction.item6", "Call JavaScript"},
 };
 
+// clang-format off
 // The main block: the main editor's controls and menu items, then the messages, in
 // the order of the message table.
 constexpr TextEntry kMain[] = {
@@ -157,8 +158,7 @@ constexpr TextEntry kMainMore[] = {
     {"frmMain", "#undoStep", "&Undo %1"},
     {"frmMain", "#redoStep", "&Redo %1"},
     {"frmMain", "mnuMakeDefault.toolTip", "New buttons take the properties of this one"},
-    {"frmMain", "mnuAutoTile.toolTip",
-     "A background image smaller than the applet both ways is tiled"},
+    {"frmMain", "mnuAutoTile.toolTip", "A background image smaller than the applet both ways is tiled"},
     {"frmMain", "lblX", "X:"},
     {"frmMain", "lblWidth", "Width:"},
     {"frmMain", "lblY", "Y:"},
@@ -226,11 +226,65 @@ constexpr TextEntry kMainMore[] = {
 };
 
 constexpr TextEntry kMessages[] = {
-    message(Msg::FileExists),    message(Msg::ReplaceQuestion), message(Msg::CharactersRemoved),
-    message(Msg::AppletPrefix),  message(Msg::PageNotWritten),  message(Msg::PageNotOpened),
-    message(Msg::AssociateDone), message(Msg::AssociateFailed), message(Msg::ShortCutFailed),
-    message(Msg::PlayerMissing), message(Msg::PlayerNotCopied),
+    message(Msg::FileExists),
+    message(Msg::ReplaceQuestion),
+    message(Msg::CharactersRemoved),
+    message(Msg::AppletPrefix),
+    message(Msg::PageNotWritten),
+    message(Msg::PageNotOpened),
+    message(Msg::AssociateDone),
+    message(Msg::AssociateFailed),
+    message(Msg::ShortCutFailed),
+    message(Msg::PlayerMissing),
+    message(Msg::PlayerNotCopied),
+    message(Msg::StepAddButton),
+    message(Msg::StepAddButtons),
+    message(Msg::StepDuplicateButton),
+    message(Msg::StepRemoveButton),
+    message(Msg::StepRemoveButtons),
+    message(Msg::StepMoveButton),
+    message(Msg::StepMoveButtons),
+    message(Msg::StepResizeButton),
+    message(Msg::StepResizeButtons),
+    message(Msg::StepBringToFront),
+    message(Msg::StepSendToBack),
+    message(Msg::StepPlaceLabel),
+    message(Msg::StepChange),
+    message(Msg::StepChangeProperties),
+    message(Msg::FieldPosition),
+    message(Msg::FieldSize),
+    message(Msg::FieldLabel),
+    message(Msg::FieldURL),
+    message(Msg::FieldStatus),
+    message(Msg::FieldTarget),
+    message(Msg::FieldBorder),
+    message(Msg::FieldNoBackground),
+    message(Msg::FieldHandCursor),
+    message(Msg::FieldImage),
+    message(Msg::FieldSound),
+    message(Msg::FieldImagePlacement),
+    message(Msg::FieldLabelPosition),
+    message(Msg::FieldLabelPlacement),
+    message(Msg::FieldFont),
+    message(Msg::FieldFontColor),
+    message(Msg::FieldFontSize),
+    message(Msg::FieldFontStyle),
+    message(Msg::FieldBackColor),
+    message(Msg::FieldHidden),
+    message(Msg::FieldActionProgram),
+    message(Msg::FieldAppletWidth),
+    message(Msg::FieldAppletHeight),
+    message(Msg::FieldBehaviour),
+    message(Msg::FieldDownButton),
+    message(Msg::FieldBackgroundColor),
+    message(Msg::FieldBackgroundImage),
+    message(Msg::FieldBackgroundImagePlacement),
+    message(Msg::FieldAppletProgram),
+    message(Msg::FieldBackgroundOffset),
+    message(Msg::FieldAppletName),
 };
+
+// clang-format on
 
 constexpr SectionInfo kSections[] = {
     {TextSection::Main, "", kMain},

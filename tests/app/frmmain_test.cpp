@@ -6,6 +6,8 @@
 #include "mainmenus.h"
 #include "testapplication.h"
 #include "testdoubles.h"
+#include "textcatalogue.h"
+#include "undohistory.h"
 #include "windowgeometry.h"
 
 #include <QAction>
@@ -109,6 +111,27 @@ TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
     EXPECT_TRUE(w.buttons()->item(0)->isSelected());
     EXPECT_EQ(w.field("txtWidth")->text(), QStringLiteral("107"));
     EXPECT_TRUE(w.model.Saved);
+}
+
+TEST(MainWindow, ALanguageChangeRenamesWhatTheWindowPutTogether) {
+    MainWindow w;
+    w.window.history().clear();
+    w.addButtons(1);
+    w.window.history().capture();
+    TextCatalogue marked;
+    for (const SectionInfo& info : textSections())
+        for (std::size_t p = 0; p < info.entries.size(); ++p)
+            marked.set(info.section, p, "«" + marked.at(info.section, p) + "»");
+    useTexts(&marked);
+    w.window.showTexts("mrk");
+    const auto marks = [](const QString& text) { return text.count(QStringLiteral("«")); };
+    // The entry, the caption and the action command take the new texts; the undo command
+    // is a marked frame around the step's marked name.
+    EXPECT_EQ(marks(w.buttons()->item(1)->text()), 1);
+    EXPECT_EQ(marks(w.find<QLabel>("lblProperties")->text()), 1);
+    EXPECT_EQ(marks(w.find<QPushButton>("btnSetAction")->text()), 1);
+    EXPECT_EQ(marks(w.window.history().undoAction()->text()), 2);
+    useTexts(nullptr);
 }
 
 TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromAQuotedCommandLine) {

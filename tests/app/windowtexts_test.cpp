@@ -13,6 +13,7 @@
 #include "testapplication.h"
 #include "textcatalogue.h"
 #include "texthelpers.h"
+#include "undohistory.h"
 #include "windowtexts.h"
 
 #include <QAbstractButton>
@@ -144,7 +145,20 @@ protected:
 };
 
 TEST_F(WindowTexts, TheMainEditorShowsOnlyCatalogueTexts) {
-    GTEST_SKIP() << "the main editor takes its texts from the catalogue next";
+    Designer designer(&m_ui);
+    designer.start({});
+    FrmMain& main = designer.mainWindow();
+    main.editor().addButton();
+    main.history().capture();
+    // The texts put together at run time: list entries, the undo command, the caption.
+    auto* list = main.findChild<QListWidget*>(QStringLiteral("lstButtons"));
+    ASSERT_EQ(list->count(), 2);
+    for (int i = 0; i < list->count(); ++i)
+        EXPECT_TRUE(Marked(list->item(i)->text())) << list->item(i)->text().toStdString();
+    const QString undo = main.history().undoAction()->text();
+    EXPECT_TRUE(undo.startsWith(QStringLiteral("«")) && undo.count(QStringLiteral("«")) == 2)
+        << undo.toStdString();
+    ExpectAllFromCatalogue(main);
 }
 
 TEST_F(WindowTexts, TheDesignHtmlAboutAndSettingsWindowsShowOnlyCatalogueTexts) {
