@@ -5,9 +5,11 @@
 #include "fakeui.h"
 #include "frmdesign.h"
 #include "frmmain.h"
+#include "frmmessage.h"
 #include "languagefiles.h"
 #include "programfolder.h"
 #include "qsettingsbackend.h"
+#include "qtuserinterface.h"
 #include "settings.h"
 #include "tempfolder.h"
 #include "testapplication.h"
@@ -159,6 +161,16 @@ TEST_F(WindowTexts, TheMainEditorShowsOnlyCatalogueTexts) {
     EXPECT_TRUE(undo.startsWith(QStringLiteral("«")) && undo.count(QStringLiteral("«")) == 2)
         << undo.toStdString();
     ExpectAllFromCatalogue(main);
+}
+
+TEST_F(WindowTexts, TheProgressWindowShowsOnlyCatalogueTexts) {
+    QtUserInterface ui;
+    ui.setProgressDelay(std::chrono::milliseconds(0));
+    Designer designer(&ui);
+    designer.start(QStringLiteral(ORVELIN_SOURCE_DIR "/examples/navbar.orv"));
+    FrmMessage& progress = ui.progressWindow();
+    ASSERT_FALSE(progress.text().isEmpty());
+    ExpectAllFromCatalogue(progress);
 }
 
 TEST_F(WindowTexts, TheDesignHtmlAboutAndSettingsWindowsShowOnlyCatalogueTexts) {
