@@ -223,6 +223,10 @@ constexpr TextEntry kMainMore[] = {
     {"frmMain", "picAppletProgramOVER.toolTip", "On Mouse Moving above the Applet"},
     {"frmMain", "picAppletProgramDOWN.toolTip", "On Mouse Clicking the Applet"},
     {"frmMain", "picAppletProgramOUT.toolTip", "On Mouse Exiting the Applet"},
+    {"frmMain", "#answerYes", "&Yes"},
+    {"frmMain", "#answerNo", "&No"},
+    {"frmMain", "#answerOk", "OK"},
+    {"frmMain", "#answerCancel", "Cancel"},
 };
 
 constexpr TextEntry kMessages[] = {
