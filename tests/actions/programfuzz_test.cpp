@@ -6,6 +6,7 @@
 #include "programbuffer.h"
 #include "projectmodel.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -72,26 +73,13 @@ TEST(ProgramFuzz, TheEditorKeepsItsListsInStepWithAnyStoredProgram) {
         for (int step = 0; step < 12; ++step) {
             const int readable = static_cast<int>(editor.readableLines().size());
             editor.select(readable == 0 ? -1 : static_cast<int>(rng() % readable));
-            switch (action(rng)) {
-            case 0:
-                editor.remove();
-                break;
-            case 1:
-                editor.moveUp();
-                break;
-            case 2:
-                editor.moveDown();
-                break;
-            case 3:
-                editor.paste();
-                break;
-            case 4:
-                editor.loadLine(editor.selection());
-                break;
-            default:
-                editor.moveLine(0, readable - 1);
-                break;
-            }
+            const std::function<void()> steps[] = {[&] { editor.remove(); },
+                                                   [&] { editor.moveUp(); },
+                                                   [&] { editor.moveDown(); },
+                                                   [&] { editor.paste(); },
+                                                   [&] { editor.loadLine(editor.selection()); },
+                                                   [&] { editor.moveLine(0, readable - 1); }};
+            steps[action(rng)]();
             // Readable lines are never more than command lines, and each shows one of them.
             EXPECT_LE(editor.readableLines().size(), editor.commandLines().size());
             EXPECT_GE(editor.selection(), -1);

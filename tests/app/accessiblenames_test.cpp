@@ -74,7 +74,7 @@ QStringList Unnamed(QWidget& window) {
 
 } // namespace
 
-TEST(AccessibleNames, EveryControlThatTakesFocusInEveryWindowSaysWhatItIs) {
+TEST(AccessibleNames, EveryControlThatTakesFocusSaysWhatItIsAndTheMainEditorTabsInOrder) {
     TempFolder config;
     qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(config.dir().string()));
     TestApplication();
@@ -102,15 +102,8 @@ TEST(AccessibleNames, EveryControlThatTakesFocusInEveryWindowSaysWhatItIs) {
              &browser, &html, &message, &lines, &action})
         unnamed << Unnamed(*window);
     EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join(QLatin1Char('\n')).toStdString();
-}
 
-TEST(AccessibleNames, TheMainEditorTabsFromTheButtonListToTheStatesThenToTheProperties) {
-    TempFolder config;
-    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(config.dir().string()));
-    TestApplication();
-    FakeUserInterface ui;
-    Designer designer(&ui);
-    designer.start({});
+    // The main editor tabs from the button list to the states, then to the properties.
     QStringList chain;
     QWidget* w = designer.mainWindow().findChild<QWidget*>(QStringLiteral("lstButtons"));
     for (int i = 0; i < 500 && chain.size() < 9 && w != nullptr; ++i, w = w->nextInFocusChain())

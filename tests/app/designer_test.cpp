@@ -52,11 +52,7 @@ struct Program {
     FrmDesign& design() { return designer.designWindow(); }
     ProjectModel& model() { return designer.model(); }
 
-    template <typename T = QWidget> T* find(const char* name) {
-        T* child = main().findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(child, nullptr) << name;
-        return child;
-    }
+    template <typename T = QWidget> T* find(const char* name) { return Child<T>(main(), name); }
     void type(const char* field, const QString& text) {
         QLineEdit* edit = find<QLineEdit>(field);
         edit->setFocus();
@@ -69,8 +65,7 @@ struct Program {
         QTimer::singleShot(20, &loop, &QEventLoop::quit);
         loop.exec();
     }
-    QString undoText() { return undoAction()->text().remove(QLatin1Char('&')); }
-    QAction* undoAction() { return main().history().undoAction(); }
+    QString undoText() { return main().history().undoAction()->text().remove(QLatin1Char('&')); }
 };
 
 } // namespace
@@ -262,19 +257,6 @@ TEST(Designer, EachGestureAndCommandIsOneStepThatUndoesExactlyAndTheSurfaceFollo
     EXPECT_EQ(projectText(p.model()), end);
 }
 
-TEST(Designer, AChangeTheDocumentAnnouncesReachesTheSurfaceAndThePanelWithoutARedrawCall) {
-    Program p;
-    p.main().editor().addButton();
-    p.main().editor().clickList(1);
-    p.model().button(1).x = 77;
-    p.model().button(1).LabelUP = "Hello";
-    DocumentChange change;
-    p.model().notices.announce(change.button(1));
-    EXPECT_EQ(p.design().pButtons(1)->x(), 77);
-    EXPECT_EQ(p.find<QLineEdit>("txtX")->text(), QStringLiteral("77"));
-    EXPECT_EQ(p.find<QLineEdit>("txtLabel")->text(), QStringLiteral("Hello"));
-}
-
 TEST(Designer, ButtonsCutOrCopiedInOneDesignerPasteIntoAnotherWithinTheLimit) {
     Program a;
     a.main().editor().addButton();
@@ -342,11 +324,7 @@ TEST(Designer, ArrangeCommandsFollowTheSelectionAndEachIsOneNamedStep) {
     p.design().redrawAll();
     p.idle();
     p.main().history().clear();
-    const auto action = [&](const char* name) {
-        auto* a = p.design().findChild<QAction*>(QString::fromLatin1(name));
-        EXPECT_NE(a, nullptr) << name;
-        return a;
-    };
+    const auto action = [&](const char* name) { return Child<QAction>(p.design(), name); };
     EXPECT_FALSE(action("mnuAlignLeft")->isEnabled());
     QTest::mouseClick(p.design().pButtons(1), Qt::LeftButton, Qt::ControlModifier, QPoint(3, 3));
     p.idle();

@@ -1,11 +1,9 @@
 #include "../model/editorfakes.h"
 #include "appletpanel.h"
-#include "fakeui.h"
 #include "frmmain.h"
 #include "frmsetaction.h"
 #include "mainmenus.h"
 #include "testapplication.h"
-#include "testdoubles.h"
 #include "textcatalogue.h"
 #include "undohistory.h"
 #include "windowgeometry.h"
@@ -25,24 +23,16 @@
 #include <gtest/gtest.h>
 
 using namespace orvelin;
-using orvelin::testing::MemorySettingsBackend;
 using namespace orvelin::testing;
 
 namespace {
 
 const std::string kExample = std::string(ORVELIN_SOURCE_DIR) + "/examples/navbar.orv";
 
-/// The main window over a fresh project, a scripted user, settings in memory and a
-/// recording design surface, started the way the program starts it.
-struct MainWindow {
+/// The main window over the editor's parts (its recording view unused: the window is the
+/// view), started the way the program starts it.
+struct MainWindow : EditorParts {
     QApplication& app = TestApplication();
-    ProjectModel model;
-    ButtonList list;
-    FakeUserInterface ui;
-    MemorySettingsBackend backend;
-    Settings settings{backend};
-    RecordingDesignView design{model};
-    FakeShell shell;
     FrmMain window{model, list, ui, settings, design, shell};
 
     explicit MainWindow(const std::string& commandLine = {}) {
@@ -50,9 +40,7 @@ struct MainWindow {
     }
 
     template <typename T = QWidget> T* find(const char* name) const {
-        T* child = window.findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(child, nullptr) << name;
-        return child;
+        return Child<T>(window, name);
     }
     QLineEdit* field(const char* name) const { return find<QLineEdit>(name); }
     QListWidget* buttons() const { return find<QListWidget>("lstButtons"); }
@@ -76,34 +64,27 @@ struct MainWindow {
     }
 };
 
-/// Runs `inspect` on the modal dialog that `open` shows, then closes it.
-void WithModalDialog(const std::function<void()>& open,
-                     const std::function<void(QWidget&)>& inspect) {
+/// Opens the action editor through `open`, checks its title and program kind, closes it.
+void ExpectActionEditor(const std::function<void()>& open, const char* title, const char* kind) {
     bool seen = false;
     QTimer::singleShot(0, [&] {
         QWidget* dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
         seen = true;
-        inspect(*dialog);
+        EXPECT_EQ(dialog->windowTitle(), QString::fromLatin1(title));
+        if (auto* editor = qobject_cast<FrmSetAction*>(dialog))
+            EXPECT_EQ(editor->editor().kind(), kind);
+        else
+            ADD_FAILURE() << "not the action editor";
         dialog->close();
     });
     open();
-    EXPECT_TRUE(seen) << "no dialog opened";
-}
-
-/// Opens the action editor through `open` and checks its title and program kind.
-void ExpectActionEditor(const std::function<void()>& open, const char* title, const char* kind) {
-    WithModalDialog(open, [&](QWidget& dialog) {
-        auto* editor = qobject_cast<FrmSetAction*>(&dialog);
-        ASSERT_NE(editor, nullptr);
-        EXPECT_EQ(editor->windowTitle(), QString::fromLatin1(title));
-        EXPECT_EQ(editor->editor().kind(), kind);
-    });
+    EXPECT_TRUE(seen) << "no action editor opened";
 }
 
 } // namespace
 
-TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
+TEST(MainWindow, StartsWithOneSelectedButtonAndTheCaptionAndRecentMenuNameTheProject) {
     MainWindow w;
     EXPECT_EQ(w.window.windowTitle(), QStringLiteral("Orvelin 1.0  Beta 6[*]"));
     ASSERT_EQ(w.buttons()->count(), 1);
@@ -111,6 +92,16 @@ TEST(MainWindow, StartsWithOneSelectedButtonAndTheProgramCaption) {
     EXPECT_TRUE(w.buttons()->item(0)->isSelected());
     EXPECT_EQ(w.field("txtWidth")->text(), QStringLiteral("107"));
     EXPECT_TRUE(w.model.Saved);
+
+    MainWindow quoted("\"" + kExample + "\"");
+    EXPECT_EQ(quoted.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample + "[*]");
+    EXPECT_GT(quoted.model.ButtonCount, 1);
+    EXPECT_EQ(quoted.buttons()->count(), quoted.model.ButtonCount);
+    EXPECT_EQ(quoted.action("mnuFile1")->text().toStdString(), kExample);
+    EXPECT_FALSE(quoted.action("mnuFile2")->isVisible());
+    // An ampersand in a path shows as itself.
+    quoted.window.setRecentEntry(2, "/home/a&b/p.orv", true);
+    EXPECT_EQ(quoted.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
 }
 
 TEST(MainWindow, ALanguageChangeRenamesWhatTheWindowPutTogether) {
@@ -132,18 +123,6 @@ TEST(MainWindow, ALanguageChangeRenamesWhatTheWindowPutTogether) {
     EXPECT_EQ(marks(w.find<QPushButton>("btnSetAction")->text()), 1);
     EXPECT_EQ(marks(w.window.history().undoAction()->text()), 2);
     useTexts(nullptr);
-}
-
-TEST(MainWindow, CaptionAndRecentMenuNameTheProjectFromAQuotedCommandLine) {
-    MainWindow w("\"" + kExample + "\"");
-    EXPECT_EQ(w.window.windowTitle().toStdString(), "Orvelin 1.0  Beta 6 " + kExample + "[*]");
-    EXPECT_GT(w.model.ButtonCount, 1);
-    EXPECT_EQ(w.buttons()->count(), w.model.ButtonCount);
-    EXPECT_EQ(w.action("mnuFile1")->text().toStdString(), kExample);
-    EXPECT_FALSE(w.action("mnuFile2")->isVisible());
-    // An ampersand in a path shows as itself.
-    w.window.setRecentEntry(2, "/home/a&b/p.orv", true);
-    EXPECT_EQ(w.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
 }
 
 TEST(MainWindow, ShowingAnotherButtonWritesNothingBack) {

@@ -31,9 +31,7 @@ protected:
     }
 
     template <typename T = QWidget> T* child(const char* name) {
-        T* widget = dialog->findChild<T*>(QString::fromLatin1(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
+        return orvelin::testing::Child<T>(*dialog, name);
     }
     QStringList listed() {
         QStringList lines;
@@ -54,12 +52,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(FrmSetActionTest, ShowsItsTitleAndListsTheProgram) {
-    EXPECT_EQ(dialog->windowTitle(), "Set Action: On Button Press...");
-    EXPECT_EQ(child<QComboBox>("cmbButtonNumber")->itemText(2), "Button 3");
-    EXPECT_EQ(listed(), (QStringList{"Hide Button 1", "Wait: 500 ms"}));
-}
 
 TEST_F(FrmSetActionTest, AddTakesTheTypedInputsAndShowsWhatTheEditorChanged) {
     choose(5);

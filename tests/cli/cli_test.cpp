@@ -73,23 +73,18 @@ protected:
 
 } // namespace
 
-TEST_F(OrvelinCli, HtmlWritesTheGeneratorsTextByteForByte) {
+TEST_F(OrvelinCli, HtmlWritesTheGeneratorsTextByteForByteAndTheNameOptionActsLikeTheBox) {
     const CliRun run = RunCli({"html", kExample, "--program-dir", kBin});
     ASSERT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.out, Generated(kExample));
     EXPECT_EQ(run.err, "");
     // The example links to JavaScript, so the shipped caller block is there.
     EXPECT_NE(run.out.find("function InitJSCaller()"), std::string::npos);
-    EXPECT_NE(run.out.find("<applet name = \"navbar\" "), std::string::npos);
-}
-
-TEST_F(OrvelinCli, AppletNameOptionActsLikeTheNameBox) {
-    const CliRun run = RunCli({"html", "--applet-name", "My Menu", kExample});
-    ASSERT_EQ(run.status, 0) << run.err;
-    EXPECT_EQ(run.out, Generated(kExample, "My Menu"));
-    EXPECT_NE(run.out.find("document.applets['My_Menu']"), std::string::npos);
-    const CliRun joined = RunCli({"html", kExample, "--applet-name=2nd bar.v2"});
-    EXPECT_EQ(joined.out, Generated(kExample, "2nd bar.v2"));
+    const CliRun named = RunCli({"html", "--applet-name", "My Menu", kExample});
+    EXPECT_EQ(named.out, Generated(kExample, "My Menu"));
+    EXPECT_NE(named.out.find("document.applets['My_Menu']"), std::string::npos);
+    EXPECT_EQ(RunCli({"html", kExample, "--applet-name=2nd bar.v2"}).out,
+              Generated(kExample, "2nd bar.v2"));
 }
 
 TEST_F(OrvelinCli, TheProgramFolderComesFromTheOptionTheEnvironmentOrTheExecutable) {

@@ -1,19 +1,15 @@
 #include "editor.h"
 #include "editorfakes.h"
-#include "fakeui.h"
 #include "projectfile.h"
 #include "tempfolder.h"
-#include "testdoubles.h"
 #include "textcatalogue.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace orvelin;
-using orvelin::testing::MemorySettingsBackend;
 using Answer = UserInterface::Answer;
 using Texts = std::vector<std::string>;
-using Selection = std::vector<int>;
 namespace fs = std::filesystem;
 
 namespace {
@@ -26,15 +22,7 @@ const std::string kSaveError =
     "Error Saving Buttons. File may be Read Only, Hidden or used by another application.\r\n"
     "No such file or directory";
 
-struct EditorFixture : ::testing::Test {
-    ProjectModel model;
-    ButtonList list;
-    orvelin::testing::FakeUserInterface ui;
-    MemorySettingsBackend backend;
-    Settings settings{backend};
-    orvelin::testing::RecordingDesignView design{model};
-    orvelin::testing::FakeShell shell;
-    orvelin::testing::RecordingEditorView view{model};
+struct EditorFixture : ::testing::Test, orvelin::testing::EditorParts {
     orvelin::testing::TempFolder folder;
     Editor editor{model, list, ui, settings, design, shell, view, folder.dir().string()};
 
@@ -194,7 +182,7 @@ TEST_F(EditorFixture, RemovingButton2Of4MovesTheLaterOnesDownAndSelectsButton1) 
               "b1b3b4");
     EXPECT_EQ(design.calls.front(), "HideLastButton 4");
     EXPECT_EQ(design.redrawn, (std::vector<int>{2, 3})) << "the buttons that moved down";
-    EXPECT_EQ(view.props.back().index, 1);
+    EXPECT_EQ(view.props.back(), 1);
 }
 
 TEST_F(EditorFixture, RemovingTheLastButtonLeavesCurrentButton1AndTheNextAddMakesButton1) {
@@ -285,7 +273,7 @@ TEST_F(EditorFixture, OpenLoadsTheChosenFileAndShowsButton1AloneUnlessCancelled)
     EXPECT_EQ(ui.shown.back().text, kProjectFilter);
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
     EXPECT_EQ(model.button(4).LabelUP, "open4");
-    EXPECT_EQ(view.props.back().index, 1);
+    EXPECT_EQ(view.props.back(), 1);
     EXPECT_EQ(view.caption, kTitle + " " + path);
     EXPECT_EQ(settings.recentFile(1), path);
 }
@@ -347,8 +335,10 @@ TEST_F(EditorFixture, SaveAsProposesTheNameAndAFailedSaveKeepsTheOldOne) {
     EXPECT_EQ(folder.entries(), 1) << "first.orv, and no file \"first\"";
 }
 
-TEST_F(EditorFixture, SavingFiveProjectsThenReopeningTheThirdLeavesTheRecentList) {
+TEST_F(EditorFixture, SavedProjectsFillTheRecentListAndReopeningOneAsksFirst) {
     Start();
+    editor.openRecent(2); // an empty slot opens nothing
+    EXPECT_TRUE(ui.shown.empty());
     for (const char* name : {"P", "Q", "R", "S", "T"}) {
         ui.chosenFiles = {PathOf(std::string(name) + ".orv")};
         ASSERT_TRUE(editor.saveAs());
@@ -357,27 +347,18 @@ TEST_F(EditorFixture, SavingFiveProjectsThenReopeningTheThirdLeavesTheRecentList
                                               PathOf("Q.orv")};
     EXPECT_EQ(editor.recent().entries(), expected);
     EXPECT_EQ(view.recent[4], (std::pair<std::string, bool>{PathOf("Q.orv"), true}));
+    editor.addButton();
+    Unsaved({Answer::Cancel, Answer::No});
     editor.openRecent(3);
+    EXPECT_EQ(model.ButtonCount, 2) << "cancel stops";
+    editor.openRecent(3);
+    EXPECT_EQ(model.ButtonCount, 1);
     EXPECT_EQ(model.ProjectFileName, PathOf("R.orv"));
     EXPECT_EQ(editor.recent().entries(), expected);
     // The comparison is exact: another spelling is another file.
     editor.recent().WriteRecent(PathOf("r.orv"));
     EXPECT_EQ(editor.recent().path(1), PathOf("r.orv"));
     EXPECT_EQ(editor.recent().path(4), PathOf("R.orv"));
-}
-
-TEST_F(EditorFixture, OpenRecentAsksFirstAndIgnoresAnEmptySlot) {
-    Start();
-    const std::string path = WriteProject("recent", 2);
-    editor.recent().WriteRecent(path);
-    editor.openRecent(2);
-    EXPECT_EQ(model.ButtonCount, 1);
-    Unsaved({Answer::Cancel, Answer::No});
-    editor.openRecent(1);
-    EXPECT_EQ(model.ButtonCount, 1);
-    editor.openRecent(1);
-    EXPECT_EQ(model.ButtonCount, 2);
-    EXPECT_EQ(model.ProjectFileName, path);
 }
 
 TEST_F(EditorFixture, ImportingALegacyProjectLeavesItUnnamedAndUnsaved) {

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "buttonlist.h"
 #include "designview.h"
 #include "editorview.h"
+#include "fakeui.h"
 #include "projectmodel.h"
-#include "shell.h"
+#include "testdoubles.h"
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -71,44 +72,26 @@ class RecordingEditorView : public EditorView {
 public:
     explicit RecordingEditorView(const ProjectModel& model) : m_model(model) {}
 
-    struct Prop {
-        int index;
-        std::string caption;
-        std::string state;
-        bool updating;
-    };
-    std::vector<Prop> props;
+    std::vector<int> props; ///< the buttons shown in the panel, in order
     std::vector<bool> mainParamsUpdating;
     std::string caption;
     std::array<std::pair<std::string, bool>, 5> recent{}; ///< slots 1..4
-    std::string actionTitle;
-    ButtonState state = ButtonState::UP;
     bool onTopChecked = false;
     std::string language;
     bool autoTileChecked = false;
     int labelEditorCloses = 0;
     int quits = 0;
     std::map<std::string, ImageSize> imageSizes;
-    /// Runs inside ShowProp and SetMainParams, as the window's control signals would.
-    std::function<void()> onFill;
 
-    void ShowProp(int index, const std::string& text) override {
-        props.push_back({index, text, stateName(m_model.CurrentState), m_model.Updating});
-        if (onFill)
-            onFill();
-    }
-    void SetMainParams() override {
-        mainParamsUpdating.push_back(m_model.Updating);
-        if (onFill)
-            onFill();
-    }
+    void ShowProp(int index, const std::string&) override { props.push_back(index); }
+    void SetMainParams() override { mainParamsUpdating.push_back(m_model.Updating); }
     void showButtonList() override {}
     void setCaption(const std::string& text) override { caption = text; }
     void setRecentEntry(int slot, const std::string& text, bool visible) override {
         recent.at(static_cast<std::size_t>(slot)) = {text, visible};
     }
-    void setActionTitle(const std::string& title) override { actionTitle = title; }
-    void showState(ButtonState s) override { state = s; }
+    void setActionTitle(const std::string&) override {}
+    void showState(ButtonState) override {}
     void setOnTopChecked(bool checked) override { onTopChecked = checked; }
     void setLanguageChecked(const std::string& lang) override { language = lang; }
     void setAutoTileChecked(bool checked) override { autoTileChecked = checked; }
@@ -123,22 +106,17 @@ private:
     const ProjectModel& m_model;
 };
 
-/// A shell that records what it was asked to open or start.
-class FakeShell : public Shell {
-public:
-    std::vector<std::string> opened;
-    std::vector<std::pair<std::string, std::vector<std::string>>> started;
-    bool succeed = true;
-
-    bool openDocument(const std::string& path) override {
-        opened.push_back(path);
-        return succeed;
-    }
-    bool startProgram(const std::string& program,
-                      const std::vector<std::string>& arguments) override {
-        started.emplace_back(program, arguments);
-        return succeed;
-    }
+/// What the editor works on: a fresh project, a scripted user, settings in memory and
+/// recording views and shell.
+struct EditorParts {
+    ProjectModel model;
+    ButtonList list;
+    FakeUserInterface ui;
+    MemorySettingsBackend backend;
+    Settings settings{backend};
+    RecordingDesignView design{model};
+    FakeShell shell;
+    RecordingEditorView view{model};
 };
 
 } // namespace orvelin::testing

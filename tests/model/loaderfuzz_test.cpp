@@ -38,10 +38,8 @@ void ExpectSoundResult(const LoadResult& result, ProjectModel& model, const Fake
     }
     ProjectModel reread;
     reread.AppletName = model.AppletName; // the writer does not write it where it is read
-    std::FILE* out = std::fopen(again.c_str(), "wb");
     const std::string text = projectText(model);
-    std::fwrite(text.data(), 1, text.size(), out);
-    std::fclose(out);
+    orvelin::testing::WriteBytes(again, text);
     const LoadResult second = LoadProject(reread, again);
     ASSERT_FALSE(second.error) << second.error->cause;
     ASSERT_TRUE(second.cleaned.empty());

@@ -1,26 +1,16 @@
 #include "editor.h"
 #include "editorfakes.h"
-#include "fakeui.h"
 #include "projectfile.h"
 #include "propertyeditor.h"
-#include "testdoubles.h"
 
 #include <gtest/gtest.h>
 #include <string_view>
 
 using namespace orvelin;
-using orvelin::testing::MemorySettingsBackend;
 
 namespace {
 
-struct PropertyFixture : ::testing::Test {
-    ProjectModel model;
-    ButtonList list;
-    orvelin::testing::FakeUserInterface ui;
-    MemorySettingsBackend backend;
-    Settings settings{backend};
-    orvelin::testing::RecordingDesignView design{model};
-    orvelin::testing::RecordingEditorView view{model};
+struct PropertyFixture : ::testing::Test, orvelin::testing::EditorParts {
     PropertyEditor props{model, list, ui, settings, view};
 
     // Buttons 1..count, the given ones selected, `current` current, nothing unsaved.

@@ -4,6 +4,7 @@
 #include "projectmodel.h"
 #include "publishing.h"
 #include "tempfolder.h"
+#include "testdoubles.h"
 #include "textcatalogue.h"
 
 #include <filesystem>
@@ -18,21 +19,6 @@ namespace {
 
 const std::string kCantCopyButton2 = "Can't copy Pictures Or Sounds for Button # 2\r\n\r\n"
                                      "Press Cancel to stop showing error messages.";
-
-/// Opens nothing; records what it was asked to open.
-class RecordingShell : public Shell {
-public:
-    bool openDocument(const std::string& path) override {
-        calls.push_back("open " + path);
-        return works;
-    }
-    bool startProgram(const std::string& program, const std::vector<std::string>& args) override {
-        calls.push_back(program + " " + (args.size() == 1 ? args[0] : "<not one argument>"));
-        return works;
-    }
-    std::vector<std::string> calls;
-    bool works = true;
-};
 
 /// A project file in `projects/` whose images and sounds are relative to it, and a
 /// program folder of its own that holds the applet files.
@@ -126,16 +112,17 @@ TEST_F(Publishing, PreviewOpensThePageWithTheChosenBrowserOrSaysWhyNot) {
     model.button(1).URL = "javascript:go()";
     model.button(1).image(ButtonState::UP) = "art/home up.gif";
     html = MakeHTML(model, model.AppletName, GetJSCaller(model.AppletName, program));
-    RecordingShell shell;
+    orvelin::testing::FakeShell shell;
     const std::string page = temp.path("program/AppletTemp/Temp.htm");
     ASSERT_TRUE(previewPage(model, {html.text, true}, "", ui, shell, program));
     ASSERT_TRUE(previewPage(model, {html.text, true}, "/opt/fox", ui, shell, program));
-    EXPECT_EQ(shell.calls, (std::vector<std::string>{"open " + page, "/opt/fox " + page}));
+    EXPECT_EQ(shell.opened, std::vector<std::string>{page});
+    EXPECT_EQ(shell.started, (decltype(shell.started){{"/opt/fox", {page}}}));
     EXPECT_EQ(temp.read("program/AppletTemp/Temp.htm"), pageText(html.text, true));
     EXPECT_EQ(temp.read("program/AppletTemp/home&nbspup.gif"), "GIF89a home");
     EXPECT_EQ(temp.read("program/AppletTemp/Orvel1b6.class"), "class");
 
-    shell.works = false;
+    shell.succeed = false;
     EXPECT_FALSE(previewPage(model, {html.text, true}, "", ui, shell, program));
     ASSERT_EQ(ui.texts().size(), 1u);
     EXPECT_EQ(ui.texts()[0].rfind(page + " could not be opened", 0), 0u);

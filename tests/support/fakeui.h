@@ -22,7 +22,6 @@ public:
     std::vector<Shown> shown;
     std::deque<Answer> answers;                         ///< for the two question kinds
     std::deque<std::optional<std::string>> chosenFiles; ///< for the two file choosers
-    int progressShows = 0;
     bool progressVisible = false;
 
     void showMessage(const std::string& text, const std::string& title) override {
@@ -45,16 +44,13 @@ public:
         shown.push_back({"save", filter, proposed});
         return nextFile();
     }
-    /// The filter the user picks in save dialogs.
-    std::string chosenFilter = "Orvelin Files (*.orv)";
     std::optional<std::string> chooseSaveFileAndFilter(const std::string& filter,
                                                        const std::string& proposed,
                                                        std::string& chosen) override {
-        chosen = chosenFilter;
+        chosen = "Orvelin Files (*.orv)"; // the user keeps the project filter
         return chooseSaveFile(filter, proposed);
     }
     void showProgress(const std::string&, const std::string&, int) override {
-        ++progressShows;
         progressVisible = true;
     }
     void hideProgress() override { progressVisible = false; }

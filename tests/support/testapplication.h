@@ -29,4 +29,11 @@ inline QApplication& TestApplication() {
     return *app;
 }
 
+/// The child of `parent` named `name`; a missing one fails the test.
+template <typename T = QWidget> T* Child(const QObject& parent, const char* name) {
+    T* child = parent.findChild<T*>(QString::fromLatin1(name));
+    EXPECT_NE(child, nullptr) << name;
+    return child;
+}
+
 } // namespace orvelin::testing

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "settings.h"
+#include "shell.h"
 
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace orvelin::testing {
 
@@ -23,6 +25,24 @@ public:
 
 private:
     std::map<std::pair<std::string, std::string>, std::string> m_values;
+};
+
+/// A shell that records what it was asked to open or start.
+class FakeShell : public Shell {
+public:
+    std::vector<std::string> opened;
+    std::vector<std::pair<std::string, std::vector<std::string>>> started;
+    bool succeed = true;
+
+    bool openDocument(const std::string& path) override {
+        opened.push_back(path);
+        return succeed;
+    }
+    bool startProgram(const std::string& program,
+                      const std::vector<std::string>& arguments) override {
+        started.emplace_back(program, arguments);
+        return succeed;
+    }
 };
 
 } // namespace orvelin::testing
