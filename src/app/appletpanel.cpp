@@ -1,10 +1,10 @@
 #include "appletpanel.h"
 
 #include "colorbutton.h"
-#include "textcatalogue.h"
 #include "panelwidgets.h"
 #include "projectmodel.h"
 #include "propertyeditor.h"
+#include "windowtexts.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -43,31 +43,27 @@ AppletPanel::AppletPanel(PropertyEditor& properties, QWidget* parent)
 }
 
 QWidget* AppletPanel::buildSize() {
-    QGroupBox* group = panel::group(QStringLiteral("Applet"), this);
+    QGroupBox* group = panel::group(QStringLiteral("fraApplet"), this);
     auto* grid = new QGridLayout(group);
     m_width = panel::lineEdit(QStringLiteral("txtAppletWidth"), group, 56);
     m_height = panel::lineEdit(QStringLiteral("txtAppletHeight"), group, 56);
-    m_width->setToolTip(QStringLiteral("The applet's width in pixels"));
-    m_height->setToolTip(QStringLiteral("The applet's height in pixels"));
-    grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblAppletWidth"), group), 0, 0);
     grid->addWidget(m_width, 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 0, 2);
+    grid->addWidget(panel::label(QStringLiteral("lblAppletHeight"), group), 0, 2);
     grid->addWidget(m_height, 0, 3);
     grid->setColumnStretch(4, 1);
-    m_sizeNote = new QLabel(QString::fromStdString(texts()[Msg::AppletSizeRange]), group);
+    m_sizeNote = new QLabel(group);
     m_sizeNote->setObjectName(QStringLiteral("lblSizeNote"));
     m_sizeNote->setWordWrap(true);
     m_sizeNote->setStyleSheet(QStringLiteral("color: #a03000;"));
     m_sizeNote->hide();
     grid->addWidget(m_sizeNote, 4, 0, 1, 5);
 
-    m_pushButtons = new QRadioButton(QStringLiteral("Act like push buttons"), group);
+    m_pushButtons = new QRadioButton(group);
     m_pushButtons->setObjectName(QStringLiteral("imgPushBtn"));
-    m_radioButtons = new QRadioButton(QStringLiteral("Act like radio buttons"), group);
+    m_radioButtons = new QRadioButton(group);
     m_radioButtons->setObjectName(QStringLiteral("imgRadioBtn"));
-    m_downButton =
-        panel::checkBox(QStringLiteral("chkDOWNBtn"), QStringLiteral("Use Down State"), group);
-    m_downButton->setToolTip(QStringLiteral("The applet's Down State button option"));
+    m_downButton = panel::checkBox(QStringLiteral("chkDOWNBtn"), group);
     grid->addWidget(m_pushButtons, 1, 0, 1, 5);
     grid->addWidget(m_radioButtons, 2, 0, 1, 5);
     grid->addWidget(m_downButton, 3, 0, 1, 5);
@@ -75,7 +71,10 @@ QWidget* AppletPanel::buildSize() {
     // The surface follows the size as it is typed; a size below 1 is refused at the box
     // (said beside it), and leaving the box shows the applet's size again.
     const auto sizeTyped = [this](bool accepted, const QString& text) {
-        m_sizeNote->setVisible(!accepted && !text.trimmed().isEmpty());
+        const bool refused = !accepted && !text.trimmed().isEmpty();
+        if (refused)
+            m_sizeNote->setText(uiText(Msg::AppletSizeRange));
+        m_sizeNote->setVisible(refused);
     };
     connect(m_width, &QLineEdit::textChanged, this, [this, sizeTyped](const QString& text) {
         sizeTyped(m_properties.setAppletWidth(text.toStdString()), text);
@@ -102,31 +101,26 @@ QWidget* AppletPanel::buildSize() {
 }
 
 QWidget* AppletPanel::buildBackground() {
-    QGroupBox* group = panel::group(QStringLiteral("Background"), this);
+    QGroupBox* group = panel::group(QStringLiteral("fraBackground"), this);
     auto* grid = new QGridLayout(group);
     grid->setHorizontalSpacing(4);
     m_background = new ColorButton(QStringLiteral("picBackGround"), group);
-    m_background->setToolTip(QStringLiteral("Applet background colour"));
     m_backImg = panel::lineEdit(QStringLiteral("txtBackImg"), group);
-    m_browseBackImg = panel::browseButton(QStringLiteral("btnBrowseBackImg"),
-                                          QStringLiteral("Choose a background image"), group);
-    m_backImgStyle = panel::comboBox(QStringLiteral("cmbBackImgStyle"), false, group);
-    m_backImgStyle->addItems(
-        {QStringLiteral("Center"), QStringLiteral("Tile"), QStringLiteral("Stretch")});
-    m_offset = new QPushButton(QStringLiteral("Offset..."), group);
+    m_browseBackImg = panel::browseButton(QStringLiteral("btnBrowseBackImg"), group);
+    m_backImgStyle = panel::placementBox(QStringLiteral("cmbBackImgStyle"), group);
+    m_offset = new QPushButton(group);
     m_offset->setObjectName(QStringLiteral("btnBgOffset"));
-    m_offset->setToolTip(QStringLiteral("Move the background image"));
 
-    grid->addWidget(new QLabel(QStringLiteral("Colour:"), group), 0, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblBackGround"), group), 0, 0);
     grid->addWidget(m_background, 0, 1, 1, 2, Qt::AlignLeft);
-    grid->addWidget(new QLabel(QStringLiteral("Image:"), group), 1, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblBackImg"), group), 1, 0);
     grid->addWidget(m_backImg, 1, 1);
     grid->addWidget(m_browseBackImg, 1, 2);
     auto* placement = new QHBoxLayout();
     placement->addWidget(m_backImgStyle);
     placement->addStretch(1);
     placement->addWidget(m_offset);
-    grid->addWidget(new QLabel(QStringLiteral("Placement:"), group), 2, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblBackImgStyle"), group), 2, 0);
     grid->addLayout(placement, 2, 1, 1, 2);
     grid->setColumnStretch(1, 1);
 
@@ -142,15 +136,13 @@ QWidget* AppletPanel::buildBackground() {
 }
 
 QWidget* AppletPanel::buildActions() {
-    QGroupBox* group = panel::group(QStringLiteral(" Set Action:"), this);
-    group->setObjectName(QStringLiteral("fraAppletActions"));
+    QGroupBox* group = panel::group(QStringLiteral("fraAppletActions"), this);
     auto* row = new QHBoxLayout(group);
     row->setSpacing(2);
     for (std::size_t i = 0; i < kAppletProgramKinds.size(); ++i) {
         const ProgramKind moment = kAppletProgramKinds[i];
         auto* button = new QToolButton(group);
         button->setObjectName(momentName(moment));
-        button->setToolTip(QString::fromLatin1(programKindTitle(moment)));
         button->setAutoRaise(true); // the hover highlight under the pointer
         button->setIconSize(QSize(24, 24));
         button->setIcon(appletMomentIcon(moment, false));

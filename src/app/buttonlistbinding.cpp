@@ -37,6 +37,11 @@ void ButtonListBinding::show(int current) {
     m_showing = false;
 }
 
+void ButtonListBinding::showTexts() {
+    for (int i = 0; i < m_widget.count(); ++i)
+        m_widget.item(i)->setText(QString::fromStdString(buttonEntryText(i + 1)));
+}
+
 void ButtonListBinding::selectionChanged() {
     if (m_showing)
         return;

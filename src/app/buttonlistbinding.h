@@ -23,6 +23,8 @@ public:
     /// Shows the core's entries and selection; `current` (1-based, 0 for none) gets
     /// the focus mark.
     void show(int current);
+    /// Names the entries again in the language in force.
+    void showTexts();
 
 private:
     void selectionChanged();

@@ -1,5 +1,7 @@
 #include "fontfamilybox.h"
 
+#include "windowtexts.h"
+
 #include <QAbstractItemView>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -37,7 +39,7 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         const QString substitute = index.data(kSubstituteRole).toString();
         if (!substitute.isEmpty())
-            option->text += FontFamilyBox::tr("   (drawn here as %1)").arg(substitute);
+            option->text += uiText("frmMain", "#fontDrawnAs").arg(substitute);
     }
 };
 
@@ -78,7 +80,7 @@ void FontFamilyBox::fillFamilies() {
         const QString substitute = FontFamilyBox::substitute(font);
         setItemData(findText(font), substitute, kSubstituteRole);
         widest = std::max(widest, fontMetrics().horizontalAdvance(
-                                      font + tr("   (drawn here as %1)").arg(substitute)));
+                                      font + uiText("frmMain", "#fontDrawnAs").arg(substitute)));
     }
     for (int i = 0; i < count(); ++i)
         widest = std::max(widest, fontMetrics().horizontalAdvance(itemText(i)));

@@ -8,6 +8,7 @@
 #include "frmmultilineeditor.h"
 #include "frmsetaction.h"
 #include "imagefile.h"
+#include "languagefiles.h"
 #include "mainmenus.h"
 #include "propertypanel.h"
 #include "textcatalogue.h"
@@ -31,12 +32,9 @@ namespace {
 
 const QString kFormName = QStringLiteral("frmMain");
 
-QToolButton* listCommand(const QString& name, const QString& text, const QString& toolTip,
-                         QWidget* parent) {
+QToolButton* listCommand(const QString& name, QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
-    button->setText(text);
-    button->setToolTip(toolTip);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return button;
 }
@@ -86,6 +84,8 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
                 if (isWindowModified() == m_model.Saved)
                     setWindowModified(!m_model.Saved);
             });
+    // The captions are in place before the screen-reader names pair them with their fields.
+    showWindowTexts(*this, TextSection::MainMore);
     nameControls(*this);
 }
 
@@ -104,20 +104,15 @@ QWidget* FrmMain::buildButtonColumn() {
     m_buttons = new QListWidget(column);
     m_buttons->setObjectName(QStringLiteral("lstButtons"));
     m_buttons->setFixedWidth(120);
-    m_buttons->setToolTip(QStringLiteral("Ctrl+click or Shift+click selects several buttons"));
     m_binding = new ButtonListBinding(*m_buttons, m_list, m_editor, this);
     layout->addWidget(m_buttons, 1);
 
     auto* commands = new QHBoxLayout();
     commands->setSpacing(2);
     Editor& e = m_editor;
-    QToolButton* add = listCommand(QStringLiteral("btnAdd"), QStringLiteral("Add"),
-                                   QStringLiteral("Add a button"), column);
-    QToolButton* duplicate =
-        listCommand(QStringLiteral("btnDuplicate"), QStringLiteral("Duplicate"),
-                    QStringLiteral("Duplicate the current button"), column);
-    QToolButton* remove = listCommand(QStringLiteral("btnRemove"), QStringLiteral("Remove"),
-                                      QStringLiteral("Remove the current button"), column);
+    QToolButton* add = listCommand(QStringLiteral("btnAdd"), column);
+    QToolButton* duplicate = listCommand(QStringLiteral("btnDuplicate"), column);
+    QToolButton* remove = listCommand(QStringLiteral("btnRemove"), column);
     connect(add, &QToolButton::clicked, this, [&e] { e.addButton(); });
     connect(duplicate, &QToolButton::clicked, this, [&e] { e.duplicateButton(); });
     connect(remove, &QToolButton::clicked, this, [&e] { e.removeButton(); });
@@ -125,9 +120,8 @@ QWidget* FrmMain::buildButtonColumn() {
     commands->addWidget(remove);
     layout->addWidget(duplicate);
     layout->addLayout(commands);
-    auto* build = new QPushButton(QStringLiteral("Build HTML"), column);
+    auto* build = new QPushButton(column);
     build->setObjectName(QStringLiteral("btnBuild"));
-    build->setToolTip(QStringLiteral("Show the applet code and build the page"));
     // The same request as View > Build HTML (F5), so both open the one HTML window.
     connect(build, &QPushButton::clicked, this, &FrmMain::htmlViewRequested);
     layout->addWidget(build);
@@ -204,8 +198,10 @@ void FrmMain::setRecentEntry(int slot, const std::string& caption, bool visible)
     m_menus->setRecentEntry(slot, QString::fromStdString(caption), visible);
 }
 
-void FrmMain::setActionTitle(const std::string& title) {
-    m_properties->setActionTitle(QString::fromStdString(title));
+void FrmMain::setActionTitle(const std::string& /*title*/) {
+    // The title in force for the state's program, not the core's English one.
+    const std::string name = "#action" + std::string(programKindName(m_editor.actionProgramKind()));
+    m_properties->setActionTitle(uiText(kFormName.toStdString(), name));
 }
 
 void FrmMain::showState(ButtonState state) {
@@ -217,7 +213,18 @@ void FrmMain::setOnTopChecked(bool checked) {
 }
 
 void FrmMain::showTexts(const std::string& language) {
+    // The main block is read already; the main editor's further texts and the messages
+    // that did not fit in it follow.
+    if (LanguageFiles* languages = windowLanguage())
+        for (TextSection section : {TextSection::MainMore, TextSection::Messages})
+            languages->applyWindowInForce(section);
     applyWindowTexts(*this);
+    // The texts put together from the catalogue's parts.
+    m_binding->showTexts();
+    m_history->showTexts();
+    setActionTitle({});
+    if (m_model.ButtonCount > 0)
+        m_editor.ShowProp(m_model.CurrentButton);
     emit textsChanged(QString::fromStdString(language));
 }
 

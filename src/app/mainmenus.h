@@ -47,7 +47,7 @@ signals:
     void associateRequested();
 
 private:
-    QAction* add(QMenu* menu, const char* name, const QString& text);
+    QAction* add(QMenu* menu, const char* name);
     void buildFile(QMenu* menu);
     void buildEdit(QMenu* menu);
     void buildView(QMenu* menu);

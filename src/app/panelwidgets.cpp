@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
 
@@ -16,8 +17,8 @@ QLineEdit* lineEdit(const QString& name, QWidget* parent, int width) {
     return edit;
 }
 
-QCheckBox* checkBox(const QString& name, const QString& text, QWidget* parent) {
-    auto* box = new QCheckBox(text, parent);
+QCheckBox* checkBox(const QString& name, QWidget* parent) {
+    auto* box = new QCheckBox(parent);
     box->setObjectName(name);
     return box;
 }
@@ -31,17 +32,29 @@ QComboBox* comboBox(const QString& name, bool editable, QWidget* parent) {
     return combo;
 }
 
-QToolButton* browseButton(const QString& name, const QString& toolTip, QWidget* parent) {
+QComboBox* placementBox(const QString& name, QWidget* parent) {
+    QComboBox* combo = comboBox(name, false, parent);
+    for (int i = 0; i < 3; ++i)
+        combo->addItem(QString());
+    return combo;
+}
+
+QToolButton* browseButton(const QString& name, QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
-    button->setText(QStringLiteral("..."));
-    button->setToolTip(toolTip);
     return button;
 }
 
-QGroupBox* group(const QString& title, QWidget* parent) {
-    auto* group = new QGroupBox(title, parent);
+QGroupBox* group(const QString& name, QWidget* parent) {
+    auto* group = new QGroupBox(parent);
+    group->setObjectName(name);
     return group;
+}
+
+QLabel* label(const QString& name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    return label;
 }
 
 void setText(QLineEdit* edit, const QString& text) {

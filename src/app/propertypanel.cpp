@@ -3,8 +3,8 @@
 #include "colorbutton.h"
 #include "editor.h"
 #include "fontfamilybox.h"
-#include "textcatalogue.h"
 #include "panelwidgets.h"
+#include "textcatalogue.h"
 #include "typedfieldvalidator.h"
 
 #include <QButtonGroup>
@@ -34,19 +34,15 @@ std::string Std(const QString& text) {
     return text.toStdString();
 }
 
-QToolButton* styleToggle(const QString& name, const QString& text, const QString& toolTip,
-                         QWidget* parent) {
+// The bold and italic switches show their letter in the style they switch.
+QToolButton* styleToggle(const QString& name, bool bold, QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
-    button->setText(text);
-    button->setToolTip(toolTip);
     button->setCheckable(true);
     button->setFixedWidth(26);
     QFont font = button->font();
-    if (text == QLatin1String("B"))
-        font.setBold(true);
-    else
-        font.setItalic(true);
+    font.setBold(bold);
+    font.setItalic(!bold);
     button->setFont(font);
     return button;
 }
@@ -78,7 +74,6 @@ PropertyPanel::PropertyPanel(Editor& editor, QWidget* parent)
     right->addWidget(buildLink());
     m_setAction = new QPushButton(m_body);
     m_setAction->setObjectName(QStringLiteral("btnSetAction"));
-    m_setAction->setToolTip(QStringLiteral("Edit the action program of this state"));
     right->addWidget(m_setAction);
     right->addStretch(1);
     columns->addLayout(left, 1);
@@ -132,12 +127,10 @@ QWidget* PropertyPanel::buildStateSwitch() {
     const struct {
         ButtonState state;
         const char* name;
-        const char* caption;
-    } states[] = {{ButtonState::UP, "btnUP", "Up State"},
-                  {ButtonState::OVER, "btnOVER", "Mouse-Over"},
-                  {ButtonState::DOWN, "btnDOWN", "Down State"}};
+    } states[] = {
+        {ButtonState::UP, "btnUP"}, {ButtonState::OVER, "btnOVER"}, {ButtonState::DOWN, "btnDOWN"}};
     for (const auto& s : states) {
-        auto* button = new QPushButton(QString::fromLatin1(s.caption), box);
+        auto* button = new QPushButton(box);
         button->setObjectName(QString::fromLatin1(s.name));
         button->setCheckable(true);
         button->setMinimumWidth(84);
@@ -150,47 +143,41 @@ QWidget* PropertyPanel::buildStateSwitch() {
 }
 
 QWidget* PropertyPanel::buildGeometry() {
-    QGroupBox* group = panel::group(QStringLiteral("Position and Size"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("fraGeometry"), m_body);
     auto* grid = new QGridLayout(group);
     m_x = panel::lineEdit(QStringLiteral("txtX"), group, kNumberWidth);
     m_y = panel::lineEdit(QStringLiteral("txtY"), group, kNumberWidth);
     m_width = panel::lineEdit(QStringLiteral("txtWidth"), group, kNumberWidth);
     m_height = panel::lineEdit(QStringLiteral("txtHeight"), group, kNumberWidth);
-    grid->addWidget(new QLabel(QStringLiteral("X:"), group), 0, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblX"), group), 0, 0);
     grid->addWidget(m_x, 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Width:"), group), 0, 2);
+    grid->addWidget(panel::label(QStringLiteral("lblWidth"), group), 0, 2);
     grid->addWidget(m_width, 0, 3);
-    grid->addWidget(new QLabel(QStringLiteral("Y:"), group), 1, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblY"), group), 1, 0);
     grid->addWidget(m_y, 1, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Height:"), group), 1, 2);
+    grid->addWidget(panel::label(QStringLiteral("lblHeight"), group), 1, 2);
     grid->addWidget(m_height, 1, 3);
     grid->setColumnStretch(4, 1);
     return group;
 }
 
 QWidget* PropertyPanel::buildLabel() {
-    QGroupBox* group = panel::group(QStringLiteral("Label"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("fraLabel"), m_body);
     auto* grid = new QGridLayout(group);
 
     m_label = panel::lineEdit(QStringLiteral("txtLabel"), group);
-    m_labelEditor = panel::browseButton(QStringLiteral("btnMultiLine"),
-                                        QStringLiteral("Edit a label of several lines"), group);
+    m_labelEditor = panel::browseButton(QStringLiteral("btnMultiLine"), group);
     auto* text = new QHBoxLayout();
     text->setSpacing(2);
     text->addWidget(m_label, 1);
     text->addWidget(m_labelEditor);
-    grid->addWidget(new QLabel(QStringLiteral("Text:"), group), 0, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblText"), group), 0, 0);
     grid->addLayout(text, 0, 1, 1, 4);
 
-    m_centerText =
-        panel::checkBox(QStringLiteral("chkCenterText"), QStringLiteral("Center Text"), group);
-    m_positionText =
-        panel::checkBox(QStringLiteral("chkPositionText"), QStringLiteral("At:"), group);
-    m_positionText->setToolTip(QStringLiteral("Draw the label at a position in the button"));
+    m_centerText = panel::checkBox(QStringLiteral("chkCenterText"), group);
+    m_positionText = panel::checkBox(QStringLiteral("chkPositionText"), group);
     m_labelPosX = panel::lineEdit(QStringLiteral("txtLabelPosX"), group, 44);
     m_labelPosY = panel::lineEdit(QStringLiteral("txtLabelPosY"), group, 44);
-    m_labelPosX->setToolTip(QStringLiteral("Label position X"));
-    m_labelPosY->setToolTip(QStringLiteral("Label position Y"));
     auto* place = new QHBoxLayout();
     place->addWidget(m_centerText);
     place->addSpacing(8);
@@ -210,54 +197,46 @@ QWidget* PropertyPanel::buildLabel() {
     for (int size : {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72})
         m_fontSize->addItem(number(size));
     m_fontSize->setFixedWidth(58);
-    m_bold =
-        styleToggle(QStringLiteral("btnBold"), QStringLiteral("B"), QStringLiteral("Bold"), group);
-    m_italic = styleToggle(QStringLiteral("btnItalic"), QStringLiteral("I"),
-                           QStringLiteral("Italic"), group);
+    m_bold = styleToggle(QStringLiteral("btnBold"), true, group);
+    m_italic = styleToggle(QStringLiteral("btnItalic"), false, group);
     auto* font = new QHBoxLayout();
     font->setSpacing(3);
     font->addWidget(m_font, 1);
     font->addWidget(m_fontSize);
     font->addWidget(m_bold);
     font->addWidget(m_italic);
-    grid->addWidget(new QLabel(QStringLiteral("Font:"), group), 2, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblFont"), group), 2, 0);
     grid->addLayout(font, 2, 1, 1, 4);
 
     m_fontColor = new ColorButton(QStringLiteral("picFontColor"), group);
-    m_fontColor->setToolTip(QStringLiteral("Label colour"));
     m_backColor = new ColorButton(QStringLiteral("picBackColor"), group);
-    m_backColor->setToolTip(QStringLiteral("Background colour"));
     auto* colours = new QHBoxLayout();
     colours->addWidget(m_fontColor);
     colours->addSpacing(10);
-    colours->addWidget(new QLabel(QStringLiteral("Background:"), group));
+    colours->addWidget(panel::label(QStringLiteral("lblBackColor"), group));
     colours->addWidget(m_backColor);
     colours->addStretch(1);
-    grid->addWidget(new QLabel(QStringLiteral("Colour:"), group), 3, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblColour"), group), 3, 0);
     grid->addLayout(colours, 3, 1, 1, 4);
     grid->setColumnStretch(4, 1);
     return group;
 }
 
 QWidget* PropertyPanel::buildImageAndSound() {
-    QGroupBox* group = panel::group(QStringLiteral("Image and Sound"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("fraImageSound"), m_body);
     auto* grid = new QGridLayout(group);
     m_image = panel::lineEdit(QStringLiteral("txtImage"), group);
     m_image->setMinimumWidth(150);
-    m_browseImage = panel::browseButton(QStringLiteral("btnBrowseImage"),
-                                        QStringLiteral("Choose an image"), group);
-    m_imgStyle = panel::comboBox(QStringLiteral("cmbImgStyle"), false, group);
-    m_imgStyle->addItems(
-        {QStringLiteral("Center"), QStringLiteral("Tile"), QStringLiteral("Stretch")});
+    m_browseImage = panel::browseButton(QStringLiteral("btnBrowseImage"), group);
+    m_imgStyle = panel::placementBox(QStringLiteral("cmbImgStyle"), group);
     m_sound = panel::lineEdit(QStringLiteral("txtSound"), group);
-    m_browseSound = panel::browseButton(QStringLiteral("btnBrowseSound"),
-                                        QStringLiteral("Choose a sound"), group);
-    grid->addWidget(new QLabel(QStringLiteral("Image:"), group), 0, 0);
+    m_browseSound = panel::browseButton(QStringLiteral("btnBrowseSound"), group);
+    grid->addWidget(panel::label(QStringLiteral("lblImage"), group), 0, 0);
     grid->addWidget(m_image, 0, 1);
     grid->addWidget(m_browseImage, 0, 2);
-    grid->addWidget(new QLabel(QStringLiteral("Placement:"), group), 1, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblImgStyle"), group), 1, 0);
     grid->addWidget(m_imgStyle, 1, 1, 1, 2, Qt::AlignLeft);
-    grid->addWidget(new QLabel(QStringLiteral("Sound:"), group), 2, 0);
+    grid->addWidget(panel::label(QStringLiteral("lblSound"), group), 2, 0);
     grid->addWidget(m_sound, 2, 1);
     grid->addWidget(m_browseSound, 2, 2);
     grid->setColumnStretch(1, 1);
@@ -266,31 +245,27 @@ QWidget* PropertyPanel::buildImageAndSound() {
 }
 
 QWidget* PropertyPanel::buildLink() {
-    QGroupBox* group = panel::group(QStringLiteral("Link"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("fraLink"), m_body);
     auto* form = new QFormLayout(group);
     m_url = panel::lineEdit(QStringLiteral("txtURL"), group);
     m_status = panel::lineEdit(QStringLiteral("txtStatus"), group);
     m_target = panel::comboBox(QStringLiteral("lsTarget"), true, group);
     m_target->addItems({QStringLiteral("_self"), QStringLiteral("_parent"), QStringLiteral("_top"),
                         QStringLiteral("_blank")});
-    form->addRow(QStringLiteral("URL:"), m_url);
-    form->addRow(QStringLiteral("Status:"), m_status);
-    form->addRow(QStringLiteral("Target:"), m_target);
+    form->addRow(panel::label(QStringLiteral("lblURL"), group), m_url);
+    form->addRow(panel::label(QStringLiteral("lblStatus"), group), m_status);
+    form->addRow(panel::label(QStringLiteral("lblTarget"), group), m_target);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     return group;
 }
 
 QWidget* PropertyPanel::buildFlags() {
-    QGroupBox* group = panel::group(QStringLiteral("Options"), m_body);
+    QGroupBox* group = panel::group(QStringLiteral("fraOptions"), m_body);
     auto* grid = new QGridLayout(group);
-    m_border = panel::checkBox(QStringLiteral("chkBorder"), QStringLiteral("Border"), group);
-    m_transparent =
-        panel::checkBox(QStringLiteral("chkTransparent"), QStringLiteral("Transparent"), group);
-    m_showHand =
-        panel::checkBox(QStringLiteral("chkShowHand"), QStringLiteral("Hand cursor"), group);
-    m_hidden = panel::checkBox(QStringLiteral("chkHidden"), QStringLiteral("Hidden"), group);
-    m_transparent->setToolTip(QStringLiteral("No background: the applet shows through"));
-    m_hidden->setToolTip(QStringLiteral("Hidden when the applet starts"));
+    m_border = panel::checkBox(QStringLiteral("chkBorder"), group);
+    m_transparent = panel::checkBox(QStringLiteral("chkTransparent"), group);
+    m_showHand = panel::checkBox(QStringLiteral("chkShowHand"), group);
+    m_hidden = panel::checkBox(QStringLiteral("chkHidden"), group);
     grid->addWidget(m_border, 0, 0);
     grid->addWidget(m_transparent, 0, 1);
     grid->addWidget(m_showHand, 1, 0);

@@ -2,7 +2,9 @@
 
 #include "frmmessage.h"
 #include "windowgeometry.h"
+#include "windowtexts.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QFileInfo>
 
@@ -33,6 +35,15 @@ int QtUserInterface::ask(QMessageBox::Icon icon, const std::string& text, const 
                          QMessageBox::StandardButton defaultButton) {
     QMessageBox box(icon, messageTitle(title), displayText(text), buttons, m_owner);
     box.setDefaultButton(defaultButton);
+    // The answers in the language in force.
+    const std::pair<QMessageBox::StandardButton, std::string_view> answers[] = {
+        {QMessageBox::Yes, "#answerYes"},
+        {QMessageBox::No, "#answerNo"},
+        {QMessageBox::Ok, "#answerOk"},
+        {QMessageBox::Cancel, "#answerCancel"}};
+    for (const auto& [id, name] : answers)
+        if (QAbstractButton* button = box.button(id))
+            button->setText(uiText("frmMain", name));
     // A short text under a long title: the box is made wide enough to show the title.
     box.setStyleSheet(QStringLiteral("QLabel { min-width: %1px; }")
                           .arg(box.fontMetrics().horizontalAdvance(box.windowTitle()) + 40));

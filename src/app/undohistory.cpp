@@ -1,5 +1,7 @@
 #include "undohistory.h"
 
+#include "windowtexts.h"
+
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
@@ -39,9 +41,14 @@ public:
     Step(UndoHistory& history, Snapshot before, Snapshot after, QString field, unsigned burst,
          const QString& name)
         : m_history(history), m_before(std::move(before)), m_after(std::move(after)),
-          m_field(std::move(field)), m_burst(burst) {
-        setText(name.isEmpty() ? QString::fromStdString(describeChange(*m_before, *m_after))
-                               : name);
+          m_field(std::move(field)), m_burst(burst), m_named(!name.isEmpty()) {
+        setText(m_named ? name : described());
+    }
+
+    /// The step's name in the language in force; a name a command gave stays.
+    void nameAgain() {
+        if (!m_named)
+            setText(described());
     }
 
     int id() const override { return m_field.isEmpty() ? -1 : kTypingId; }
@@ -53,7 +60,7 @@ public:
         m_after = next->m_after;
         m_toAfter.reset();
         m_toBefore.reset();
-        setText(QString::fromStdString(describeChange(*m_before, *m_after)));
+        setText(described());
         // Typed back to what it was: no step at all.
         setObsolete(sameDocument(*m_before, *m_after));
         return true;
@@ -77,11 +84,16 @@ public:
     }
 
 private:
+    QString described() const {
+        return QString::fromStdString(describeChange(*m_before, *m_after));
+    }
+
     UndoHistory& m_history;
     Snapshot m_before;
     Snapshot m_after;
     QString m_field;
     unsigned m_burst;
+    bool m_named;
     bool m_pushed = true;
     // The change each way, found once: a step is often undone and redone again.
     std::optional<DocumentChange> m_toAfter;
@@ -91,11 +103,11 @@ private:
 UndoHistory::UndoHistory(ProjectModel& model, ButtonList& list, QObject* parent)
     : QObject(parent), m_model(model), m_list(list) {
     m_stack.setUndoLimit(kUndoLimit);
-    m_undo = new QAction(tr("&Undo"), this);
+    m_undo = new QAction(this);
     m_undo->setObjectName(QStringLiteral("mnuUndo"));
     m_undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
     m_undo->setEnabled(false);
-    m_redo = new QAction(tr("&Redo"), this);
+    m_redo = new QAction(this);
     m_redo->setObjectName(QStringLiteral("mnuRedo"));
     m_redo->setShortcuts(
         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
@@ -104,12 +116,9 @@ UndoHistory::UndoHistory(ProjectModel& model, ButtonList& list, QObject* parent)
     connect(m_redo, &QAction::triggered, this, &UndoHistory::redo);
     connect(&m_stack, &QUndoStack::canUndoChanged, m_undo, &QAction::setEnabled);
     connect(&m_stack, &QUndoStack::canRedoChanged, m_redo, &QAction::setEnabled);
-    connect(&m_stack, &QUndoStack::undoTextChanged, this, [this](const QString& text) {
-        m_undo->setText(text.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(text));
-    });
-    connect(&m_stack, &QUndoStack::redoTextChanged, this, [this](const QString& text) {
-        m_redo->setText(text.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(text));
-    });
+    connect(&m_stack, &QUndoStack::undoTextChanged, this, &UndoHistory::showActionTexts);
+    connect(&m_stack, &QUndoStack::redoTextChanged, this, &UndoHistory::showActionTexts);
+    showActionTexts();
     // Back at the saved document the project is unchanged again; away from it, changed.
     connect(&m_stack, &QUndoStack::cleanChanged, this, [this](bool clean) {
         if (m_active)
@@ -125,6 +134,20 @@ UndoHistory::UndoHistory(ProjectModel& model, ButtonList& list, QObject* parent)
 UndoHistory::~UndoHistory() {
     m_model.notices.stopListening(m_listening);
     qApp->removeEventFilter(this);
+}
+
+void UndoHistory::showActionTexts() {
+    const auto named = [](std::string_view plain, std::string_view withStep, const QString& step) {
+        return step.isEmpty() ? uiText("frmMain", plain) : uiText("frmMain", withStep).arg(step);
+    };
+    m_undo->setText(named("mnuUndo", "#undoStep", m_stack.undoText()));
+    m_redo->setText(named("mnuRedo", "#redoStep", m_stack.redoText()));
+}
+
+void UndoHistory::showTexts() {
+    for (int i = 0; i < m_stack.count(); ++i)
+        static_cast<Step*>(const_cast<QUndoCommand*>(m_stack.command(i)))->nameAgain();
+    showActionTexts();
 }
 
 void UndoHistory::clear() {

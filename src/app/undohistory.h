@@ -41,6 +41,8 @@ public:
     void clear();
     void undo();
     void redo();
+    /// Names the steps and the two commands again in the language in force.
+    void showTexts();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -53,6 +55,8 @@ private:
     void restore(const Snapshot& to, const DocumentChange& change);
     /// The text field the last key went to, when the last input was a key.
     QString typingField() const;
+    /// "Undo <step>" and "Redo <step>" for the steps at hand.
+    void showActionTexts();
 
     ProjectModel& m_model;
     ButtonList& m_list;

@@ -413,7 +413,7 @@ void Editor::pasteButtons(std::string_view text) {
     for (int i = first + 1; i <= m_model.ButtonCount; ++i)
         m_list.addSelection(i);
     // A pasted copy of one button is no duplicate, though it looks like one.
-    announceCount(first - 1, first, countedButtons("Add", buttons->size()));
+    announceCount(first - 1, first, countedButtons(ButtonStep::Add, buttons->size()));
 }
 
 void Editor::clickList(int index) {

@@ -1,5 +1,8 @@
 #include "projectsnapshot.h"
 
+#include "textcatalogue.h"
+#include "texthelpers.h"
+
 #include <algorithm>
 #include <set>
 #include <string_view>
@@ -11,52 +14,60 @@ namespace {
 // Calls f(name, a's member, b's member) for each applet setting, to name a step.
 template <typename F>
 void eachAppletSetting(const AppletSettings& a, const AppletSettings& b, F&& f) {
-    f("Applet Width", a.AppletWidth, b.AppletWidth);
-    f("Applet Height", a.AppletHeight, b.AppletHeight);
-    f("Behaviour", a.Behaviour, b.Behaviour);
-    f("DOWN Button", a.DOWNBtn, b.DOWNBtn);
-    f("Background Color", a.BackGround, b.BackGround);
-    f("Background Image", a.BackImg, b.BackImg);
-    f("Background Image Placement", a.BackImgStyle, b.BackImgStyle);
-    f("Applet Program", a.AppletProgramOVER, b.AppletProgramOVER);
-    f("Applet Program", a.AppletProgramDOWN, b.AppletProgramDOWN);
-    f("Applet Program", a.AppletProgramOUT, b.AppletProgramOUT);
-    f("Background Offset", a.BgOffsetX, b.BgOffsetX);
-    f("Background Offset", a.BgOffsetY, b.BgOffsetY);
-    f("Applet Program", a.AppletProgramStart, b.AppletProgramStart);
-    f("Applet Name", a.AppletName, b.AppletName);
+    f(Msg::FieldAppletWidth, a.AppletWidth, b.AppletWidth);
+    f(Msg::FieldAppletHeight, a.AppletHeight, b.AppletHeight);
+    f(Msg::FieldBehaviour, a.Behaviour, b.Behaviour);
+    f(Msg::FieldDownButton, a.DOWNBtn, b.DOWNBtn);
+    f(Msg::FieldBackgroundColor, a.BackGround, b.BackGround);
+    f(Msg::FieldBackgroundImage, a.BackImg, b.BackImg);
+    f(Msg::FieldBackgroundImagePlacement, a.BackImgStyle, b.BackImgStyle);
+    f(Msg::FieldAppletProgram, a.AppletProgramOVER, b.AppletProgramOVER);
+    f(Msg::FieldAppletProgram, a.AppletProgramDOWN, b.AppletProgramDOWN);
+    f(Msg::FieldAppletProgram, a.AppletProgramOUT, b.AppletProgramOUT);
+    f(Msg::FieldBackgroundOffset, a.BgOffsetX, b.BgOffsetX);
+    f(Msg::FieldBackgroundOffset, a.BgOffsetY, b.BgOffsetY);
+    f(Msg::FieldAppletProgram, a.AppletProgramStart, b.AppletProgramStart);
+    f(Msg::FieldAppletName, a.AppletName, b.AppletName);
 }
 
 // The name a step gives button field `pos`: the per-state triples share one name.
-std::string fieldDisplayName(int pos) {
+Msg fieldDisplayName(int pos) {
     std::string_view name = buttonFields()[static_cast<std::size_t>(pos)].name;
     for (std::string_view state : {"UP", "OVER", "DOWN"})
         if (name.size() > state.size() && name.ends_with(state)) {
             name.remove_suffix(state.size());
             break;
         }
-    static const std::pair<std::string_view, const char*> kNames[] = {
-        {"x", "Position"},
-        {"y", "Position"},
-        {"Width", "Size"},
-        {"Height", "Size"},
-        {"LabelPosX", "Label Position"},
-        {"LabelPosY", "Label Position"},
-        {"PositionText", "Label Placement"},
-        {"noBackGround", "No Background"},
-        {"ShowHand", "Hand Cursor"},
-        {"Snd", "Sound"},
-        {"ImgStyle", "Image Placement"},
-        {"BackColor", "Back Color"},
-        {"FontColor", "Font Color"},
-        {"FontStyle", "Font Style"},
-        {"FontSize", "Font Size"},
-        {"Program", "Action Program"},
+    static constexpr std::pair<std::string_view, Msg> kNames[] = {
+        {"x", Msg::FieldPosition},
+        {"y", Msg::FieldPosition},
+        {"Width", Msg::FieldSize},
+        {"Height", Msg::FieldSize},
+        {"Label", Msg::FieldLabel},
+        {"URL", Msg::FieldURL},
+        {"Status", Msg::FieldStatus},
+        {"Target", Msg::FieldTarget},
+        {"Border", Msg::FieldBorder},
+        {"Hidden", Msg::FieldHidden},
+        {"Image", Msg::FieldImage},
+        {"Font", Msg::FieldFont},
+        {"LabelPosX", Msg::FieldLabelPosition},
+        {"LabelPosY", Msg::FieldLabelPosition},
+        {"PositionText", Msg::FieldLabelPlacement},
+        {"noBackGround", Msg::FieldNoBackground},
+        {"ShowHand", Msg::FieldHandCursor},
+        {"Snd", Msg::FieldSound},
+        {"ImgStyle", Msg::FieldImagePlacement},
+        {"BackColor", Msg::FieldBackColor},
+        {"FontColor", Msg::FieldFontColor},
+        {"FontStyle", Msg::FieldFontStyle},
+        {"FontSize", Msg::FieldFontSize},
+        {"Program", Msg::FieldActionProgram},
     };
     for (const auto& [field, display] : kNames)
         if (name == field)
             return display;
-    return std::string(name);
+    return Msg::Count; // a field without a name: the step is "Change Properties"
 }
 
 // Every setting, button and free slot's position of `s` into the model.
@@ -64,9 +75,16 @@ void restoreAll(const ProjectSnapshot& s, ProjectModel& model);
 
 } // namespace
 
-std::string countedButtons(const char* verb, std::size_t n) {
-    return n == 1 ? std::string(verb) + " Button"
-                  : std::string(verb) + " " + std::to_string(n) + " Buttons";
+std::string countedButtons(ButtonStep step, std::size_t n) {
+    // Each step's message for one button, followed by the one for several.
+    static constexpr std::pair<Msg, Msg> kSteps[] = {
+        {Msg::StepAddButton, Msg::StepAddButtons},
+        {Msg::StepRemoveButton, Msg::StepRemoveButtons},
+        {Msg::StepMoveButton, Msg::StepMoveButtons},
+        {Msg::StepResizeButton, Msg::StepResizeButtons},
+    };
+    const auto [one, several] = kSteps[static_cast<std::size_t>(step)];
+    return n == 1 ? texts()[one] : ReplaceAll(texts()[several], "%1", std::to_string(n));
 }
 
 bool sameBackground(const AppletSettings& a, const AppletSettings& b) {
@@ -166,19 +184,19 @@ std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot&
     const std::size_t is = after.buttons.size();
     if (is > was) {
         if (is - was > 1)
-            return countedButtons("Add", is - was);
+            return countedButtons(ButtonStep::Add, is - was);
         // A copy of a button, put elsewhere, is a duplicate.
         ButtonRecord added = after.buttons.back();
         for (const ButtonRecord& b : before.buttons) {
             added.x = b.x;
             added.y = b.y;
             if (added == b)
-                return "Duplicate Button";
+                return texts()[Msg::StepDuplicateButton];
         }
-        return "Add Button";
+        return texts()[Msg::StepAddButton];
     }
     if (is < was)
-        return countedButtons("Remove", was - is);
+        return countedButtons(ButtonStep::Remove, was - is);
 
     const DocumentChange change = changeBetween(before, after);
     // The stacking commands move one button to either end of the table.
@@ -187,14 +205,14 @@ std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot&
     };
     if (change.buttons.size() >= 2 && !change.applet) {
         if (change.buttons.back() == static_cast<int>(is) && found(after.buttons.back()))
-            return "Bring to Front";
+            return texts()[Msg::StepBringToFront];
         if (change.buttons.front() == 1 && found(after.buttons.front()))
-            return "Send to Back";
+            return texts()[Msg::StepSendToBack];
     }
 
-    std::set<std::string> names;
+    std::set<Msg> names;
     eachAppletSetting(before.applet, after.applet,
-                      [&names](const char* name, const auto& a, const auto& b) {
+                      [&names](Msg name, const auto& a, const auto& b) {
                           if (a != b)
                               names.insert(name);
                       });
@@ -206,20 +224,20 @@ std::string describeChange(const ProjectSnapshot& before, const ProjectSnapshot&
                 names.insert(fieldDisplayName(pos));
     }
     const std::size_t n = change.buttons.size();
-    const auto only = [&names](std::initializer_list<const char*> allowed) {
+    const auto only = [&names](std::initializer_list<Msg> allowed) {
         return !names.empty() && std::all_of(names.begin(), names.end(), [&](const auto& name) {
             return std::find(allowed.begin(), allowed.end(), name) != allowed.end();
         });
     };
-    if (only({"Position"}))
-        return countedButtons("Move", n);
-    if (only({"Position", "Size"}))
-        return countedButtons("Resize", n);
-    if (only({"Label Position", "Label Placement"}))
-        return "Place Label";
-    if (names.size() == 1)
-        return "Change " + *names.begin();
-    return "Change Properties";
+    if (only({Msg::FieldPosition}))
+        return countedButtons(ButtonStep::Move, n);
+    if (only({Msg::FieldPosition, Msg::FieldSize}))
+        return countedButtons(ButtonStep::Resize, n);
+    if (only({Msg::FieldLabelPosition, Msg::FieldLabelPlacement}))
+        return texts()[Msg::StepPlaceLabel];
+    if (names.size() == 1 && *names.begin() != Msg::Count)
+        return ReplaceAll(texts()[Msg::StepChange], "%1", texts()[*names.begin()]);
+    return texts()[Msg::StepChangeProperties];
 }
 
 } // namespace orvelin

@@ -45,8 +45,10 @@ bool sameBackground(const AppletSettings& a, const AppletSettings& b);
 /// What changed from `before` to `after`, as the notice that announces it.
 DocumentChange changeBetween(const ProjectSnapshot& before, const ProjectSnapshot& after);
 
-/// "Add Button" for one button, "Add 3 Buttons" for three.
-std::string countedButtons(const char* verb, std::size_t n);
+/// What an undo step did to buttons, named with their count.
+enum class ButtonStep { Add, Remove, Move, Resize };
+/// "Add Button" for one button, "Add 3 Buttons" for three, in the language in force.
+std::string countedButtons(ButtonStep step, std::size_t n);
 
 /**
  * The name of the edit that led from `before` to `after`, as an undo step shows it:

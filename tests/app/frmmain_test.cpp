@@ -4,6 +4,8 @@
 #include "frmsetaction.h"
 #include "mainmenus.h"
 #include "testapplication.h"
+#include "textcatalogue.h"
+#include "undohistory.h"
 #include "windowgeometry.h"
 
 #include <QAction>
@@ -100,6 +102,27 @@ TEST(MainWindow, StartsWithOneSelectedButtonAndTheCaptionAndRecentMenuNameThePro
     // An ampersand in a path shows as itself.
     quoted.window.setRecentEntry(2, "/home/a&b/p.orv", true);
     EXPECT_EQ(quoted.action("mnuFile2")->text(), QStringLiteral("/home/a&&b/p.orv"));
+}
+
+TEST(MainWindow, ALanguageChangeRenamesWhatTheWindowPutTogether) {
+    MainWindow w;
+    w.window.history().clear();
+    w.addButtons(1);
+    w.window.history().capture();
+    TextCatalogue marked;
+    for (const SectionInfo& info : textSections())
+        for (std::size_t p = 0; p < info.entries.size(); ++p)
+            marked.set(info.section, p, "«" + marked.at(info.section, p) + "»");
+    useTexts(&marked);
+    w.window.showTexts("mrk");
+    const auto marks = [](const QString& text) { return text.count(QStringLiteral("«")); };
+    // The entry, the caption and the action command take the new texts; the undo command
+    // is a marked frame around the step's marked name.
+    EXPECT_EQ(marks(w.buttons()->item(1)->text()), 1);
+    EXPECT_EQ(marks(w.find<QLabel>("lblProperties")->text()), 1);
+    EXPECT_EQ(marks(w.find<QPushButton>("btnSetAction")->text()), 1);
+    EXPECT_EQ(marks(w.window.history().undoAction()->text()), 2);
+    useTexts(nullptr);
 }
 
 TEST(MainWindow, ShowingAnotherButtonWritesNothingBack) {

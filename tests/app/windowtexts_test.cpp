@@ -4,13 +4,14 @@
 #include "designer.h"
 #include "desktopdialogs.h"
 #include "fakeui.h"
-#include "frmbgoffset.h"
 #include "frmabout.h"
 #include "frmadvanced.h"
+#include "frmbgoffset.h"
 #include "frmbrowsersetup.h"
 #include "frmdesign.h"
 #include "frmeditbrowser.h"
 #include "frmmain.h"
+#include "frmmessage.h"
 #include "frmmultilineeditor.h"
 #include "frmsetaction.h"
 #include "languagefiles.h"
@@ -18,6 +19,7 @@
 #include "programfolder.h"
 #include "projectmodel.h"
 #include "qsettingsbackend.h"
+#include "qtuserinterface.h"
 #include "settings.h"
 #include "soundconvwindow.h"
 #include "tempfolder.h"
@@ -25,6 +27,7 @@
 #include "testdoubles.h"
 #include "textcatalogue.h"
 #include "texthelpers.h"
+#include "undohistory.h"
 #include "windowtexts.h"
 
 #include <QAbstractButton>
@@ -158,7 +161,30 @@ protected:
 };
 
 TEST_F(WindowTexts, TheMainEditorShowsOnlyCatalogueTexts) {
-    GTEST_SKIP() << "the main editor takes its texts from the catalogue next";
+    Designer designer(&m_ui);
+    designer.start({});
+    FrmMain& main = designer.mainWindow();
+    main.editor().addButton();
+    main.history().capture();
+    // The texts put together at run time: list entries, the undo command, the caption.
+    auto* list = main.findChild<QListWidget*>(QStringLiteral("lstButtons"));
+    ASSERT_EQ(list->count(), 2);
+    for (int i = 0; i < list->count(); ++i)
+        EXPECT_TRUE(Marked(list->item(i)->text())) << list->item(i)->text().toStdString();
+    const QString undo = main.history().undoAction()->text();
+    EXPECT_TRUE(undo.startsWith(QStringLiteral("«")) && undo.count(QStringLiteral("«")) == 2)
+        << undo.toStdString();
+    ExpectAllFromCatalogue(main);
+}
+
+TEST_F(WindowTexts, TheProgressWindowShowsOnlyCatalogueTexts) {
+    QtUserInterface ui;
+    ui.setProgressDelay(std::chrono::milliseconds(0));
+    Designer designer(&ui);
+    designer.start(QStringLiteral(ORVELIN_SOURCE_DIR "/examples/navbar.orv"));
+    FrmMessage& progress = ui.progressWindow();
+    ASSERT_FALSE(progress.text().isEmpty());
+    ExpectAllFromCatalogue(progress);
 }
 
 TEST_F(WindowTexts, TheDesignHtmlAboutAndSettingsWindowsShowOnlyCatalogueTexts) {
