@@ -57,9 +57,9 @@ Designer::~Designer() {
 
 void Designer::showTexts(const QString& language) {
     applyLayoutDirection(language.toStdString());
-    applyWindowTexts(*m_design);
+    m_design->retranslate();
     if (m_html)
-        applyWindowTexts(*m_html);
+        m_html->retranslate();
 }
 
 void Designer::connectWindows() {

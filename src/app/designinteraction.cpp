@@ -6,6 +6,7 @@
 #include "sizerhandle.h"
 #include "snapguides.h"
 #include "surfaceeditorlink.h"
+#include "windowtexts.h"
 
 #include <QAction>
 #include <QMenu>
@@ -70,9 +71,9 @@ QPointF DesignInteraction::appletPosition(const QMouseEvent* event) const {
 void DesignInteraction::buildMenu() {
     m_mnuMove = std::make_unique<QMenu>();
     m_mnuMove->setObjectName(QStringLiteral("mnuMove"));
-    m_mnuBringToFront = m_mnuMove->addAction(QStringLiteral("bring to front"));
+    m_mnuBringToFront = m_mnuMove->addAction(QString());
     m_mnuBringToFront->setObjectName(QStringLiteral("mnuBringToFront"));
-    m_mnuSendBack = m_mnuMove->addAction(QStringLiteral("send back"));
+    m_mnuSendBack = m_mnuMove->addAction(QString());
     m_mnuSendBack->setObjectName(QStringLiteral("mnuSendBack"));
     connect(m_mnuBringToFront, &QAction::triggered, this,
             &DesignInteraction::mnuBringToFront_Click);
@@ -124,6 +125,8 @@ void DesignInteraction::pButtons_MouseDown(int index, QMouseEvent* event) {
     if (out.openMoveMenu) {
         m_mnuBringToFront->setEnabled(out.enableBringToFront);
         m_mnuSendBack->setEnabled(out.enableSendBack);
+        m_mnuBringToFront->setText(uiText("frmDesign", "#bringToFront"));
+        m_mnuSendBack->setText(uiText("frmDesign", "#sendBack"));
         m_mnuMove->popup(event->globalPosition().toPoint());
     }
 }

@@ -1,9 +1,9 @@
 #include "desktopsetup.h"
 
 #include "desktopdialogs.h"
-#include "textcatalogue.h"
 #include "programfolder.h"
 #include "settings.h"
+#include "textcatalogue.h"
 #include "userinterface.h"
 
 namespace orvelin {

@@ -3,6 +3,7 @@
 #include "accessiblenames.h"
 #include "appletpanel.h"
 #include "buttonlistbinding.h"
+#include "frmabout.h"
 #include "frmadvanced.h"
 #include "frmbgoffset.h"
 #include "frmmultilineeditor.h"
@@ -198,10 +199,8 @@ void FrmMain::setRecentEntry(int slot, const std::string& caption, bool visible)
     m_menus->setRecentEntry(slot, QString::fromStdString(caption), visible);
 }
 
-void FrmMain::setActionTitle(const std::string& /*title*/) {
-    // The title in force for the state's program, not the core's English one.
-    const std::string name = "#action" + std::string(programKindName(m_editor.actionProgramKind()));
-    m_properties->setActionTitle(uiText(kFormName.toStdString(), name));
+void FrmMain::setActionTitle(const std::string& title) {
+    m_properties->setActionTitle(QString::fromStdString(title));
 }
 
 void FrmMain::showState(ButtonState state) {
@@ -213,16 +212,11 @@ void FrmMain::setOnTopChecked(bool checked) {
 }
 
 void FrmMain::showTexts(const std::string& language) {
-    // The main block is read already; the main editor's further texts and the messages
-    // that did not fit in it follow.
-    if (LanguageFiles* languages = windowLanguage())
-        for (TextSection section : {TextSection::MainMore, TextSection::Messages})
-            languages->applyWindowInForce(section);
     applyWindowTexts(*this);
     // The texts put together from the catalogue's parts.
     m_binding->showTexts();
     m_history->showTexts();
-    setActionTitle({});
+    setActionTitle(programKindTitle(m_editor.actionProgramKind()));
     if (m_model.ButtonCount > 0)
         m_editor.ShowProp(m_model.CurrentButton);
     emit textsChanged(QString::fromStdString(language));
@@ -269,12 +263,8 @@ void FrmMain::closeEvent(QCloseEvent* event) {
 }
 
 void FrmMain::showAbout() {
-    QMessageBox::about(
-        this, QStringLiteral("About Orvelin"),
-        QStringLiteral("<h3>%1</h3><p>A designer for bars of web-page buttons: lay out the "
-                       "buttons, give each its three states, and build the applet code that "
-                       "shows them in a page.</p>")
-            .arg(QString::fromStdString(mainTitle()).toHtmlEscaped()));
+    FrmAbout about(this);
+    about.exec();
 }
 
 } // namespace orvelin

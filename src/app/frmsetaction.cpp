@@ -313,7 +313,7 @@ void FrmSetAction::connectControls() {
 }
 
 void FrmSetAction::load(ProgramKind kind, const QString& title) {
-    setWindowTitle(title.isEmpty() ? QString::fromLatin1(programKindTitle(kind)) : title);
+    setWindowTitle(title.isEmpty() ? QString::fromStdString(programKindTitle(kind)) : title);
     m_editor.open(kind);
     const auto targets = static_cast<int>(m_editor.targetButtons(m_selected).size());
     m_lblTargets->setText(Q(texts()[Msg::ProgramForButtons]).arg(targets));

@@ -445,7 +445,7 @@ void Editor::switchState(std::string_view state) {
 void Editor::showCurrentState() {
     const ButtonState state = m_model.CurrentState;
     m_view.showState(state);
-    m_view.setActionTitle(std::string(programKindTitle(buttonProgramKind(state))));
+    m_view.setActionTitle(programKindTitle(buttonProgramKind(state)));
 }
 
 ProgramKind Editor::actionProgramKind() const {
@@ -512,10 +512,13 @@ void Editor::setLanguage(const std::string& language) {
 void Editor::applyLanguage(const std::string& language) {
     if (!m_languages)
         return;
-    // The windows that are always there take their sections at once; the others
+    // The main block, then the sections of the windows that are always there (the main
+    // editor's and the messages beyond the main block included); the other windows
     // read theirs as they are shown.
     if (m_languages->applyMain(language, m_ui))
-        for (TextSection section : {TextSection::Design, TextSection::Html, TextSection::About})
+        for (TextSection section :
+             {TextSection::MainMore, TextSection::Messages, TextSection::Design,
+              TextSection::DesignTools, TextSection::Html, TextSection::About})
             m_languages->applyWindow(section, language);
     const std::string inForce = m_languages->current();
     m_view.setLanguageChecked(inForce);

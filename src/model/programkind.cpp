@@ -1,44 +1,39 @@
 #include "programkind.h"
 
+#include "textcatalogue.h"
+
+#include <string>
+
 namespace orvelin {
 
 namespace {
 
-struct KindTexts {
-    std::string_view name;
-    std::string_view title;
-};
-
 // Indexed by ProgramKind.
-constexpr std::array<KindTexts, 7> kKindTexts = {{
-    {"ProgramUP", "Set Action: On Leaving Button..."},
-    {"ProgramOVER", "Set Action: On Entering Button..."},
-    {"ProgramDOWN", "Set Action: On Button Press..."},
-    {"AppletProgramStart", "On Applet Start"},
-    {"AppletProgramOVER", "On Mouse Moving above the Applet"},
-    {"AppletProgramDOWN", "On Mouse Clicking the Applet"},
-    {"AppletProgramOUT", "On Mouse Exiting the Applet"},
-}};
-
-const KindTexts& texts(ProgramKind kind) {
-    return kKindTexts[static_cast<std::size_t>(kind)];
-}
+constexpr std::array<std::string_view, 7> kKindNames = {
+    "ProgramUP",         "ProgramOVER",       "ProgramDOWN",      "AppletProgramStart",
+    "AppletProgramOVER", "AppletProgramDOWN", "AppletProgramOUT",
+};
 
 } // namespace
 
 std::string_view programKindName(ProgramKind kind) {
-    return texts(kind).name;
+    return kKindNames[static_cast<std::size_t>(kind)];
 }
 
 std::optional<ProgramKind> programKindFromName(std::string_view name) {
-    for (std::size_t i = 0; i < kKindTexts.size(); ++i)
-        if (kKindTexts[i].name == name)
+    for (std::size_t i = 0; i < kKindNames.size(); ++i)
+        if (kKindNames[i] == name)
             return static_cast<ProgramKind>(i);
     return std::nullopt;
 }
 
-std::string_view programKindTitle(ProgramKind kind) {
-    return texts(kind).title;
+const std::string& programKindTitle(ProgramKind kind) {
+    // The button kinds' titles are the main editor's action command; the applet's are
+    // the tool tips of its four program pictures.
+    const std::string name(programKindName(kind));
+    if (isButtonProgramKind(kind))
+        return texts().text("frmMain", "#action" + name);
+    return texts().text("frmMain", "pic" + name + ".toolTip");
 }
 
 bool isButtonProgramKind(ProgramKind kind) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace orvelin {
@@ -28,9 +29,9 @@ inline constexpr std::array<ProgramKind, 4> kAppletProgramKinds = {
 std::string_view programKindName(ProgramKind kind);
 /// The kind called `name`; nothing for an unknown name.
 std::optional<ProgramKind> programKindFromName(std::string_view name);
-/// The action editor's title for `kind`: "Set Action: On Leaving Button...",
-/// "On Mouse Clicking the Applet".
-std::string_view programKindTitle(ProgramKind kind);
+/// The action editor's title for `kind` in the texts in force: "Set Action: On Leaving
+/// Button...", "On Mouse Clicking the Applet".
+const std::string& programKindTitle(ProgramKind kind);
 
 /// True for the three kinds a button holds.
 bool isButtonProgramKind(ProgramKind kind);

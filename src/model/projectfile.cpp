@@ -1,7 +1,7 @@
 #include "projectfile.h"
 
-#include "textcatalogue.h"
 #include "privateprofile.h"
+#include "textcatalogue.h"
 #include "textfile.h"
 #include "texthelpers.h"
 

@@ -481,6 +481,8 @@ constexpr TextEntry kDesignTools[] = {
     {"frmDesign", "#arrangeThree", "%1 (at least three selected buttons)"},
     {"frmDesign", "mnuSnapToButtons.toolTip",
      "Dragged buttons snap to the edges and centres of the others (hold Alt to place freely)"},
+    {"frmDesign", "#bringToFront", "bring to front"}, // a button's right-click menu
+    {"frmDesign", "#sendBack", "send back"},
 };
 
 // The browser dialogs' texts that their sections have no room for.
