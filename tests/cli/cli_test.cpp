@@ -223,3 +223,28 @@ TEST_F(OrvelinCli, RenderPaintsTheAppletAreaWithoutADisplay) {
     EXPECT_EQ(RunCli({"render", path("none.orv"), "-o", path("never.png")}).status, 1);
     EXPECT_FALSE(fs::exists(path("never.png")));
 }
+
+TEST(OrvelinCliLanguage, TheTemplateIsCompleteAndTheCheckNamesWhatIsWrongInAFile) {
+    const CliRun english = RunCli({"language-template"});
+    ASSERT_EQ(english.status, 0) << english.err;
+    const orvelin::testing::TempFolder folder;
+    const std::string path = folder.path("xx_lng");
+    orvelin::testing::WriteBytes(path, english.out);
+    const CliRun complete = RunCli({"language-check", path});
+    EXPECT_EQ(complete.status, 0) << complete.out;
+
+    std::string misspelt = english.out;
+    misspelt.replace(misspelt.find("[frmHTML]"), 9, "[FrmHTML]");
+    orvelin::testing::WriteBytes(path, misspelt);
+    const CliRun wrong = RunCli({"language-check", path});
+    EXPECT_EQ(wrong.status, 1);
+    EXPECT_NE(wrong.out.find("\"[FrmHTML]\" is not recognised"), std::string::npos) << wrong.out;
+    EXPECT_EQ(RunCli({"language-check", folder.path("none")}).status, 1);
+    EXPECT_EQ(RunCli({"language-check"}).status, 2);
+
+    // The languages the program ships give every text, each in its place.
+    for (const char* shipped : {"rus_lng", "heb_lng"}) {
+        const CliRun check = RunCli({"language-check", kBin + "/" + shipped});
+        EXPECT_EQ(check.status, 0) << shipped << '\n' << check.out.substr(check.out.rfind("\n\n"));
+    }
+}

@@ -1,5 +1,6 @@
 #include "editor.h"
 #include "editorfakes.h"
+#include "languagefiles.h"
 #include "projectfile.h"
 #include "tempfolder.h"
 #include "textcatalogue.h"
@@ -94,6 +95,35 @@ TEST_F(EditorFixture, StartupAppliesTheStoredOptions) {
     EXPECT_TRUE(design.onTop && view.onTopChecked && view.autoTileChecked);
     EXPECT_EQ(view.language, "rus");
     EXPECT_EQ(view.recent[1], (std::pair<std::string, bool>{"/x/a.orv", true}));
+}
+
+TEST_F(EditorFixture, TheLanguageCommandsApplyTheFileAtOnceOrFallBackToEnglish) {
+    TextCatalogue texts;
+    LanguageFiles languages(texts, settings, folder.dir().string());
+    editor.setLanguageFiles(&languages);
+    editor.setLanguage("rus");
+    EXPECT_EQ(ui.texts(), Texts{"Language File: " + PathOf("rus_lng") + " not found"});
+    EXPECT_EQ(settings.value(SettingKey::LanguageCurrent) + view.language, "EnglishEnglish");
+
+    // The main block and the sections of the windows that are always there apply at
+    // once; the advanced settings read theirs when they are shown.
+    std::string file;
+    for (int i = 1; i <= 104; ++i)
+        file += "m" + std::to_string(i) + "\r\n";
+    orvelin::testing::WriteBytes(PathOf("heb_lng"),
+                                 file + "[frmDesign]\nd1\n[frmHTML]\nh1\n[frmAbout]\na1\n"
+                                        "[frmAdvanced]\nv1\n");
+    editor.setLanguage("heb");
+    EXPECT_EQ(texts.at(TextSection::Main, 103) + texts.at(TextSection::Design, 0) +
+                  texts.at(TextSection::Html, 0) + texts.at(TextSection::About, 0),
+              "m104d1h1a1");
+    EXPECT_NE(texts.at(TextSection::Advanced, 0), "v1");
+    EXPECT_EQ(settings.value(SettingKey::LanguageCurrent) + view.language, "hebheb");
+
+    ui.shown.clear();
+    editor.setLanguage("English");
+    EXPECT_EQ(ui.texts(), Texts{"Change will take effect the next time the Program is started."});
+    EXPECT_EQ(settings.value(SettingKey::LanguageCurrent), "English");
 }
 
 TEST_F(EditorFixture, AnUnreadableCommandLinePathReportsAndKeepsTheEditorOpen) {
