@@ -5,7 +5,7 @@ set -eu
 
 PACKAGES="build-essential cmake g++ pkg-config
     libgtest-dev libgmock-dev libbenchmark-dev
-    qt6-base-dev qt6-base-dev-tools libgl-dev
+    qt6-base-dev qt6-base-dev-tools libgl-dev qt6-translations-l10n
     xvfb xauth xdotool x11-utils fonts-liberation fonts-dejavu-core imagemagick
     chromium sox libsndfile1-dev libsamplerate0-dev
     desktop-file-utils appstream shared-mime-info xdg-utils libfile-mimeinfo-perl ccache"

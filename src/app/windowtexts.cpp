@@ -8,9 +8,12 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QTabWidget>
+#include <QTranslator>
 #include <QWidget>
 
 namespace orvelin {
@@ -132,6 +135,24 @@ void showWindowTexts(QWidget& window, TextSection section) {
 
 void applyLayoutDirection(const std::string& language) {
     QApplication::setLayoutDirection(isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight);
+    // Qt's own dialogs (files, colours, fonts) speak the language too where Qt's
+    // translations are installed; without them they stay English.
+    static QTranslator* qtTexts = nullptr;
+    if (qtTexts != nullptr) {
+        QCoreApplication::removeTranslator(qtTexts);
+        delete qtTexts;
+        qtTexts = nullptr;
+    }
+    const QString locale = QString::fromStdString(localeOf(language));
+    if (locale.isEmpty())
+        return;
+    auto* translator = new QTranslator(QCoreApplication::instance());
+    if (translator->load(QLocale(locale), QStringLiteral("qtbase"), QStringLiteral("_"),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
+        QCoreApplication::installTranslator(translator))
+        qtTexts = translator;
+    else
+        delete translator;
 }
 
 } // namespace orvelin

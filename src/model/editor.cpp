@@ -77,7 +77,8 @@ std::optional<std::vector<ButtonRecord>> buttonsFromClipboardText(std::string_vi
 
 std::string projectSavePath(std::string_view chosen, std::string_view chosenFilter) {
     const std::string_view projectFilter =
-        std::string_view(kProjectFilter).substr(0, std::string_view(kProjectFilter).find(";;"));
+        std::string_view(texts()[Msg::ProjectFilter])
+            .substr(0, std::string_view(texts()[Msg::ProjectFilter]).find(";;"));
     const std::string name = bareFileName(chosen);
     if (chosenFilter != projectFilter || name.empty() || name.find('.', 1) != std::string::npos)
         return std::string(chosen);
@@ -195,7 +196,7 @@ void Editor::newProject() {
 void Editor::open() {
     if (AskToSave() == SaveAnswer::Cancel)
         return;
-    const std::optional<std::string> path = m_ui.chooseOpenFile(kProjectFilter);
+    const std::optional<std::string> path = m_ui.chooseOpenFile(texts()[Msg::ProjectFilter]);
     if (path)
         loadFile(*path);
     applyKeepOnTop();
@@ -224,7 +225,7 @@ bool Editor::saveAs() {
         m_model.ProjectFileName.empty() ? kProposedProjectName : m_model.ProjectFileName;
     std::string filter;
     const std::optional<std::string> chosen =
-        m_ui.chooseSaveFileAndFilter(kProjectFilter, proposed, filter);
+        m_ui.chooseSaveFileAndFilter(texts()[Msg::ProjectFilter], proposed, filter);
     applyKeepOnTop();
     if (!chosen || chosen->empty())
         return false;
@@ -250,7 +251,7 @@ bool Editor::saveAs() {
 void Editor::importLegacy() {
     if (AskToSave() == SaveAnswer::Cancel)
         return;
-    const std::optional<std::string> path = m_ui.chooseOpenFile(kLegacyProjectFilter);
+    const std::optional<std::string> path = m_ui.chooseOpenFile(texts()[Msg::LegacyProjectFilter]);
     applyKeepOnTop();
     if (!path)
         return;

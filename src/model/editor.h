@@ -30,8 +30,6 @@ enum class StartupResult { Ready, Quit };
 /// How far right and down a duplicated button stands from its original, in pixels.
 inline constexpr int kDuplicateOffset = 10;
 
-inline constexpr const char* kProjectFilter = "Orvelin Files (*.orv);;All Files (*)";
-inline constexpr const char* kLegacyProjectFilter = "Legacy Projects (*.ini);;All Files (*)";
 inline constexpr const char* kProposedProjectName = "untitled.orv";
 
 /**

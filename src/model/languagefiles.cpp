@@ -75,6 +75,14 @@ bool isRightToLeft(std::string_view code) {
     return code == "heb";
 }
 
+std::string localeOf(std::string_view code) {
+    if (code == "rus")
+        return "ru";
+    if (code == "heb")
+        return "he";
+    return {};
+}
+
 std::optional<std::vector<std::string>> readLanguageLines(const std::string& path) {
     const std::optional<std::string> text = readTextFile(path);
     if (!text)

@@ -20,6 +20,9 @@ std::string languageFilePath(const std::string& programFolder, std::string_view 
 
 /// Whether windows in this language are laid out right to left (Hebrew).
 bool isRightToLeft(std::string_view code);
+/// The two-letter locale of a language code, for the toolkit's own texts: "ru" for "rus", "he" for
+/// "heb"; empty for English and codes it does not know.
+std::string localeOf(std::string_view code);
 
 /**
  * The lines of a language file, without their line ends, a line break inside a text

@@ -134,6 +134,15 @@ constexpr MessageInfo kMessages[] = {
     {"FieldAppletProgram", "Applet Program"},
     {"FieldBackgroundOffset", "Background Offset"},
     {"FieldAppletName", "Applet Name"},
+    // Qt reads the patterns between the last parentheses, separated by blanks, and
+    // matches them without regard to case; "*" (not "*.*") is every file on a system
+    // where names need no extension. PNG is offered beside the two formats the applet
+    // names, since the designer reads it too.
+    {"ProjectFilter", "Orvelin Files (*.orv);;All Files (*)"},
+    {"LegacyProjectFilter", "Legacy Projects (*.ini);;All Files (*)"},
+    {"ImageFilter", "GIF , JPG (*.gif *.jpg *.jpeg *.png);;All Files (*)"},
+    {"SoundFilter", "Sun's Audio (*.au);;All Files (*)"},
+    {"PageFileFilter", "HTML (*.htm;*.html);;All Files (*.*)"},
 };
 static_assert(std::size(kMessages) == static_cast<std::size_t>(Msg::Count));
 

@@ -135,6 +135,12 @@ enum class Msg : std::size_t {
     FieldAppletProgram,
     FieldBackgroundOffset,
     FieldAppletName,
+    // File choosers' filters, in Qt's form.
+    ProjectFilter,
+    LegacyProjectFilter,
+    ImageFilter,
+    SoundFilter,
+    PageFileFilter,
     Count
 };
 

@@ -170,14 +170,14 @@ void PropertyEditor::setHidden(bool on) {
 }
 
 void PropertyEditor::browseImage() {
-    if (std::optional<std::string> path = m_ui.chooseOpenFile(kImageFilter)) {
+    if (std::optional<std::string> path = m_ui.chooseOpenFile(texts()[Msg::ImageFilter])) {
         setImage(*path);
         ShowProp(m_model.CurrentButton);
     }
 }
 
 void PropertyEditor::browseSound() {
-    if (std::optional<std::string> path = m_ui.chooseOpenFile(kSoundFilter)) {
+    if (std::optional<std::string> path = m_ui.chooseOpenFile(texts()[Msg::SoundFilter])) {
         setSound(*path);
         ShowProp(m_model.CurrentButton);
     }
@@ -263,7 +263,7 @@ void PropertyEditor::setChosenBackImg(const std::string& path,
 }
 
 void PropertyEditor::browseBackImg() {
-    if (std::optional<std::string> path = m_ui.chooseOpenFile(kImageFilter))
+    if (std::optional<std::string> path = m_ui.chooseOpenFile(texts()[Msg::ImageFilter]))
         setChosenBackImg(*path, m_view.imageSizeOf(*path));
 }
 

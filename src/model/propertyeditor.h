@@ -13,13 +13,6 @@
 
 namespace orvelin {
 
-/// File chooser filters for images and sounds, in Qt's form: Qt reads the patterns
-/// between the last parentheses, separated by blanks, and matches them without regard
-/// to case; "*" (not "*.*") is every file on a system where names need no extension.
-/// PNG is offered beside the two formats the applet names, since the designer reads it too.
-inline constexpr const char* kImageFilter = "GIF , JPG (*.gif *.jpg *.jpeg *.png);;All Files (*)";
-inline constexpr const char* kSoundFilter = "Sun's Audio (*.au);;All Files (*)";
-
 /// The largest font size a label is drawn with.
 inline constexpr int kMaxFontSize = 2048;
 /// Whether `text` is a font size that labels can be drawn with: a whole number from 1

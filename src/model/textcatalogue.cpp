@@ -356,6 +356,11 @@ constexpr TextEntry kMessages[] = {
     message(Msg::FieldAppletProgram),
     message(Msg::FieldBackgroundOffset),
     message(Msg::FieldAppletName),
+    message(Msg::ProjectFilter),
+    message(Msg::LegacyProjectFilter),
+    message(Msg::ImageFilter),
+    message(Msg::SoundFilter),
+    message(Msg::PageFileFilter),
 };
 
 constexpr TextEntry kDesign[] = {

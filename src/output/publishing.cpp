@@ -1,8 +1,8 @@
 #include "publishing.h"
 
 #include "htmlgenerator.h"
-#include "textcatalogue.h"
 #include "programfolder.h"
+#include "textcatalogue.h"
 #include "textfile.h"
 #include "texthelpers.h"
 
@@ -273,8 +273,8 @@ bool buildPage(const ProjectModel& model, const PageSource& page, const std::str
 
 bool buildApplet(const ProjectModel& model, const PageSource& page, UserInterface& ui,
                  const std::string& programFolder) {
-    const std::optional<std::string> target =
-        ui.chooseSaveFile(kPageFileFilter, defaultAppletName(model.ProjectFileName) + ".html");
+    const std::optional<std::string> target = ui.chooseSaveFile(
+        texts()[Msg::PageFileFilter], defaultAppletName(model.ProjectFileName) + ".html");
     return target && buildPage(model, page, *target, ui, programFolder);
 }
 

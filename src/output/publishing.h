@@ -104,9 +104,6 @@ bool previewPage(const ProjectModel& model, const PageSource& page, const std::s
 bool buildPage(const ProjectModel& model, const PageSource& page, const std::string& target,
                UserInterface& ui, const std::string& programFolder);
 
-/// The file filter of the build's save dialog.
-inline constexpr const char* kPageFileFilter = "HTML (*.htm;*.html);;All Files (*.*)";
-
 /**
  * Build Applet with the save dialog: the proposed name is the default applet name
  * followed by ".html"; cancelling writes nothing. Returns true when a build ran and

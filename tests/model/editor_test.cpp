@@ -300,7 +300,7 @@ TEST_F(EditorFixture, OpenLoadsTheChosenFileAndShowsButton1AloneUnlessCancelled)
     EXPECT_EQ(model.ButtonCount, 1) << "a closed dialog changes nothing";
     editor.open();
     EXPECT_EQ(ui.shown.back().kind, "open");
-    EXPECT_EQ(ui.shown.back().text, kProjectFilter);
+    EXPECT_EQ(ui.shown.back().text, texts()[Msg::ProjectFilter]);
     EXPECT_EQ(Shown(), "4 buttons, current 1, list 4 selecting 1, saved");
     EXPECT_EQ(model.button(4).LabelUP, "open4");
     EXPECT_EQ(view.props.back(), 1);
@@ -395,7 +395,7 @@ TEST_F(EditorFixture, ImportingALegacyProjectLeavesItUnnamedAndUnsaved) {
     Start();
     ui.chosenFiles = {std::string(ORVELIN_TEST_DATA) + "/legacy_project.ini"};
     editor.importLegacy();
-    EXPECT_EQ(ui.shown[0].text, kLegacyProjectFilter);
+    EXPECT_EQ(ui.shown[0].text, texts()[Msg::LegacyProjectFilter]);
     EXPECT_EQ(Shown(), "2 buttons, current 1, list 2 selecting 1, changed");
     EXPECT_EQ(model.AppletWidth, 400);
     EXPECT_EQ(model.ProjectFileName, "");

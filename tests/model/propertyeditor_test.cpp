@@ -2,6 +2,7 @@
 #include "editorfakes.h"
 #include "projectfile.h"
 #include "propertyeditor.h"
+#include "textcatalogue.h"
 
 #include <gtest/gtest.h>
 #include <string_view>
@@ -107,7 +108,7 @@ TEST_F(PropertyFixture, AChosenBackgroundImageIsTiledOnlyWhenSmallerAndTilingIsO
     props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/small.gif");
     EXPECT_EQ(model.BackImgStyle, 1);
-    EXPECT_EQ(ui.shown[0].text, kImageFilter);
+    EXPECT_EQ(ui.shown[0].text, texts()[Msg::ImageFilter]);
     props.browseBackImg();
     EXPECT_EQ(model.BackImg, "/big.jpg");
     EXPECT_EQ(model.BackImgStyle, 0);
@@ -132,11 +133,12 @@ TEST_F(PropertyFixture, ChosenImagesAndSoundsGoIntoTheEditedStateAndShow) {
     EXPECT_EQ(model.button(1).ImageOVER, "/i/over.gif");
     EXPECT_EQ(model.button(2).SndOVER, "/s/over.au");
     EXPECT_EQ(model.button(2).ImageUP, "");
-    EXPECT_EQ(ui.shown[1].text, kSoundFilter);
+    EXPECT_EQ(ui.shown[1].text, texts()[Msg::SoundFilter]);
     EXPECT_EQ(view.props.size(), 2u);
 }
 
 TEST(FileFilters, EachEndsWithAllFilesInTheFormQtReadsAsEveryNameAlsoWithoutADot) {
-    for (const char* filter : {kProjectFilter, kLegacyProjectFilter, kImageFilter, kSoundFilter})
-        EXPECT_TRUE(std::string_view(filter).ends_with(";;All Files (*)")) << filter;
+    for (Msg filter :
+         {Msg::ProjectFilter, Msg::LegacyProjectFilter, Msg::ImageFilter, Msg::SoundFilter})
+        EXPECT_TRUE(texts()[filter].ends_with(";;All Files (*)")) << texts()[filter];
 }
