@@ -1,20 +1,14 @@
-#include "editor.h"
-#include "editorfakes.h"
-#include "fakeui.h"
 #include "languagefiles.h"
-#include "settings.h"
 #include "tempfolder.h"
-#include "testdoubles.h"
 #include "textcatalogue.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
 
 namespace orvelin {
 namespace {
 
-using testing::FakeUserInterface;
-using testing::MemorySettingsBackend;
 using testing::TempFolder;
 using testing::WriteBytes;
 
@@ -130,36 +124,6 @@ TEST(LanguageFiles, TheCheckNamesWhatTheProgramWouldReadWrongly) {
     EXPECT_TRUE(std::any_of(swallowed.problems.begin(), swallowed.problems.end(), [](auto& p) {
         return p.starts_with("line 4: the header \"[frmSetAction]\" is read as text 3");
     }));
-}
-
-TEST(LanguageFiles, TheLanguageCommandsReadTheFileOrSayItIsMissing) {
-    TempFolder folder;
-    MemorySettingsBackend backend;
-    Settings settings(backend);
-    FakeUserInterface ui;
-    TextCatalogue texts;
-    LanguageFiles languages(texts, settings, folder.dir().string());
-
-    EXPECT_FALSE(languages.applyMain("rus", ui));
-    ASSERT_EQ(ui.shown.size(), 1u);
-    EXPECT_EQ(ui.shown[0].text,
-              "Language File: " + (folder.dir() / "rus_lng").string() + " not found");
-    EXPECT_EQ(languages.current(), "English");
-    EXPECT_FALSE(languages.applyWindow(TextSection::Html, "rus"));
-
-    std::vector<std::string> lines = Lines({}, 104, "m");
-    lines.push_back("[frmHTML]");
-    lines.push_back("h1");
-    std::string file;
-    for (const std::string& line : lines)
-        file += line + "\n";
-    WriteBytes(folder.dir() / "heb_lng", file);
-    EXPECT_TRUE(languages.applyMain("heb", ui));
-    EXPECT_EQ(languages.current(), "heb");
-    EXPECT_EQ(texts.at(TextSection::Main, 103), "m104");
-    EXPECT_EQ(Changed(texts, TextSection::Html), 0u);
-    languages.applyWindowInForce(TextSection::Html);
-    EXPECT_EQ(texts.at(TextSection::Html, 0), "h1");
 }
 
 } // namespace
