@@ -134,7 +134,7 @@ bool ButtonPainter::DrawLabel(QPainter& painter, int index) {
     } catch (const std::exception& error) {
         if (m_ui) {
             const std::string description = dynamic_cast<const std::out_of_range*>(&error)
-                                                ? std::string("Subscript out of range")
+                                                ? texts()[Msg::CauseSubscriptOutOfRange]
                                                 : std::string(error.what());
             const TextCatalogue& msg = texts();
             m_ui->showWarning(msg[Msg::SomethingWrong] + std::string(kCrLf) +

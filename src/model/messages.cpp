@@ -143,6 +143,16 @@ constexpr MessageInfo kMessages[] = {
     {"ImageFilter", "GIF , JPG (*.gif *.jpg *.jpeg *.png);;All Files (*)"},
     {"SoundFilter", "Sun's Audio (*.au);;All Files (*)"},
     {"PageFileFilter", "HTML (*.htm;*.html);;All Files (*.*)"},
+    {"CauseFileNotFound", "File not found"},
+    {"CausePathNotFound", "Path not found"},
+    {"CausePermissionDenied", "Permission denied"},
+    {"CauseDiskFull", "Disk full"},
+    {"CauseFileAccess", "Path/File access error"},
+    {"CauseBadFileName", "Bad file name or number"},
+    {"CauseTypeMismatch", "Type mismatch"},
+    {"CauseOverflow", "Overflow"},
+    {"CauseInputPastEnd", "Input past end of file"},
+    {"CauseSubscriptOutOfRange", "Subscript out of range"},
 };
 static_assert(std::size(kMessages) == static_cast<std::size_t>(Msg::Count));
 

@@ -141,6 +141,18 @@ enum class Msg : std::size_t {
     ImageFilter,
     SoundFilter,
     PageFileFilter,
+    // The causes an error message names on its second line, as the program has always
+    // named them.
+    CauseFileNotFound,
+    CausePathNotFound,
+    CausePermissionDenied,
+    CauseDiskFull,
+    CauseFileAccess,
+    CauseBadFileName,
+    CauseTypeMismatch,
+    CauseOverflow,
+    CauseInputPastEnd,
+    CauseSubscriptOutOfRange,
     Count
 };
 

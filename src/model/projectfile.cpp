@@ -71,13 +71,13 @@ void showButtonProgress(ProgressView* progress, std::string& text, Msg what, int
 }
 
 std::optional<LoadError> inputPastEnd(int button) {
-    return LoadError{button, "Input past end of file"};
+    return LoadError{button, texts()[Msg::CauseInputPastEnd]};
 }
 
 std::optional<LoadError> checkButtonCount(int count) {
     // Slots run from 0 to 102; a count beyond them (or below zero) has no buttons to fill.
     if (count < 0 || count > kLastButtonSlot)
-        return LoadError{0, "Subscript out of range"};
+        return LoadError{0, texts()[Msg::CauseSubscriptOutOfRange]};
     return std::nullopt;
 }
 

@@ -361,6 +361,16 @@ constexpr TextEntry kMessages[] = {
     message(Msg::ImageFilter),
     message(Msg::SoundFilter),
     message(Msg::PageFileFilter),
+    message(Msg::CauseFileNotFound),
+    message(Msg::CausePathNotFound),
+    message(Msg::CausePermissionDenied),
+    message(Msg::CauseDiskFull),
+    message(Msg::CauseFileAccess),
+    message(Msg::CauseBadFileName),
+    message(Msg::CauseTypeMismatch),
+    message(Msg::CauseOverflow),
+    message(Msg::CauseInputPastEnd),
+    message(Msg::CauseSubscriptOutOfRange),
 };
 
 constexpr TextEntry kDesign[] = {

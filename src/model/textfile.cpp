@@ -1,5 +1,7 @@
 #include "textfile.h"
 
+#include "textcatalogue.h"
+
 #include <array>
 #include <cerrno>
 #include <cstdint>
@@ -112,16 +114,16 @@ std::string errnoText(int code) {
     switch (code) {
     case ENOENT:
     case ENOTDIR:
-        return "Path not found";
+        return texts()[Msg::CausePathNotFound];
     case EACCES:
     case EPERM:
     case EROFS:
-        return "Permission denied";
+        return texts()[Msg::CausePermissionDenied];
     case ENOSPC:
     case EDQUOT:
-        return "Disk full";
+        return texts()[Msg::CauseDiskFull];
     default:
-        return "Path/File access error";
+        return texts()[Msg::CauseFileAccess];
     }
 }
 
@@ -255,17 +257,17 @@ std::optional<std::string> readTextFile(const std::string& path, TextFileError* 
     std::error_code ec;
     const fs::file_status status = fs::status(path, ec);
     if (path.empty() || !fs::exists(status)) {
-        report(error, "File not found");
+        report(error, texts()[Msg::CauseFileNotFound]);
         return std::nullopt;
     }
     // A folder, a pipe or a device is no text file (and a pipe could block forever).
     if (!fs::is_regular_file(status)) {
-        report(error, "Path/File access error");
+        report(error, texts()[Msg::CauseFileAccess]);
         return std::nullopt;
     }
     const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
-        report(error, "Permission denied");
+        report(error, texts()[Msg::CausePermissionDenied]);
         return std::nullopt;
     }
     std::string bytes;
@@ -307,7 +309,7 @@ std::vector<std::string_view> splitLines(std::string_view text, bool* lastTermin
 
 bool writeFileAtomically(const std::string& path, std::string_view bytes, TextFileError* error) {
     if (path.empty()) {
-        report(error, "Bad file name or number", ENOENT);
+        report(error, texts()[Msg::CauseBadFileName], ENOENT);
         return false;
     }
     std::error_code ec;
@@ -321,23 +323,23 @@ bool writeFileAtomically(const std::string& path, std::string_view bytes, TextFi
     const fs::file_status existing = fs::status(target, ec);
     const bool exists = fs::exists(existing);
     if (exists && !fs::is_regular_file(existing)) {
-        report(error, "Path/File access error", fs::is_directory(existing) ? EISDIR : EINVAL);
+        report(error, texts()[Msg::CauseFileAccess], fs::is_directory(existing) ? EISDIR : EINVAL);
         return false;
     }
     // The mode bits decide, not access(): a privileged user would be allowed to
     // overwrite a file its owner marked read-only, and the user asked for it not to be.
     if (exists && !hasWriteBit(existing.permissions())) {
-        report(error, "Permission denied", EACCES);
+        report(error, texts()[Msg::CausePermissionDenied], EACCES);
         return false;
     }
     const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
     const fs::file_status folderStatus = fs::status(folder, ec);
     if (!fs::is_directory(folderStatus)) {
-        report(error, "Path not found", fs::exists(folderStatus) ? ENOTDIR : ENOENT);
+        report(error, texts()[Msg::CausePathNotFound], fs::exists(folderStatus) ? ENOTDIR : ENOENT);
         return false;
     }
     if (!hasWriteBit(folderStatus.permissions())) {
-        report(error, "Permission denied", EACCES);
+        report(error, texts()[Msg::CausePermissionDenied], EACCES);
         return false;
     }
 

@@ -1,5 +1,7 @@
 #include "texthelpers.h"
 
+#include "textcatalogue.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -331,9 +333,9 @@ std::string numberErrorText(NumberError error) {
     case NumberError::None:
         return {};
     case NumberError::TypeMismatch:
-        return "Type mismatch";
+        return texts()[Msg::CauseTypeMismatch];
     case NumberError::Overflow:
-        return "Overflow";
+        return texts()[Msg::CauseOverflow];
     }
     return {};
 }
