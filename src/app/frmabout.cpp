@@ -73,7 +73,11 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
     layout->addLayout(buttons);
 
     showWindowTexts(*this, TextSection::About);
-    version->setText(uiText("frmAbout", "#version").arg(QString::fromLatin1(kVersionText)));
+    // The version reads left to right inside any sentence: "1.0  Beta 6", never
+    // "Beta 6  1.0" in a right-to-left one.
+    const QString isolated =
+        QChar(0x2066) + QString::fromLatin1(kVersionText) + QChar(0x2069); // LRI ... PDI
+    version->setText(uiText("frmAbout", "#version").arg(isolated));
     const QString address = QString::fromLatin1(kMakerWebAddress);
     QString shown = address;
     shown.remove(QRegularExpression(QStringLiteral("^https?://")));
