@@ -40,7 +40,7 @@ FrmAskToAssociate::FrmAskToAssociate(QWidget* parent) : QDialog(parent) {
     m_dontAsk = new QCheckBox(this);
     m_dontAsk->setObjectName(QStringLiteral("chkDontAsk"));
     layout->insertWidget(1, m_dontAsk);
-    showWindowTexts(*this, TextSection::AskToAssociate);
+    showWindowTexts(*this, {TextSection::AskToAssociate});
 }
 
 bool FrmAskToAssociate::dontAskAgain() const {
@@ -50,7 +50,7 @@ bool FrmAskToAssociate::dontAskAgain() const {
 FrmShortCut::FrmShortCut(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmShortCut"));
     buildQuestion(*this);
-    showWindowTexts(*this, TextSection::ShortCut);
+    showWindowTexts(*this, {TextSection::ShortCut});
 }
 
 } // namespace orvelin

@@ -72,7 +72,7 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
     layout->addLayout(body, 1);
     layout->addLayout(buttons);
 
-    showWindowTexts(*this, TextSection::About);
+    showWindowTexts(*this, {TextSection::About});
     // The version reads left to right inside any sentence: "1.0  Beta 6", never
     // "Beta 6  1.0" in a right-to-left one.
     const QString isolated =

@@ -79,7 +79,7 @@ void FrmAdvanced::showOptions() {
 }
 
 void FrmAdvanced::showTexts() {
-    showWindowTexts(*this, TextSection::Advanced);
+    showWindowTexts(*this, {TextSection::Advanced});
     m_txtGridSize->setSpecialValueText(uiText("frmAdvanced", "#gridOff"));
     m_txtGridSize->setSuffix(uiText("frmAdvanced", "#gridUnit"));
 }

@@ -33,7 +33,7 @@ FrmBgOffset::FrmBgOffset(ProjectModel& model, QWidget* parent)
     : QDialog(parent), m_model(model), m_oldX(model.BgOffsetX), m_oldY(model.BgOffsetY) {
     setObjectName(QStringLiteral("frmBgOffset"));
     // The section first: the boxes' unit is one of its texts.
-    showWindowTexts(*this, TextSection::BackgroundOffset);
+    showWindowTexts(*this, {TextSection::BackgroundOffset});
 
     m_x = offsetBox(QStringLiteral("txtOffsetX"), m_oldX, this);
     m_y = offsetBox(QStringLiteral("txtOffsetY"), m_oldY, this);

@@ -75,8 +75,7 @@ FrmBrowserSetup::FrmBrowserSetup(std::vector<BrowserEntry> browsers, BrowserSear
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showList(0);
-    showWindowTexts(*this, TextSection::BrowserSetup);
-    showWindowTexts(*this, TextSection::BrowsersMore);
+    showWindowTexts(*this, {TextSection::BrowserSetup, TextSection::BrowsersMore});
     nameControls(*this);
 }
 

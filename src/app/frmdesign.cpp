@@ -6,7 +6,6 @@
 #include "buttonpainter.h"
 #include "buttonpicture.h"
 #include "labelpositioner.h"
-#include "languagefiles.h"
 #include "manipulation.h"
 #include "sizerhandle.h"
 #include "windowtexts.h"
@@ -113,9 +112,7 @@ FrmDesign::FrmDesign(ProjectModel& model, ButtonList& list, UserInterface* ui, Q
     buildWindow();
     appletChanged();
     // The window's texts come from two sections: the buttons here, the tools in the other.
-    if (LanguageFiles* languages = windowLanguage())
-        languages->applyWindowInForce(TextSection::DesignTools);
-    showWindowTexts(*this, TextSection::Design);
+    showWindowTexts(*this, {TextSection::Design, TextSection::DesignTools});
     showComposedTexts();
     nameControls(*this);
     // Every change of the document reaches the surface here, whoever made it.

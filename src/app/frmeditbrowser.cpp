@@ -57,8 +57,7 @@ FrmEditBrowser::FrmEditBrowser(const BrowserEntry& entry, QWidget* parent) : QDi
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     updateOk();
-    showWindowTexts(*this, TextSection::EditBrowser);
-    showWindowTexts(*this, TextSection::BrowsersMore);
+    showWindowTexts(*this, {TextSection::EditBrowser, TextSection::BrowsersMore});
     nameControls(*this);
 }
 

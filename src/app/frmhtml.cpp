@@ -93,7 +93,7 @@ FrmHTML::FrmHTML(ProjectModel& model, UserInterface& ui, Settings& settings, She
     connect(copy, &QPushButton::clicked, this, [this] { btnCopyToClb_Click(); });
     connect(save, &QPushButton::clicked, this, [this] { btnSave_Click(); });
     connect(close, &QPushButton::clicked, this, &QWidget::close);
-    showWindowTexts(*this, TextSection::Html);
+    showWindowTexts(*this, {TextSection::Html});
     nameControls(*this);
 }
 

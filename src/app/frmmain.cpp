@@ -9,7 +9,6 @@
 #include "frmmultilineeditor.h"
 #include "frmsetaction.h"
 #include "imagefile.h"
-#include "languagefiles.h"
 #include "mainmenus.h"
 #include "propertypanel.h"
 #include "textcatalogue.h"
@@ -86,7 +85,7 @@ FrmMain::FrmMain(ProjectModel& model, ButtonList& list, UserInterface& ui, Setti
                     setWindowModified(!m_model.Saved);
             });
     // The captions are in place before the screen-reader names pair them with their fields.
-    showWindowTexts(*this, TextSection::MainMore);
+    showWindowTexts(*this, {TextSection::MainMore});
     nameControls(*this);
 }
 

@@ -54,7 +54,7 @@ FrmMultiLineEditor::FrmMultiLineEditor(QLineEdit* txtLabel, QWidget* parent)
 
     connect(m_txtEditor, &QPlainTextEdit::textChanged, this, &FrmMultiLineEditor::txtEditor_Change);
     connect(m_btnClose, &QPushButton::clicked, this, &QDialog::accept);
-    showWindowTexts(*this, TextSection::LabelEditor);
+    showWindowTexts(*this, {TextSection::LabelEditor});
     nameControls(*this);
 }
 

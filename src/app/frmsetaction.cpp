@@ -1,7 +1,6 @@
 #include "frmsetaction.h"
 
 #include "accessiblenames.h"
-#include "languagefiles.h"
 #include "paintsupport.h"
 #include "projectmodel.h"
 #include "textcatalogue.h"
@@ -87,9 +86,7 @@ FrmSetAction::FrmSetAction(ProjectModel& model, UserInterface& ui, ProgramBuffer
     connectControls();
     // The texts of the language in force, before load() fills the lists from them; the
     // captions beyond the section's 22 lines have a section of their own.
-    if (LanguageFiles* languages = windowLanguage())
-        languages->applyWindowInForce(TextSection::SetActionMore);
-    showWindowTexts(*this, TextSection::SetAction);
+    showWindowTexts(*this, {TextSection::SetAction, TextSection::SetActionMore});
     nameControls(*this);
 }
 

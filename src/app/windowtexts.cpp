@@ -127,9 +127,9 @@ LanguageInForce::~LanguageInForce() {
     useTexts(nullptr);
 }
 
-void showWindowTexts(QWidget& window, TextSection section) {
+void showWindowTexts(QWidget& window, std::initializer_list<TextSection> sections) {
     if (g_languages)
-        g_languages->applyWindowInForce(section);
+        g_languages->applyWindowInForce(sections);
     applyWindowTexts(window);
 }
 

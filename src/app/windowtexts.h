@@ -40,10 +40,10 @@ public:
 };
 
 /**
- * What each window does as it is shown: reads its section of the language in force
+ * What each window does as it is shown: reads its sections of the language in force
  * (nothing for English) and applies its texts.
  */
-void showWindowTexts(QWidget& window, TextSection section);
+void showWindowTexts(QWidget& window, std::initializer_list<TextSection> sections);
 
 /// Lays the program's windows out right to left for Hebrew, left to right otherwise.
 void applyLayoutDirection(const std::string& language);

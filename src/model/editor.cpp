@@ -516,11 +516,9 @@ void Editor::applyLanguage(const std::string& language) {
     // The main block, then the sections of the windows that are always there (the main
     // editor's and the messages beyond the main block included); the other windows
     // read theirs as they are shown.
-    if (m_languages->applyMain(language, m_ui))
-        for (TextSection section :
-             {TextSection::MainMore, TextSection::Messages, TextSection::Design,
-              TextSection::DesignTools, TextSection::Html, TextSection::About})
-            m_languages->applyWindow(section, language);
+    m_languages->applyMain(language, m_ui,
+                           {TextSection::MainMore, TextSection::Messages, TextSection::Design,
+                            TextSection::DesignTools, TextSection::Html, TextSection::About});
     const std::string inForce = m_languages->current();
     m_view.setLanguageChecked(inForce);
     m_view.showTexts(inForce);

@@ -39,7 +39,7 @@ void forSectionLines(const std::vector<std::string>& lines, std::string_view hea
 }
 
 std::string written(std::string_view text) {
-    return ReplaceAll(std::string(text), std::string(kLineBreak), std::string(kWrittenBreak));
+    return ReplaceAll(text, kLineBreak, kWrittenBreak);
 }
 
 bool isKnownHeader(std::string_view line) {
@@ -49,11 +49,10 @@ bool isKnownHeader(std::string_view line) {
     return false;
 }
 
-std::string lowered(std::string_view text) {
-    std::string out;
-    for (char c : text)
-        if (c != ' ' && c != '\t')
-            out += (c >= 'A' && c <= 'Z') ? char(c - 'A' + 'a') : c;
+// A header as a translator may have mistyped it: in any case, with blanks in it.
+std::string looseHeader(std::string_view text) {
+    std::string out = toLowerAscii(text);
+    std::erase_if(out, [](char c) { return c == ' ' || c == '\t'; });
     return out;
 }
 
@@ -89,8 +88,7 @@ std::optional<std::vector<std::string>> readLanguageLines(const std::string& pat
         return std::nullopt;
     std::vector<std::string> lines;
     for (std::string_view line : splitLines(*text))
-        lines.push_back(
-            ReplaceAll(toUtf8(line), std::string(kWrittenBreak), std::string(kLineBreak)));
+        lines.push_back(ReplaceAll(toUtf8(line), kWrittenBreak, kLineBreak));
     return lines;
 }
 
@@ -119,7 +117,8 @@ std::optional<std::vector<std::string>> LanguageFiles::read(const std::string& c
     return readLanguageLines(languageFilePath(m_programFolder, code));
 }
 
-bool LanguageFiles::applyMain(const std::string& code, UserInterface& ui) {
+bool LanguageFiles::applyMain(const std::string& code, UserInterface& ui,
+                              std::initializer_list<TextSection> sections) {
     const auto lines = read(code);
     if (!lines) {
         const TextCatalogue& msg = m_texts;
@@ -129,23 +128,27 @@ bool LanguageFiles::applyMain(const std::string& code, UserInterface& ui) {
         return false;
     }
     applyMainBlock(m_texts, *lines);
+    for (TextSection section : sections)
+        applySection(m_texts, section, *lines);
     m_settings.setValue(SettingKey::LanguageCurrent, code);
     return true;
 }
 
-bool LanguageFiles::applyWindow(TextSection section, const std::string& code) {
+bool LanguageFiles::applyWindow(std::initializer_list<TextSection> sections,
+                                const std::string& code) {
     const auto lines = read(code);
     if (!lines)
         return false;
-    applySection(m_texts, section, *lines);
+    for (TextSection section : sections)
+        applySection(m_texts, section, *lines);
     m_settings.setValue(SettingKey::LanguageCurrent, code);
     return true;
 }
 
-void LanguageFiles::applyWindowInForce(TextSection section) {
+void LanguageFiles::applyWindowInForce(std::initializer_list<TextSection> sections) {
     const std::string code = current();
     if (code != kEnglish)
-        applyWindow(section, code);
+        applyWindow(sections, code);
 }
 
 std::string LanguageFiles::current() const {
@@ -189,7 +192,7 @@ LanguageReport checkLanguageFile(const std::vector<std::string>& lines) {
             if (headers.empty()) {
                 bool misspelt = false;
                 for (std::size_t i = 0; i < lines.size(); ++i)
-                    if (lowered(lines[i]) == lowered(info.header)) {
+                    if (looseHeader(lines[i]) == looseHeader(info.header)) {
                         problem(lineNumber(i) + ": " + quoted(lines[i]) +
                                 " is not recognised; the header is written " + quoted(info.header) +
                                 " exactly");

@@ -2,6 +2,7 @@
 
 #include "textcatalogue.h"
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -42,21 +43,23 @@ void applyMainBlock(TextCatalogue& texts, const std::vector<std::string>& lines)
 void applySection(TextCatalogue& texts, TextSection section, const std::vector<std::string>& lines);
 
 /**
- * The language operations of the designer: each reads the whole file by itself, as
- * the windows that call them are shown, and stores the language as `Current` after a
+ * The language operations of the designer: each reads the whole file once, as the
+ * windows that call them are shown, and stores the language as `Current` after a
  * successful read.
  */
 class LanguageFiles {
 public:
     LanguageFiles(TextCatalogue& texts, Settings& settings, std::string programFolder);
 
-    /// The main block of `code`. A file that cannot be read shows "Language File: <path>
-    /// not found" and stores "English"; false then, and the texts stay as they are.
-    bool applyMain(const std::string& code, UserInterface& ui);
-    /// The section of one window; false, and nothing changes, without a readable file.
-    bool applyWindow(TextSection section, const std::string& code);
+    /// The main block of `code`, then `sections`. A file that cannot be read shows
+    /// "Language File: <path> not found" and stores "English"; false then, and the texts
+    /// stay as they are.
+    bool applyMain(const std::string& code, UserInterface& ui,
+                   std::initializer_list<TextSection> sections = {});
+    /// The sections of one window; false, and nothing changes, without a readable file.
+    bool applyWindow(std::initializer_list<TextSection> sections, const std::string& code);
     /// applyWindow with the language in force, when that is not English.
-    void applyWindowInForce(TextSection section);
+    void applyWindowInForce(std::initializer_list<TextSection> sections);
 
     /// The stored `Current`: "English", "rus", "heb".
     std::string current() const;

@@ -84,7 +84,7 @@ SoundConvWindow::SoundConvWindow(QWidget* parent)
     connect(m_convert, &QPushButton::clicked, this, &SoundConvWindow::convertAll);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     updateButtons();
-    showWindowTexts(*this, TextSection::SoundConverter);
+    showWindowTexts(*this, {TextSection::SoundConverter});
 }
 
 void SoundConvWindow::addFiles(const QStringList& files) {

@@ -230,8 +230,7 @@ TEST_F(WindowTexts, TheActionEditorAndTheSmallDialogsShowOnlyCatalogueTexts) {
     LanguageFiles languages(catalogue, settings, m_program.dir().string());
     const LanguageInForce inForce(catalogue, languages);
     // The button list's entries begin with a message, which start-up reads.
-    ASSERT_TRUE(languages.applyMain(kMarkedCode, m_ui));
-    ASSERT_TRUE(languages.applyWindow(TextSection::Messages, kMarkedCode));
+    ASSERT_TRUE(languages.applyMain(kMarkedCode, m_ui, {TextSection::Messages}));
 
     ProjectModel model;
     model.ButtonCount = 1;

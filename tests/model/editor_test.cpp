@@ -118,7 +118,7 @@ TEST_F(EditorFixture, TheLanguageCommandsApplyTheFileAtOnceOrFallBackToEnglish) 
                   texts.at(TextSection::Html, 0) + texts.at(TextSection::About, 0),
               "m104d1h1a1");
     EXPECT_NE(texts.at(TextSection::Advanced, 0), "v1");
-    languages.applyWindowInForce(TextSection::Advanced);
+    languages.applyWindowInForce({TextSection::Advanced});
     EXPECT_EQ(texts.at(TextSection::Advanced, 0), "v1");
     EXPECT_EQ(settings.value(SettingKey::LanguageCurrent) + view.language, "hebheb");
 
