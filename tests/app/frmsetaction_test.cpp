@@ -1,13 +1,8 @@
 #include "fakeui.h"
 #include "frmsetaction.h"
-#include "languagefiles.h"
 #include "programbuffer.h"
 #include "projectmodel.h"
-#include "settings.h"
-#include "tempfolder.h"
 #include "testapplication.h"
-#include "testdoubles.h"
-#include "windowtexts.h"
 
 #include <QAbstractItemModel>
 #include <QComboBox>
@@ -104,36 +99,4 @@ TEST_F(FrmSetActionTest, OkWritesEverySelectedButtonAndCancelNothing) {
     EXPECT_EQ(model.button(3).ProgramDOWN, "2 1;6 500;1 1;");
     EXPECT_EQ(model.button(1).ProgramDOWN, "");
     EXPECT_FALSE(model.Saved);
-}
-
-TEST(FrmSetActionLanguage, OpensWithItsSectionOfTheLanguageInForce) {
-    orvelin::testing::TestApplication();
-    // Line k after the header is "T<k>"; the commands are lines 15 to 21.
-    std::string file = "[frmSetAction]\n";
-    for (int k = 0; k < 22; ++k)
-        file += "T" + std::to_string(k) + "\n";
-    orvelin::testing::TempFolder folder;
-    folder.write("rus_lng", file);
-    orvelin::testing::MemorySettingsBackend store;
-    Settings settings(store);
-    settings.setValue(SettingKey::LanguageCurrent, "rus");
-    TextCatalogue catalogue;
-    LanguageFiles languages(catalogue, settings, folder.dir().string());
-    const LanguageInForce inForce(catalogue, languages);
-
-    ProjectModel model;
-    model.ButtonCount = 1;
-    model.CurrentButton = 1;
-    model.button(1).ProgramUP = "2 1;3 1 5 -999 -999 7;";
-    orvelin::testing::FakeUserInterface ui;
-    ProgramBuffer buffer;
-    FrmSetAction dialog(model, ui, buffer, {true}, nullptr, {"U", "O", "D"});
-    dialog.load(ProgramKind::ProgramUP);
-    EXPECT_EQ(dialog.findChild<QPushButton*>("btnAdd")->text(), "T0");
-    EXPECT_EQ(dialog.findChild<QToolButton*>("btnGetHexColor")->toolTip(), "T14");
-    EXPECT_EQ(dialog.findChild<QComboBox*>("cmbAction")->itemText(6), "T21");
-    auto* list = dialog.findChild<QListWidget*>("lstActions");
-    ASSERT_EQ(list->count(), 2);
-    EXPECT_EQ(list->item(0)->text(), "T16 Button 1");
-    EXPECT_EQ(list->item(1)->text(), "T17 Button 1  ->  x:5 y:   T10   T117");
 }
