@@ -81,6 +81,9 @@ constexpr ControlName kNames[] = {
     {"frmBgOffset", "txtOffsetX", "Offset X"},
     {"frmBgOffset", "txtOffsetY", "Offset Y"},
     {"frmAdvanced", "txtGridSize", "Design grid"},
+    {"frmAbout", "lblWebAddress", "Web site"},
+    {"frmSoundConv", "txtFolder", "Folder for the converted files"},
+    {"frmSoundConv", "txtLog", "Conversion log"},
 };
 
 /// The widget of `item`, or the first one of its layout, when it takes the focus.

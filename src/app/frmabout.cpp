@@ -1,5 +1,6 @@
 #include "frmabout.h"
 
+#include "accessiblenames.h"
 #include "htmlgenerator.h"
 #include "projectmodel.h"
 #include "windowtexts.h"
@@ -86,6 +87,7 @@ FrmAbout::FrmAbout(QWidget* parent) : QDialog(parent) {
                      .arg(QStringLiteral("<a href=\"%1\">%2</a>").arg(address, shown)));
     description->setMinimumWidth(360);
     layout->setSizeConstraint(QLayout::SetFixedSize);
+    nameControls(*this);
 }
 
 } // namespace orvelin

@@ -1,5 +1,6 @@
 #include "soundconvwindow.h"
 
+#include "accessiblenames.h"
 #include "soundconversion.h"
 #include "windowtexts.h"
 
@@ -54,6 +55,7 @@ SoundConvWindow::SoundConvWindow(QWidget* parent)
     auto* files = new QLabel(this);
     files->setObjectName(QStringLiteral("lblFiles"));
     files->setWordWrap(true);
+    files->setBuddy(m_files);
 
     auto* fileButtons = new QVBoxLayout;
     fileButtons->addWidget(add);
@@ -85,6 +87,7 @@ SoundConvWindow::SoundConvWindow(QWidget* parent)
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     updateButtons();
     showWindowTexts(*this, {TextSection::SoundConverter});
+    nameControls(*this);
 }
 
 void SoundConvWindow::addFiles(const QStringList& files) {
