@@ -1,6 +1,7 @@
 // Every text a window shows comes from the catalogue: a language file whose every line
 // is marked with « » is read the way the program reads one, and a walk over each window
-// fails on any text without the mark.
+// fails on any text without the mark, and on any control that takes the focus without
+// a name a screen reader can speak.
 #include "designer.h"
 #include "desktopdialogs.h"
 #include "fakeui.h"
@@ -31,9 +32,11 @@
 #include "windowtexts.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -69,11 +72,13 @@ std::string MarkedLanguageFile() {
     return out;
 }
 
+bool HasLetter(const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
 bool Marked(const QString& text) {
     // A text with no letter ("...", "100%", "|") is not language.
-    const bool hasLetter =
-        std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
-    return !hasLetter || text.contains(QStringLiteral("«"));
+    return !HasLetter(text) || text.contains(QStringLiteral("«"));
 }
 
 /**
@@ -125,6 +130,43 @@ QStringList UnmarkedTexts(QWidget& window, const QStringList& dataCombos = {}) {
     return out;
 }
 
+/// Spoken names come from accessibleName, from a caption label that has the control as
+/// its buddy, or, for a button, from a text with words in it ("...", an icon or a
+/// group box's title around a field do not say what the control is).
+bool Named(QWidget& control, const QList<QLabel*>& labels) {
+    if (!control.accessibleName().trimmed().isEmpty())
+        return true;
+    for (const QLabel* label : labels)
+        if (label->buddy() == &control && HasLetter(label->text()))
+            return true;
+    const auto* button = qobject_cast<QAbstractButton*>(&control);
+    return button != nullptr && HasLetter(button->text());
+}
+
+/// "frmMain/txtX (QLineEdit)" for every control that takes focus but has no name.
+QStringList Unnamed(QWidget& window) {
+    QStringList out;
+    const QList<QLabel*> labels = window.findChildren<QLabel*>();
+    for (QWidget* w : window.findChildren<QWidget*>()) {
+        // Popups are windows of their own; a compound control's inner line edit is
+        // named by the control; a button box hands the focus on to its buttons.
+        if (w->focusPolicy() == Qt::NoFocus || w->window() != &window ||
+            w->focusProxy() != nullptr || qobject_cast<QDialogButtonBox*>(w) != nullptr)
+            continue;
+        QWidget* control = w;
+        QWidget* owner = w->parentWidget();
+        if ((qobject_cast<QAbstractSpinBox*>(owner) != nullptr ||
+             qobject_cast<QComboBox*>(owner) != nullptr) &&
+            owner->focusProxy() == w)
+            control = owner;
+        if (!Named(*control, labels))
+            out << window.objectName() + QLatin1Char('/') + control->objectName() +
+                       QStringLiteral(" (") +
+                       QString::fromLatin1(control->metaObject()->className()) + QLatin1Char(')');
+    }
+    return out;
+}
+
 /**
  * A program folder whose "mrk_lng" is the marked file, with `Current` set to it: the
  * designer made afterwards reads it at start-up, and each window its section as it is
@@ -153,6 +195,8 @@ protected:
                                        << missing.join(QStringLiteral(", ")).toStdString();
         const QStringList unmarked = UnmarkedTexts(window, dataCombos);
         EXPECT_TRUE(unmarked.isEmpty()) << unmarked.join(QLatin1Char('\n')).toStdString();
+        const QStringList unnamed = Unnamed(window);
+        EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join(QLatin1Char('\n')).toStdString();
     }
 
     TempFolder m_config;
@@ -175,6 +219,15 @@ TEST_F(WindowTexts, TheMainEditorShowsOnlyCatalogueTexts) {
     EXPECT_TRUE(undo.startsWith(QStringLiteral("«")) && undo.count(QStringLiteral("«")) == 2)
         << undo.toStdString();
     ExpectAllFromCatalogue(main);
+
+    // The main editor tabs from the button list to the states, then to the properties.
+    QStringList chain;
+    QWidget* w = main.findChild<QWidget*>(QStringLiteral("lstButtons"));
+    for (int i = 0; i < 500 && chain.size() < 9 && w != nullptr; ++i, w = w->nextInFocusChain())
+        if (w->focusPolicy() & Qt::TabFocus && !w->objectName().isEmpty())
+            chain << w->objectName();
+    EXPECT_EQ(chain.join(QLatin1Char(' ')).toStdString(),
+              "lstButtons btnAdd btnDuplicate btnRemove btnBuild btnUP btnOVER btnDOWN txtX");
 }
 
 TEST_F(WindowTexts, TheProgressWindowShowsOnlyCatalogueTexts) {
@@ -200,6 +253,7 @@ TEST_F(WindowTexts, TheDesignHtmlAboutAndSettingsWindowsShowOnlyCatalogueTexts) 
         return designer.mainWindow().findChild<QAction*>(name) != nullptr;
     });
     EXPECT_TRUE(unmarked.isEmpty()) << unmarked.join(QLatin1Char('\n')).toStdString();
+    EXPECT_TRUE(Unnamed(design).isEmpty()) << Unnamed(design).join(QLatin1Char('\n')).toStdString();
     // The HTML window as View HTML opens it; its browsers beyond the first are the user's.
     design.findChild<QAbstractButton*>(QStringLiteral("btnViewHtml"))->click();
     QWidget* html = nullptr;
